@@ -1,0 +1,29 @@
+#include "platform/sdk/AppLock.h"
+
+namespace orrery {
+namespace sdk {
+
+namespace {
+int g_depth = 0;
+}
+
+AppLock::AppLock(ImplicitMacroRecording recording) : m_recording(recording) { ++g_depth; }
+
+AppLock::~AppLock()
+{
+    if (--g_depth == 0)
+        becameIdleSignal()();
+}
+
+bool AppLock::isBusy() { return g_depth > 0; }
+
+int AppLock::depth() { return g_depth; }
+
+boost::signals2::signal<void ()>& AppLock::becameIdleSignal()
+{
+    static boost::signals2::signal<void ()> signal;
+    return signal;
+}
+
+} // namespace sdk
+} // namespace orrery

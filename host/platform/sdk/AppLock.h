@@ -1,0 +1,35 @@
+#pragma once
+#include <boost/signals2/signal.hpp>
+
+namespace orrery {
+namespace sdk {
+
+// Marks the host busy while held (locks nest). Idle work waits until the last
+// lock is released.
+class AppLock
+{
+public:
+    enum ImplicitMacroRecording
+    {
+        ImplicitMacroRecording_Allow = 0,
+        ImplicitMacroRecording_Suppress = 1
+    };
+
+    explicit AppLock(ImplicitMacroRecording recording = ImplicitMacroRecording_Allow);
+    AppLock(const AppLock&) = delete;
+    AppLock& operator=(const AppLock&) = delete;
+    ~AppLock();
+
+    ImplicitMacroRecording recording() const { return m_recording; }
+
+    static bool isBusy();
+    static int depth();
+    // Fired when the last lock is released and the host becomes idle.
+    static boost::signals2::signal<void ()>& becameIdleSignal();
+
+private:
+    ImplicitMacroRecording m_recording;
+};
+
+} // namespace sdk
+} // namespace orrery

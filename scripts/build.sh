@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Configures and builds. Usage: scripts/build.sh [5|6]   (Qt major version, default 6)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+major="${1:-6}"
+bash scripts/install-deps.sh "$major"
+dir="build/qt$major"
+cmake -S . -B "$dir" -DORRERY_QT_MAJOR="$major" -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build "$dir" -j "${ORRERY_JOBS:-2}"

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Installs the Debian packages the build needs, only those that are missing.
+# Usage: scripts/install-deps.sh [5|6]...   (Qt major versions wanted; default 6)
+set -euo pipefail
+majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
+pkgs=(cmake g++ make libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev)
+for m in "${majors[@]}"; do
+  case "$m" in
+    6) pkgs+=(qt6-base-dev qt6-base-dev-tools) ;;
+    5) pkgs+=(qtbase5-dev qtbase5-dev-tools) ;;
+    *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
+  esac
+done
+missing=()
+for p in "${pkgs[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+sudo=""; [ "$(id -u)" -eq 0 ] || sudo="sudo"
+echo "installing: ${missing[*]}"
+$sudo apt-get update -qq
+DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"

@@ -1,0 +1,14 @@
+#pragma once
+#include "property/ValidatorInterface.h"
+
+namespace orrery {
+
+// The default validator: every value is valid.
+template <typename T>
+class AllowAnyValueValidator : public virtual ValidatorInterface<T>
+{
+public:
+    ValidationResult validate(const T&) const override { return ValidationResult(); }
+};
+
+} // namespace orrery

@@ -1,0 +1,15 @@
+#pragma once
+#include "platform/common/ExceptionBase.h"
+
+namespace orrery {
+
+// A value refused by a property's validator or by the kernel; the message is
+// the refusal text exactly as given.
+class InvalidPropertyValueException : public virtual ExceptionBase
+{
+public:
+    explicit InvalidPropertyValueException(const std::string& message);
+    ~InvalidPropertyValueException() override;
+};
+
+} // namespace orrery

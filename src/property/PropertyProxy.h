@@ -1,0 +1,51 @@
+#pragma once
+#include "property/PropertyAbstract.h"
+
+namespace orrery {
+
+// A property that forwards to another one, which can be exchanged at run time.
+// Values set through the proxy pass its own validator first, then the target's.
+template <typename T>
+class PropertyProxy : public PropertyAbstract<T>
+{
+public:
+    explicit PropertyProxy(const boost::shared_ptr<PropertyAbstract<T>>& target,
+                           const boost::shared_ptr<const ValidatorInterface<T>>& validator =
+                               boost::make_shared<AllowAnyValueValidator<T>>())
+    {
+        this->setValidator(validator);
+        reset(target);
+    }
+
+    void storeValue(const T& value) override { m_target->setValue(value); }
+    T retrieveValue() const override { return m_target->retrieveValue(); }
+
+    // Exchanges the target without any notification.
+    void reset(const boost::shared_ptr<PropertyAbstract<T>>& target)
+    {
+        m_target = target;
+        m_forward.disconnect();
+        // Chaining signal to signal: the slot expires with the proxy's signal.
+        m_forward = target->connectToValueChangedSignal(
+            typename PropertyAbstract<T>::ValueChangedSignal::slot_type(this->m_valueChanged));
+    }
+
+    // Exchanges the target and announces the value when it differs from the old one.
+    void setProperty(const boost::shared_ptr<PropertyAbstract<T>>& target)
+    {
+        if (target == m_target)
+            return;
+        const T before = m_target->retrieveValue();
+        reset(target);
+        if (!ValueEquality<T>::equal(before, m_target->retrieveValue()))
+            this->emitValueChangedSignal(m_target->retrieveValue());
+    }
+
+    const boost::shared_ptr<PropertyAbstract<T>>& target() const { return m_target; }
+
+private:
+    boost::shared_ptr<PropertyAbstract<T>> m_target;
+    boost::signals2::scoped_connection m_forward;
+};
+
+} // namespace orrery

@@ -1,0 +1,30 @@
+#pragma once
+#include <set>
+#include "propertymanager/PropertyDependentRelevanceAbstract.h"
+
+namespace orrery {
+namespace sdk {
+namespace ui {
+namespace propertymanager {
+
+// Relevant while the property holds one given value.
+template <typename T>
+class PropertyDependentRelevance : public PropertyDependentRelevanceAbstract<T>
+{
+public:
+    PropertyDependentRelevance(const boost::shared_ptr<PropertyAbstract<T>>& property, T relevantValue)
+        : PropertyDependentRelevanceAbstract<T>(property)
+    {
+        m_relevantValues.insert(relevantValue);
+    }
+
+    bool isRelevantValue(const T& value) const override { return m_relevantValues.count(value) != 0; }
+
+private:
+    std::set<T> m_relevantValues;
+};
+
+} // namespace propertymanager
+} // namespace ui
+} // namespace sdk
+} // namespace orrery

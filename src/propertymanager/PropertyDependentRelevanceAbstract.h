@@ -1,0 +1,34 @@
+#pragma once
+#include <boost/shared_ptr.hpp>
+#include "property/PropertyAbstract.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace sdk {
+namespace ui {
+namespace propertymanager {
+
+// Relevance decided by the value of one property; every real change of the
+// property is announced, whether or not the answer changed.
+template <typename T>
+class PropertyDependentRelevanceAbstract : public virtual RelevanceInterface
+{
+public:
+    explicit PropertyDependentRelevanceAbstract(const boost::shared_ptr<const PropertyAbstract<T>>& property)
+        : m_property(property)
+    {
+        m_connection = m_property->connectToValueChangedSignal([this](const T&) { emitRelevanceChanged(); });
+    }
+
+    bool isRelevant() const override { return isRelevantValue(m_property->retrieveValue()); }
+    virtual bool isRelevantValue(const T& value) const = 0;
+
+private:
+    boost::shared_ptr<const PropertyAbstract<T>> m_property;
+    boost::signals2::scoped_connection m_connection;
+};
+
+} // namespace propertymanager
+} // namespace ui
+} // namespace sdk
+} // namespace orrery

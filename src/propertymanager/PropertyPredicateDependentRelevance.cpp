@@ -1,0 +1,22 @@
+#include "propertymanager/PropertyPredicateDependentRelevance.h"
+
+namespace orrery {
+namespace sdk {
+namespace ui {
+namespace propertymanager {
+
+PropertyPredicateDependentRelevance::PropertyPredicateDependentRelevance(
+    const boost::shared_ptr<const PropertyItemInterface>& property, const boost::function<bool ()>& predicate)
+    : m_predicate(predicate)
+{
+    m_connections.add(property->connectToPropertyChangedSignal([this] { emitRelevanceChanged(); }));
+}
+
+PropertyPredicateDependentRelevance::~PropertyPredicateDependentRelevance() = default;
+
+bool PropertyPredicateDependentRelevance::isRelevant() const { return m_predicate(); }
+
+} // namespace propertymanager
+} // namespace ui
+} // namespace sdk
+} // namespace orrery

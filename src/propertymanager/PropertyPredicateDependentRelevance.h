@@ -1,0 +1,31 @@
+#pragma once
+#include <boost/function.hpp>
+#include <boost/shared_ptr.hpp>
+#include "platform/common/PropertyItemInterface.h"
+#include "platform/common/SignalConnectionCollection.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace sdk {
+namespace ui {
+namespace propertymanager {
+
+// Relevance given by a predicate, asked again whenever a property changes.
+class PropertyPredicateDependentRelevance : public virtual RelevanceInterface
+{
+public:
+    PropertyPredicateDependentRelevance(const boost::shared_ptr<const PropertyItemInterface>& property,
+                                        const boost::function<bool ()>& predicate);
+    ~PropertyPredicateDependentRelevance() override;
+
+    bool isRelevant() const override;
+
+private:
+    boost::function<bool ()> m_predicate;
+    SignalConnectionCollection m_connections;
+};
+
+} // namespace propertymanager
+} // namespace ui
+} // namespace sdk
+} // namespace orrery
