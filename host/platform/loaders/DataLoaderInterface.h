@@ -1,0 +1,28 @@
+#pragma once
+#include <string>
+#include <vector>
+
+namespace orrery {
+namespace sdk {
+
+// A reader of one file format into the kernel's data set.
+class DataLoaderInterface
+{
+public:
+    struct Properties
+    {
+        std::string name;        // unique; what users and settings know the loader by
+        std::string description;
+        std::vector<std::string> extensions; // lower case, without the dot
+        bool hidden = false;     // not offered to users, only used by name
+    };
+
+    virtual ~DataLoaderInterface() = default;
+    virtual Properties properties() const = 0;
+    // Replaces the data set with the file's contents. On failure returns false,
+    // sets error and leaves the data set as it was.
+    virtual bool load(const std::string& path, std::string& error) = 0;
+};
+
+} // namespace sdk
+} // namespace orrery

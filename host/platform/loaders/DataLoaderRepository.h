@@ -1,0 +1,35 @@
+#pragma once
+#include <string>
+#include <vector>
+#include <boost/shared_ptr.hpp>
+#include "platform/loaders/DataLoaderInterface.h"
+
+namespace orrery {
+namespace sdk {
+
+// Every data loader installed in the host, in registration order. Starts with
+// the built-in loaders (comma-separated table, whitespace table, zone blocks).
+class DataLoaderRepository
+{
+public:
+    typedef boost::shared_ptr<DataLoaderInterface> LoaderPtr;
+
+    static DataLoaderRepository& getInstance();
+
+    std::vector<LoaderPtr> dataLoaderInterfaces(bool includeHidden) const;
+    // A loader whose name is already taken replaces the earlier one.
+    void registerLoader(const LoaderPtr& loader);
+    // Visible loaders reading files with that extension (any case, with or
+    // without the leading dot).
+    std::vector<LoaderPtr> loadersForExtension(const std::string& extension) const;
+    // Null for an unknown name.
+    LoaderPtr loaderNamed(const std::string& name) const;
+
+private:
+    DataLoaderRepository();
+
+    std::vector<LoaderPtr> m_loaders;
+};
+
+} // namespace sdk
+} // namespace orrery

@@ -1,0 +1,38 @@
+#pragma once
+#include "platform/kernel/OrrTypes.h"
+#include "platform/toolbox/Set.h"
+
+namespace orrery {
+namespace toolbox {
+class StyleValue;
+}
+namespace sdk {
+
+// Data-set helpers over the current data set. Frames are named by the number of
+// OrrUtilFrameGetUniqueID(); an unknown frame has no zones and no variables.
+toolbox::Set getEnabledZonesForFrame(long frameUniqueID);
+toolbox::Set getEnabledVarsForFrame(long frameUniqueID);
+
+// Vector components for a field plot: the enabled variables after the axis
+// variables, in order (u, v and, for 3D, w; w is 0 for 2D). False, with all
+// three 0, when there are not enough such variables or the plot type is not a
+// field plot.
+bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w);
+// Red, green and blue channel variables: the first three enabled variables that
+// are not axis variables, falling back to any enabled variables. Unfound
+// channels are 0; true only when all three were found.
+bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b);
+// True when the frame shows a field plot of that type and the vector variables
+// already in its style are distinct enabled variables.
+bool okToTurnOnVectorLayer(PlotType_e plotType);
+// True when the three channel variables are enabled variables of the data set.
+bool checkRGBChannelVars(int red, int green, int blue);
+// The same check on the channel variables held under the given style group
+// (normally "GlobalRGB").
+bool checkRGBChannelVars(const toolbox::StyleValue& rgbGroup);
+// Gives the scatter size a variable when it has none or an invalid one: the
+// first enabled variable that is not an axis variable (else the first enabled).
+void autoAssignScatterVariable();
+
+} // namespace sdk
+} // namespace orrery

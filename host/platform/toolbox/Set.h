@@ -1,0 +1,39 @@
+#pragma once
+#include <cstddef>
+#include <initializer_list>
+#include <set>
+
+namespace orrery {
+namespace toolbox {
+
+// A set of 1-based indices (zones, variables, collection members), iterated in
+// ascending order.
+class Set
+{
+public:
+    typedef std::set<int>::const_iterator const_iterator;
+
+    Set() = default;
+    Set(std::initializer_list<int> members);
+
+    // Throws std::out_of_range for an index below 1.
+    void add(int member);
+    void remove(int member);
+    void clear() { m_members.clear(); }
+
+    bool contains(int member) const { return m_members.count(member) != 0; }
+    size_t size() const { return m_members.size(); }
+    bool isEmpty() const { return m_members.empty(); }
+
+    const_iterator begin() const { return m_members.begin(); }
+    const_iterator end() const { return m_members.end(); }
+
+    bool operator==(const Set& other) const { return m_members == other.m_members; }
+    bool operator!=(const Set& other) const { return !(*this == other); }
+
+private:
+    std::set<int> m_members;
+};
+
+} // namespace toolbox
+} // namespace orrery
