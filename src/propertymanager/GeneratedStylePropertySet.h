@@ -1,0 +1,80 @@
+#pragma once
+#include <vector>
+#include <boost/make_shared.hpp>
+#include <boost/shared_ptr.hpp>
+
+#include "framework/UIKernelStylePropertiesAbstract.h"
+#include "platform/toolbox/StringList.h"
+#include "platform/toolbox/StyleValue.h"
+#include "propertymanager/KernelPropertyDeferred.h"
+
+namespace orrery {
+namespace sdk {
+namespace ui {
+namespace propertymanager {
+
+// One style value of a generated set: the kernel property (kept for offsets and
+// submission) and the property the accessor hands out, which a manager may
+// replace by one of its own placed in front of the kernel property.
+template <typename T>
+struct GeneratedStyleEntry
+{
+    boost::shared_ptr<styleproperties::KernelPropertyAbstract<T>> kernel;
+    boost::shared_ptr<PropertyAbstract<T>> property;
+};
+
+// Common part of the generated style property sets: a modal set collects edits
+// and writes them on submission, a non-modal one writes every edit at once.
+class GeneratedStylePropertySet : public virtual UIKernelStylePropertiesAbstract
+{
+public:
+    const toolbox::StringList& prefix() const { return m_prefix; }
+
+    void submitProperties() override
+    {
+        for (const auto& handle : m_handles)
+            handle->apply();
+    }
+
+    void setOffset(int first, int second) override
+    {
+        for (const auto& handle : m_handles)
+            handle->setOffsets(first, second);
+    }
+
+protected:
+    explicit GeneratedStylePropertySet(const toolbox::StringList& prefix) : m_prefix(prefix) {}
+
+    template <typename T>
+    GeneratedStyleEntry<T> makeEntry(const char* group, const char* name)
+    {
+        toolbox::StringList path(m_prefix);
+        path.append(toolbox::StringList{group, name});
+        const toolbox::StyleValue styleValue(path);
+        boost::shared_ptr<styleproperties::KernelPropertyAbstract<T>> kernel;
+        if (isModal())
+            kernel = boost::make_shared<styleproperties::KernelPropertyDeferred<T>>(styleValue);
+        else
+            kernel = boost::make_shared<styleproperties::KernelProperty<T>>(styleValue);
+        m_handles.push_back(kernel);
+        return GeneratedStyleEntry<T>{kernel, kernel};
+    }
+
+private:
+    toolbox::StringList m_prefix;
+    std::vector<boost::shared_ptr<styleproperties::KernelPropertyHandle>> m_handles;
+};
+
+} // namespace propertymanager
+} // namespace ui
+} // namespace sdk
+} // namespace orrery
+
+// Declares the accessor, the setter and the entry of one generated style value.
+#define ORRERY_GENERATED_STYLE_ENTRY(T, accessor, setter)                                        \
+public:                                                                                          \
+    boost::shared_ptr<PropertyAbstract<T>> accessor() const { return m_##accessor.property; }    \
+    void setter(const boost::shared_ptr<PropertyAbstract<T>>& property) { m_##accessor.property = property; } \
+                                                                                                 \
+private:                                                                                         \
+    GeneratedStyleEntry<T> m_##accessor;

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace orrery {
+namespace sdk {
+namespace styleproperties {
+
+// What a style property set does to all its kernel properties at once,
+// whatever their value types: move to another collection member, submit.
+class KernelPropertyHandle
+{
+public:
+    virtual void setOffsets(long first, long second) = 0;
+    // Writes pending edits to the kernel; immediate properties have none.
+    virtual void apply() {}
+    virtual ~KernelPropertyHandle() = default;
+};
+
+} // namespace styleproperties
+} // namespace sdk
+} // namespace orrery

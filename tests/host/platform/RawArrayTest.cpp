@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+#include "platform/toolbox/RawArray.h"
+
+using orrery::RawArray;
+
+TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32)
+{
+    RawArray<long> a;
+    a.push_back(1);
+    EXPECT_EQ(32u, a.capacity());
+    for (long i = 1; i < 64; ++i)
+        a.push_back(i);
+    EXPECT_EQ(64u, a.capacity());
+    a.push_back(64);
+    EXPECT_EQ(96u, a.capacity());
+
+    RawArray<long> b;
+    b.enlargeCapacity(100);
+    for (long i = 0; i < 100; ++i)
+        b.push_back(i);
+    EXPECT_EQ(100u, b.capacity());
+    b.push_back(100);
+    EXPECT_EQ(150u, b.capacity());
+    for (long i = 0; i <= 100; ++i)
+        ASSERT_EQ(i, b[i]);
+}
+
+TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullAndTheSlotFollowsReallocation)
+{
+    long storage[3];
+    long* slot = nullptr;
+    RawArray<long> a(&slot, storage, 3);
+    EXPECT_EQ(storage, slot);
+    a.push_back(7);
+    a.push_back(8);
+    a.push_back(9);
+    EXPECT_EQ(storage, a.data());
+    a.push_back(10);
+    EXPECT_NE(storage, a.data());
+    EXPECT_EQ(a.data(), slot);
+    EXPECT_EQ(4u, a.size());
+    EXPECT_EQ(7, a[0]);
+    EXPECT_EQ(10, a[3]);
+}
+
+TEST(RawArrayGrowth, AppendEnlargesToExactlyTheSum)
+{
+    RawArray<long> a;
+    a.push_back(1);
+    RawArray<long> b;
+    for (long i = 0; i < 40; ++i)
+        b.push_back(i);
+    a.append(b);
+    EXPECT_EQ(41u, a.size());
+    EXPECT_EQ(41u, a.capacity());
+    EXPECT_EQ(1, a[0]);
+    EXPECT_EQ(39, a[40]);
+}

@@ -1,0 +1,221 @@
+#include <cmath>
+#include <limits>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <boost/make_shared.hpp>
+
+#include "property/Property.h"
+#include "property/PropertyProxy.h"
+
+using namespace orrery;
+
+namespace {
+
+// Refuses negative values and counts how often it was asked.
+class NonNegativeValidator : public ValidatorInterface<long>
+{
+public:
+    ValidationResult validate(const long& v) const override
+    {
+        ++calls;
+        ValidationResult r;
+        if (v < 0)
+            r.setErrorString("Value must not be negative.");
+        return r;
+    }
+    mutable int calls = 0;
+};
+
+template <typename T>
+struct Recorder
+{
+    explicit Recorder(const PropertyAbstract<T>& p)
+    {
+        typed = p.connectToValueChangedSignal([this](const T& v) { values.push_back(v); });
+        untyped = p.connectToPropertyChangedSignal([this] { ++untypedCount; });
+    }
+    std::vector<T> values;
+    int untypedCount = 0;
+    boost::signals2::scoped_connection typed, untyped;
+};
+
+// A property whose store adjusts the value, as a kernel would.
+class ClampingProperty : public PropertyAbstract<long>
+{
+public:
+    void storeValue(const long& v) override { m_value = v > 100 ? 100 : v; }
+    long retrieveValue() const override { return m_value; }
+
+private:
+    long m_value = 0;
+};
+
+} // namespace
+
+TEST(PropertySetValue, ChangedValueIsStoredAndAnnouncedOnBothSignals)
+{
+    auto p = boost::make_shared<Property<long>>(5L);
+    Recorder<long> rec(*p);
+    p->setValue(7);
+    EXPECT_EQ(7, p->getValue());
+    EXPECT_EQ(std::vector<long>{7}, rec.values);
+    EXPECT_EQ(1, rec.untypedCount);
+}
+
+TEST(PropertySetValue, EqualValueIsNeitherStoredNorAnnounced)
+{
+    auto p = boost::make_shared<Property<long>>(5L);
+    Recorder<long> rec(*p);
+    p->setValue(5);
+    EXPECT_TRUE(rec.values.empty());
+    EXPECT_EQ(0, rec.untypedCount);
+}
+
+TEST(PropertySetValue, RefusedValueThrowsValidatorTextAndKeepsOldValue)
+{
+    auto validator = boost::make_shared<NonNegativeValidator>();
+    struct Guarded : Property<long>
+    {
+        explicit Guarded(const boost::shared_ptr<const ValidatorInterface<long>>& v) : Property<long>(3L) { setValidator(v); }
+    } p(validator);
+    Recorder<long> rec(p);
+    try {
+        p.setValue(-1);
+        FAIL() << "no exception";
+    } catch (const InvalidPropertyValueException& e) {
+        EXPECT_STREQ("Value must not be negative.", e.what());
+    }
+    EXPECT_EQ(3, p.getValue());
+    EXPECT_TRUE(rec.values.empty());
+    EXPECT_EQ(0, rec.untypedCount);
+
+    // The validator runs even when the value is the one already held.
+    const int before = validator->calls;
+    p.setValue(3);
+    EXPECT_EQ(before + 1, validator->calls);
+}
+
+TEST(PropertySetValue, AnnouncesTheValueReadBackNotTheArgument)
+{
+    ClampingProperty p;
+    Recorder<long> rec(p);
+    p.setValue(250);
+    EXPECT_EQ(std::vector<long>{100}, rec.values);
+    // 250 again is not equal to the 100 held, so it is stored and announced again.
+    p.setValue(250);
+    EXPECT_EQ(2u, rec.values.size());
+}
+
+TEST(PropertyEquality, NaNIsNeverEqualSoItAlwaysAnnounces)
+{
+    struct DoubleProperty : PropertyAbstract<double>
+    {
+        void storeValue(const double& v) override { value = v; }
+        double retrieveValue() const override { return value; }
+        double value = 0.0;
+    } p;
+    Recorder<double> rec(p);
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    p.setValue(nan);
+    p.setValue(nan);
+    EXPECT_EQ(2u, rec.values.size());
+    p.setValue(1.5);
+    p.setValue(1.5);
+    EXPECT_EQ(3u, rec.values.size());
+}
+
+TEST(PropertyEquality, VectorOrderMattersAndSetsCompareByElements)
+{
+    Property<std::vector<int>> v(std::vector<int>{1, 2, 3});
+    Recorder<std::vector<int>> vrec(v);
+    v.setValue({1, 2, 3});
+    EXPECT_TRUE(vrec.values.empty());
+    v.setValue({3, 2, 1});
+    v.setValue({});
+    v.setValue({});
+    EXPECT_EQ(2u, vrec.values.size());
+
+    Property<std::set<int>> s(std::set<int>{1, 2});
+    Recorder<std::set<int>> srec(s);
+    s.setValue({2, 1});
+    EXPECT_TRUE(srec.values.empty());
+    s.setValue({1, 2, 3});
+    EXPECT_EQ(1u, srec.values.size());
+}
+
+TEST(PropertyUntypedSignal, CalledOnlyAfterRealChangesEvenWithoutTypedListeners)
+{
+    Property<std::string> p("a");
+    int calls = 0;
+    boost::signals2::scoped_connection c = p.connectToPropertyChangedSignal([&] { ++calls; });
+    p.setValue("a");
+    EXPECT_EQ(0, calls);
+    p.setValue("b");
+    EXPECT_EQ(1, calls);
+    c.disconnect();
+    p.setValue("c");
+    EXPECT_EQ(1, calls);
+}
+
+TEST(PropertyProxy, ForwardsValuesAndValidatesWithBothValidators)
+{
+    auto target = boost::make_shared<Property<std::string>>("t");
+    struct RefuseEmpty : ValidatorInterface<std::string>
+    {
+        ValidationResult validate(const std::string& v) const override
+        {
+            ValidationResult r;
+            if (v.empty())
+                r.setErrorString("empty");
+            return r;
+        }
+    };
+    PropertyProxy<std::string> proxy(target, boost::make_shared<RefuseEmpty>());
+    Recorder<std::string> rec(proxy);
+    proxy.setValue("u");
+    EXPECT_EQ("u", target->getValue());
+    EXPECT_EQ(std::vector<std::string>{"u"}, rec.values);
+    EXPECT_THROW(proxy.setValue(""), InvalidPropertyValueException);
+    EXPECT_EQ("u", target->getValue());
+
+    // A change made on the target directly reaches the proxy's listeners.
+    target->setValue("w");
+    EXPECT_EQ("w", proxy.getValue());
+    EXPECT_EQ(2u, rec.values.size());
+}
+
+TEST(PropertyProxy, RetargetingAnnouncesOnlyAVisibleChange)
+{
+    auto a = boost::make_shared<Property<bool>>(true);
+    auto b = boost::make_shared<Property<bool>>(true);
+    auto c = boost::make_shared<Property<bool>>(false);
+    PropertyProxy<bool> proxy(a);
+    Recorder<bool> rec(proxy);
+
+    proxy.setProperty(b);
+    EXPECT_TRUE(rec.values.empty());
+    proxy.setProperty(c);
+    EXPECT_EQ(std::vector<bool>{false}, rec.values);
+    proxy.reset(a);
+    EXPECT_EQ(1u, rec.values.size());
+
+    // After retargeting, the old target no longer reaches the proxy.
+    c->setValue(true);
+    EXPECT_EQ(1u, rec.values.size());
+    a->setValue(false);
+    EXPECT_EQ(2u, rec.values.size());
+}
+
+TEST(PropertyProxy, DestroyedProxyLeavesTargetUsable)
+{
+    auto target = boost::make_shared<Property<bool>>(false);
+    {
+        PropertyProxy<bool> proxy(target);
+        Recorder<bool> rec(proxy);
+    }
+    EXPECT_NO_THROW(target->setValue(true));
+    EXPECT_TRUE(target->getValue());
+}
