@@ -1,4 +1,5 @@
 #pragma once
+#include <boost/signals2/shared_connection_block.hpp>
 #include "property/PropertyAbstract.h"
 
 namespace orrery {
@@ -17,7 +18,13 @@ public:
         reset(target);
     }
 
-    void storeValue(const T& value) override { m_target->setValue(value); }
+    // The target announces its change through the forward as well; it is held
+    // back here because setValue announces the value read back once afterwards.
+    void storeValue(const T& value) override
+    {
+        boost::signals2::shared_connection_block quiet(m_forward);
+        m_target->setValue(value);
+    }
     T retrieveValue() const override { return m_target->retrieveValue(); }
 
     // Exchanges the target without any notification.

@@ -43,7 +43,12 @@ public:
     }
 
 protected:
-    explicit GeneratedStylePropertySet(const toolbox::StringList& prefix) : m_prefix(prefix) {}
+    // The virtual base is built by the concrete set with its modality or parent;
+    // the base initializer named here is never used.
+    explicit GeneratedStylePropertySet(const toolbox::StringList& prefix)
+        : UIKernelStylePropertiesAbstract(true), m_prefix(prefix)
+    {
+    }
 
     template <typename T>
     GeneratedStyleEntry<T> makeEntry(const char* group, const char* name)
