@@ -25,7 +25,8 @@ public:
                         const char* n4 = nullptr, const char* n5 = nullptr,
                         const char* n6 = nullptr, const char* n7 = nullptr);
     StyleValue(const StyleValue& other);
-    StyleValue& operator=(const StyleValue& other);
+    // Not assignable: the identifier array cannot be rebuilt in place.
+    StyleValue& operator=(const StyleValue&) = delete;
     virtual ~StyleValue() = default;
 
     const StringList& names() const { return m_names; }

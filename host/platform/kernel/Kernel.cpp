@@ -1,0 +1,216 @@
+#include "platform/kernel/Kernel.h"
+#include <algorithm>
+#include "platform/sdk/StateChangeEvent.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+
+namespace orrery {
+namespace kernel {
+
+namespace {
+const char* const PlotTypeKey = "FrameLayout/PlotType";
+}
+
+Kernel& Kernel::instance()
+{
+    static Kernel kernel;
+    return kernel;
+}
+
+// Built quietly: announcing here would call back into a kernel not yet made.
+Kernel::Kernel() : m_style(*this)
+{
+    m_pageCount = 1;
+    addFrame();
+}
+
+void Kernel::reset()
+{
+    m_undo.clear();
+    m_style.reset();
+    m_lastError.reset();
+    m_messageBoxes.setHandler({});
+    m_dataSet = DataSet();
+    m_frames.clear();
+    m_pageCount = 1;
+    addFrame();
+    announce(StateChange_NewLayout);
+}
+
+void Kernel::setDataSet(const DataSet& dataSet)
+{
+    m_dataSet = dataSet;
+    for (Frame& frame : m_frames) {
+        useWholeDataSet(frame);
+        frame.style().dropMembersAfter(m_dataSet.numZones());
+        clearLostVariables(frame);
+    }
+    announce(StateChange_DataSetReset);
+}
+
+void Kernel::setPageCount(int pages)
+{
+    pages = std::max(pages, 0);
+    if (pages == m_pageCount)
+        return;
+    m_pageCount = pages;
+    if (pages == 0 && !m_frames.empty()) {
+        m_frames.clear();
+        announce(StateChange_FrameDeleted);
+    }
+    announce(StateChange_PageCountChanged);
+}
+
+void Kernel::setFrameCount(int frames)
+{
+    const size_t wanted = static_cast<size_t>(std::max(frames, 0));
+    if (wanted == m_frames.size())
+        return;
+    if (wanted > 0 && m_pageCount == 0)
+        setPageCount(1);
+    if (wanted < m_frames.size()) {
+        const bool currentLost = m_current >= wanted;
+        m_frames.erase(m_frames.begin() + static_cast<long>(wanted), m_frames.end());
+        if (currentLost)
+            m_current = wanted > 0 ? wanted - 1 : 0;
+        announce(StateChange_FrameDeleted);
+        if (currentLost && wanted > 0)
+            announce(StateChange_NewTopFrame);
+        return;
+    }
+    while (m_frames.size() < wanted)
+        addFrame();
+    announce(StateChange_FrameAdded);
+    announce(StateChange_NewTopFrame);
+}
+
+Frame* Kernel::currentFrame()
+{
+    return m_frames.empty() ? nullptr : &m_frames[m_current];
+}
+
+const Frame* Kernel::currentFrame() const
+{
+    return m_frames.empty() ? nullptr : &m_frames[m_current];
+}
+
+Frame* Kernel::frameAt(int position)
+{
+    if (position < 1 || position > frameCount())
+        return nullptr;
+    return &m_frames[static_cast<size_t>(position - 1)];
+}
+
+Frame* Kernel::frameByID(long uniqueID)
+{
+    const auto it = std::find_if(m_frames.begin(), m_frames.end(),
+                                 [uniqueID](const Frame& f) { return f.uniqueID() == uniqueID; });
+    return it == m_frames.end() ? nullptr : &*it;
+}
+
+void Kernel::setEnabledZones(const toolbox::Set& zones)
+{
+    Frame* frame = currentFrame();
+    if (!frame)
+        return;
+    toolbox::Set kept;
+    for (int zone : zones)
+        if (m_dataSet.hasZone(zone))
+            kept.add(zone);
+    if (kept == frame->enabledZones)
+        return;
+    frame->enabledZones = kept;
+    announce(StateChange_EnabledZonesChanged);
+}
+
+void Kernel::setEnabledVars(const toolbox::Set& vars)
+{
+    Frame* frame = currentFrame();
+    if (!frame)
+        return;
+    toolbox::Set kept;
+    for (int var : vars)
+        if (m_dataSet.hasVar(var))
+            kept.add(var);
+    if (kept == frame->enabledVars)
+        return;
+    frame->enabledVars = kept;
+    announce(StateChange_EnabledVarsChanged);
+}
+
+StyleDatum Kernel::currentStyle(const std::string& key, long member) const
+{
+    if (const Frame* frame = currentFrame())
+        return m_schema.valueIn(frame->style(), key, member);
+    return m_schema.valueIn(StyleState(), key, member);
+}
+
+PlotType_e Kernel::plotType() const
+{
+    if (!currentFrame())
+        return PlotType_Sketch;
+    return static_cast<PlotType_e>(std::get<long>(currentStyle(PlotTypeKey)));
+}
+
+void Kernel::axisGridRange(double& xMin, double& yMin, double& xMax, double& yMax) const
+{
+    const std::string axes = plotType() == PlotType_ThreeD ? "ThreeDAxis/" : "TwoDAxis/";
+    axisRange(axes + "XDetail/VarNum", xMin, xMax);
+    axisRange(axes + "YDetail/VarNum", yMin, yMax);
+}
+
+void Kernel::axisRange(const std::string& axisKey, double& min, double& max) const
+{
+    const Frame* frame = currentFrame();
+    const int var = static_cast<int>(std::get<long>(currentStyle(axisKey)));
+    if (!frame || !frame->enabledVars.contains(var) || !m_dataSet.range(var, frame->enabledZones, min, max)) {
+        min = 0.0;
+        max = 1.0;
+    } else if (min == max) {
+        min -= 0.5;
+        max += 0.5;
+    }
+}
+
+bool Kernel::undo()
+{
+    const UndoStack::Step step = m_undo.undo();
+    m_style.restore(step, true);
+    return !step.empty();
+}
+
+bool Kernel::redo()
+{
+    const UndoStack::Step step = m_undo.redo();
+    m_style.restore(step, false);
+    return !step.empty();
+}
+
+void Kernel::announce(StateChange_e code, const toolbox::StringList& stylePath) const
+{
+    sdk::integration::StateChangeEventObservable::getInstance().emitStateChange(
+        sdk::integration::StateChangeEvent(code, stylePath));
+}
+
+void Kernel::addFrame()
+{
+    Frame frame(m_nextFrameID++);
+    useWholeDataSet(frame);
+    m_frames.push_back(frame);
+    m_current = m_frames.size() - 1;
+}
+
+void Kernel::useWholeDataSet(Frame& frame) const
+{
+    frame.enabledZones = m_dataSet.allZones();
+    frame.enabledVars = m_dataSet.allVars();
+}
+
+void Kernel::clearLostVariables(Frame& frame)
+{
+    for (const std::string& key : m_schema.variableKeys())
+        if (std::get<long>(m_schema.valueIn(frame.style(), key, 0)) > m_dataSet.numVars())
+            frame.style().store(key, 0, 0L);
+}
+
+} // namespace kernel
+} // namespace orrery

@@ -1,0 +1,87 @@
+#pragma once
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+#include "platform/kernel/DataSet.h"
+#include "platform/kernel/Frame.h"
+#include "platform/kernel/MessageBoxPresenter.h"
+#include "platform/kernel/StyleAccess.h"
+#include "platform/kernel/StyleSchema.h"
+#include "platform/kernel/UndoStack.h"
+
+namespace orrery {
+namespace kernel {
+
+// The stand-in kernel: data set, pages and frames with their style, undo, the
+// last style error and message boxes. Every change is announced through the
+// state-change observable.
+class Kernel
+{
+public:
+    static Kernel& instance();
+
+    // One page with one frame, no data set, default style, nothing to undo.
+    void reset();
+
+    const DataSet& dataSet() const { return m_dataSet; }
+    // Every frame then uses all zones and variables; style variables that no
+    // longer exist are cleared.
+    void setDataSet(const DataSet& dataSet);
+
+    int pageCount() const { return m_pageCount; }
+    // Without pages there are no frames.
+    void setPageCount(int pages);
+    int frameCount() const { return static_cast<int>(m_frames.size()); }
+    // Frames live on the current page (made if there is none). New frames become
+    // current.
+    void setFrameCount(int frames);
+    Frame* currentFrame();
+    const Frame* currentFrame() const;
+    // 1-based position on the page; null when out of range.
+    Frame* frameAt(int position);
+    Frame* frameByID(long uniqueID);
+
+    void setEnabledZones(const toolbox::Set& zones);
+    void setEnabledVars(const toolbox::Set& vars);
+
+    // The current frame's value at key, the default without a frame.
+    StyleDatum currentStyle(const std::string& key, long member = 0) const;
+    PlotType_e plotType() const;
+    // Ranges of the frame's X and Y axis variables over its enabled zones;
+    // 0 to 1 where there is no such range, widened by 1 where it is a point.
+    void axisGridRange(double& xMin, double& yMin, double& xMax, double& yMax) const;
+    bool undo();
+    bool redo();
+
+    const StyleSchema& schema() const { return m_schema; }
+    StyleAccess& style() { return m_style; }
+    UndoStack& undoStack() { return m_undo; }
+    MessageBoxPresenter& messageBoxes() { return m_messageBoxes; }
+
+    const std::optional<std::string>& lastError() const { return m_lastError; }
+    void setLastError(const std::optional<std::string>& text) { m_lastError = text; }
+
+    void announce(StateChange_e code, const toolbox::StringList& stylePath = {}) const;
+
+private:
+    Kernel();
+    void addFrame();
+    void useWholeDataSet(Frame& frame) const;
+    void clearLostVariables(Frame& frame);
+    void axisRange(const std::string& axisKey, double& min, double& max) const;
+
+    StyleSchema m_schema;
+    StyleAccess m_style;
+    UndoStack m_undo;
+    MessageBoxPresenter m_messageBoxes;
+    DataSet m_dataSet;
+    int m_pageCount = 0;
+    std::vector<Frame> m_frames;
+    size_t m_current = 0;
+    long m_nextFrameID = 1;
+    std::optional<std::string> m_lastError;
+};
+
+} // namespace kernel
+} // namespace orrery

@@ -1,0 +1,113 @@
+#include "platform/kernel/StyleRules.h"
+#include <boost/format.hpp>
+#include "platform/kernel/ColorMap.h"
+#include "platform/kernel/DataSet.h"
+#include "platform/kernel/StyleState.h"
+
+namespace orrery {
+namespace kernel {
+namespace rules {
+
+namespace {
+
+double otherValue(const RuleContext& context, const std::string& key, const StyleDatum& fallback)
+{
+    const StyleDatum* stored = context.style.find(key, context.member);
+    return std::get<double>(stored ? *stored : fallback);
+}
+
+} // namespace
+
+StyleRule variableNumber()
+{
+    return [](const StyleDatum& value, const RuleContext& context) {
+        const long var = std::get<long>(value);
+        if (var == 0)
+            return WriteVerdict::accept();
+        const int count = context.dataSet.numVars();
+        if (count == 0)
+            return WriteVerdict::decline();
+        if (var < 1 || var > count)
+            return WriteVerdict::refuse(
+                (boost::format("Variable number %1% is out of range (1 to %2%).") % var % count).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule withinRange(const std::string& what, long lowest, long highest)
+{
+    return [=](const StyleDatum& value, const RuleContext&) {
+        const long v = std::get<long>(value);
+        if (v < lowest || v > highest)
+            return WriteVerdict::refuse(
+                (boost::format("%1% %2% is not valid (%3% to %4%).") % what % v % lowest % highest).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule greaterThanZero(const std::string& what)
+{
+    return [=](const StyleDatum& value, const RuleContext&) {
+        if (!(std::get<double>(value) > 0.0))
+            return WriteVerdict::refuse("The " + what + " must be greater than zero.");
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule percentage(const std::string& what)
+{
+    return [=](const StyleDatum& value, const RuleContext&) {
+        const double v = std::get<double>(value);
+        if (!(v > 0.0 && v <= 100.0))
+            return WriteVerdict::refuse(
+                (boost::format("The %1% must be above 0 and at most 100 percent, not %2%.") % what % v).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule notEmpty(const std::string& what)
+{
+    return [=](const StyleDatum& value, const RuleContext&) {
+        if (std::get<std::string>(value).empty())
+            return WriteVerdict::refuse("The " + what + " must not be empty.");
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule colorIndex()
+{
+    return [](const StyleDatum& value, const RuleContext&) {
+        const long index = std::get<long>(value);
+        if (!ColorMap::isValidIndex(static_cast<int>(index)))
+            return WriteVerdict::refuse((boost::format("Colour index %1% is not valid.") % index).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule lessThan(const std::string& otherKey, const StyleDatum& otherDefault)
+{
+    return [=](const StyleDatum& value, const RuleContext& context) {
+        const double v = std::get<double>(value);
+        const double maximum = otherValue(context, otherKey, otherDefault);
+        if (!(v < maximum))
+            return WriteVerdict::refuse(
+                (boost::format("The minimum (%1%) must be less than the maximum (%2%).") % v % maximum).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule greaterThan(const std::string& otherKey, const StyleDatum& otherDefault)
+{
+    return [=](const StyleDatum& value, const RuleContext& context) {
+        const double v = std::get<double>(value);
+        const double minimum = otherValue(context, otherKey, otherDefault);
+        if (!(v > minimum))
+            return WriteVerdict::refuse(
+                (boost::format("The maximum (%1%) must be greater than the minimum (%2%).") % v % minimum).str());
+        return WriteVerdict::accept();
+    };
+}
+
+} // namespace rules
+} // namespace kernel
+} // namespace orrery

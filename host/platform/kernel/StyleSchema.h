@@ -1,0 +1,34 @@
+#pragma once
+#include <map>
+#include <string>
+#include <vector>
+#include "platform/kernel/StyleEntry.h"
+
+namespace orrery {
+namespace kernel {
+
+class StyleState;
+
+// Every style path the kernel knows, by key ("GlobalRGB/RedChannelVar"), with its
+// type, default and rule.
+class StyleSchema
+{
+public:
+    StyleSchema();
+
+    // Null for an unknown key.
+    const StyleEntry* find(const std::string& key) const;
+    // The value held in style, else the default. The key must be known.
+    StyleDatum valueIn(const StyleState& style, const std::string& key, long member) const;
+    std::vector<std::string> variableKeys() const;
+
+private:
+    void add(const std::string& key, const StyleEntry& entry);
+    void addVariable(const std::string& key, long defaultVar);
+    void addFont(const std::string& group);
+
+    std::map<std::string, StyleEntry> m_entries;
+};
+
+} // namespace kernel
+} // namespace orrery

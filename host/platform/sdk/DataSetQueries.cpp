@@ -1,0 +1,146 @@
+#include "platform/sdk/DataSetQueries.h"
+#include <algorithm>
+#include <vector>
+#include "platform/kernel/Kernel.h"
+#include "platform/toolbox/StyleValue.h"
+
+namespace orrery {
+namespace sdk {
+
+namespace {
+
+using kernel::Kernel;
+
+bool isFieldPlot(PlotType_e plotType)
+{
+    return plotType == PlotType_ThreeD || plotType == PlotType_TwoD;
+}
+
+int styleVar(const toolbox::StringList& path)
+{
+    kernel::StyleDatum value;
+    if (Kernel::instance().style().read(path, -1, value) != GetValue_Ok)
+        return 0;
+    return static_cast<int>(std::get<long>(value));
+}
+
+toolbox::Set enabledVars()
+{
+    const kernel::Frame* frame = Kernel::instance().currentFrame();
+    return frame ? frame->enabledVars : toolbox::Set();
+}
+
+std::vector<int> axisVars(PlotType_e plotType)
+{
+    std::vector<int> vars;
+    if (plotType == PlotType_ThreeD)
+        for (const char* axis : {"XDetail", "YDetail", "ZDetail"})
+            vars.push_back(styleVar({"ThreeDAxis", axis, "VarNum"}));
+    else if (plotType == PlotType_TwoD)
+        for (const char* axis : {"XDetail", "YDetail"})
+            vars.push_back(styleVar({"TwoDAxis", axis, "VarNum"}));
+    return vars;
+}
+
+// Enabled variables that are not on an axis, then (when wanted) the axis ones.
+std::vector<int> candidates(PlotType_e plotType, bool withAxisVars)
+{
+    const std::vector<int> axes = axisVars(plotType);
+    std::vector<int> free;
+    std::vector<int> onAxis;
+    for (int var : enabledVars())
+        (std::count(axes.begin(), axes.end(), var) ? onAxis : free).push_back(var);
+    if (withAxisVars)
+        free.insert(free.end(), onAxis.begin(), onAxis.end());
+    return free;
+}
+
+bool isEnabledVar(int var)
+{
+    return enabledVars().contains(var);
+}
+
+} // namespace
+
+toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
+{
+    const kernel::Frame* frame = Kernel::instance().frameByID(frameUniqueID);
+    return frame ? frame->enabledZones : toolbox::Set();
+}
+
+toolbox::Set getEnabledVarsForFrame(long frameUniqueID)
+{
+    const kernel::Frame* frame = Kernel::instance().frameByID(frameUniqueID);
+    return frame ? frame->enabledVars : toolbox::Set();
+}
+
+bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
+{
+    u = v = w = 0;
+    if (!isFieldPlot(plotType))
+        return false;
+    const std::vector<int> vars = candidates(plotType, false);
+    const size_t needed = plotType == PlotType_ThreeD ? 3 : 2;
+    if (vars.size() < needed)
+        return false;
+    u = vars[0];
+    v = vars[1];
+    w = needed == 3 ? vars[2] : 0;
+    return true;
+}
+
+bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
+{
+    const std::vector<int> vars = candidates(plotType, true);
+    int* channels[] = {&r, &g, &b};
+    for (size_t i = 0; i < 3; ++i)
+        *channels[i] = i < vars.size() ? vars[i] : 0;
+    return vars.size() >= 3;
+}
+
+bool okToTurnOnVectorLayer(PlotType_e plotType)
+{
+    if (!isFieldPlot(plotType) || Kernel::instance().plotType() != plotType)
+        return false;
+    std::vector<int> vars;
+    if (plotType == PlotType_ThreeD)
+        for (const char* component : {"UVar", "VVar", "WVar"})
+            vars.push_back(styleVar({"GlobalThreeDVector", component}));
+    else
+        for (const char* component : {"UVar", "VVar"})
+            vars.push_back(styleVar({"GlobalTwoDVector", component}));
+    std::vector<int> distinct = vars;
+    std::sort(distinct.begin(), distinct.end());
+    return std::all_of(vars.begin(), vars.end(), isEnabledVar)
+           && std::unique(distinct.begin(), distinct.end()) == distinct.end();
+}
+
+bool checkRGBChannelVars(int red, int green, int blue)
+{
+    return isEnabledVar(red) && isEnabledVar(green) && isEnabledVar(blue);
+}
+
+bool checkRGBChannelVars(const toolbox::StyleValue& rgbGroup)
+{
+    int channels[3] = {0, 0, 0};
+    const char* names[] = {"RedChannelVar", "GreenChannelVar", "BlueChannelVar"};
+    for (int i = 0; i < 3; ++i) {
+        toolbox::StringList path = rgbGroup.names();
+        path.append(names[i]);
+        channels[i] = styleVar(path);
+    }
+    return checkRGBChannelVars(channels[0], channels[1], channels[2]);
+}
+
+void autoAssignScatterVariable()
+{
+    const toolbox::StringList path{"GlobalScatter", "Var"};
+    if (isEnabledVar(styleVar(path)))
+        return;
+    const std::vector<int> vars = candidates(Kernel::instance().plotType(), true);
+    if (!vars.empty())
+        Kernel::instance().style().write(path, nullptr, -1, AssignOp_Equals, long(vars.front()));
+}
+
+} // namespace sdk
+} // namespace orrery
