@@ -1,0 +1,18 @@
+#pragma once
+#include "platform/loaders/DelimitedTableLoader.h"
+
+namespace orrery {
+namespace sdk {
+
+// Whitespace-separated tables (.txt, .dat).
+class TextTableDataLoader : public DelimitedTableLoader
+{
+public:
+    Properties properties() const override;
+
+protected:
+    std::vector<std::string> split(const std::string& line) const override;
+};
+
+} // namespace sdk
+} // namespace orrery
