@@ -1,0 +1,15 @@
+#pragma once
+
+namespace qwidgetobservable {
+
+class QButtonObservable;
+
+// Told when a checkable button is switched on or off.
+class QButtonListenerInterface
+{
+public:
+    virtual void buttonToggled(QButtonObservable& source) = 0;
+    virtual ~QButtonListenerInterface() = default;
+};
+
+} // namespace qwidgetobservable

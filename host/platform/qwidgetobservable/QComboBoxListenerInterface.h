@@ -1,0 +1,15 @@
+#pragma once
+
+namespace qwidgetobservable {
+
+class QComboBoxObservable;
+
+// Told when the user (or the program) makes another row of a combo box current.
+class QComboBoxListenerInterface
+{
+public:
+    virtual void currentIndexChanged(int index, QComboBoxObservable& source) = 0;
+    virtual ~QComboBoxListenerInterface() = default;
+};
+
+} // namespace qwidgetobservable

@@ -1,0 +1,47 @@
+#pragma once
+#include <memory>
+#include <QString>
+
+#include "platform/qwidgetobservable/QTextFieldObservable.h"
+#include "propertybindings/UIPropertyBindingAbstract.h"
+
+class QLineEdit;
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// A line edit whose text is written to the property when the user commits it
+// (Return, or leaving an edited field), never on each keystroke. A refused text
+// is answered by restoring the field and giving it the focus again.
+// Instantiated for double, std::string, int and RGBMode_e.
+template <typename T>
+class LineEditPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
+{
+public:
+    LineEditPropertyBindingAbstract(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,
+                                    BindingInterface::WidgetUpdateMode_e mode);
+
+    // Commits the field's text. True when the value was stored or already held.
+    bool editingFinished();
+
+protected:
+    // Installs the default validator for T unless the dialog installed its own.
+    class ValidationInstaller
+    {
+    public:
+        static void install(QLineEdit& field);
+        // Object name of the validators that bindings install, so that a later
+        // binding replaces them but leaves a dialog's own validator alone.
+        static const QString m_installedValidatorMarker;
+    };
+
+    QLineEdit* lineEdit() const { return m_field; }
+
+private:
+    bool validateText(QString& text) const;
+    void restoreField();
+
+    std::unique_ptr<qwidgetobservable::QTextFieldObservable> m_observable;
+    QLineEdit* m_field;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

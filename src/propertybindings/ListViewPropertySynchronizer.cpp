@@ -1,0 +1,183 @@
+#include "propertybindings/ListViewPropertySynchronizer.h"
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <unordered_set>
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QSignalBlocker>
+
+#include "propertybindings/ScopedExitAction.h"
+#include "propertybindings/intern/PropertyWrite.h"
+#include "propertybindings/intern/RejectedValueMessage.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+template <typename C>
+ListViewPropertySynchronizer<C>::ListViewPropertySynchronizer(QListView& view,
+                                                              const boost::shared_ptr<PropertyAbstract<C>>& property,
+                                                              const ListModelPtr& rows,
+                                                              BindingInterface::WidgetUpdateMode_e mode)
+    : m_view(view), m_property(property), m_rows(rows), m_mode(mode),
+      m_propertyWatcher(*property, [this] { updateWidgetFromProperty(); }),
+      m_modelChangeSynchronizer([this] { synchronizePropertyAndSelection(); })
+{
+    setupModel();
+    // Connected after the Qt model, so that the view already shows the new rows.
+    m_connections.add(rows->connectToDataChanged([this] { preserveSelectionOnModelChange(); }));
+    m_connections.add(rows->connectToItemChanged([this](int) { preserveSelectionOnModelChange(); }));
+    m_connections.add(rows->connectToItemsInserted([this](int, int) { preserveSelectionOnModelChange(); }));
+    m_connections.add(rows->connectToItemsRemoved([this](int, int) { preserveSelectionOnModelChange(); }));
+    updateWidgetFromProperty();
+}
+
+template <typename C>
+ListViewPropertySynchronizer<C>::~ListViewPropertySynchronizer()
+{
+    QObject::disconnect(m_selectionConnection);
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::setupModel()
+{
+    QObject::disconnect(m_selectionConnection);
+    m_qtModel.reset(new models::QListModel<int>(*m_rows));
+    m_view.setModel(m_qtModel.get());
+    // A long list must not measure every row to show itself.
+    m_view.setUniformItemSizes(true);
+    m_selectionConnection = QObject::connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, &m_view,
+                                             [this] { updatePropertyFromWidget(); });
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::updateWidgetFromProperty()
+{
+    ScopedExitAction lowerGuard(ScopedExitAction::raiseUntilExit(m_updatingWidget));
+    setSelectionForPropertyValues(m_property->retrieveValue());
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::updatePropertyFromWidget()
+{
+    if (m_updatingWidget)
+        return;
+    C values;
+    for (int row : selectedRows())
+        values.insert(values.end(), m_rows->get(row));
+    bool refused = false;
+    {
+        m_propertyWatcher.enable(false);
+        ScopedExitAction enableWatcher([this] { m_propertyWatcher.enable(true); });
+        try {
+            intern::writeProperty(*m_property, values);
+        } catch (const InvalidPropertyValueException& rejection) {
+            intern::showRejectedValueMessage(rejection);
+            refused = true;
+        }
+    }
+    // The selection goes back to what the property holds.
+    if (refused)
+        m_propertyWatcher.valueChanged();
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::setSelectionForPropertyValues(const C& values)
+{
+    selectRows(rowsHolding(values));
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::preserveSelectionOnModelChange()
+{
+    m_updatingWidget = true;
+    if (m_mode == BindingInterface::WidgetUpdateMode_OnIdle)
+        m_modelChangeSynchronizer.enableNotification();
+    else
+        synchronizePropertyAndSelection();
+}
+
+template <typename C>
+void ListViewPropertySynchronizer<C>::synchronizePropertyAndSelection()
+{
+    m_updatingWidget = false;
+    updateWidgetFromProperty();
+    // Values whose rows have gone drop out of the property.
+    updatePropertyFromWidget();
+}
+
+// One pass over the rows; a value shown by several rows selects all of them.
+template <typename C>
+std::vector<int> ListViewPropertySynchronizer<C>::rowsHolding(const C& values) const
+{
+    std::vector<int> rows;
+    if (values.empty())
+        return rows;
+    const std::unordered_set<int> wanted(values.begin(), values.end());
+    const int count = std::min(m_rows->size(), m_qtModel->rowCount());
+    for (int row = 0; row < count; ++row) {
+        if (wanted.count(m_rows->get(row)) != 0 && !m_rows->isHeader(row))
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+// Ascending, without header rows (Qt keeps a disabled row in a selection range
+// but does not count it as selected).
+template <typename C>
+std::vector<int> ListViewPropertySynchronizer<C>::selectedRows() const
+{
+    std::vector<int> rows;
+    const int count = std::min(m_rows->size(), m_qtModel->rowCount());
+    for (const QItemSelectionRange& range : m_view.selectionModel()->selection()) {
+        const int last = std::min(range.bottom(), count - 1);
+        for (int row = std::max(range.top(), 0); row <= last; ++row) {
+            if (!m_rows->isHeader(row))
+                rows.push_back(row);
+        }
+    }
+    if (!std::is_sorted(rows.begin(), rows.end()))
+        std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+// Qt's ClearAndSelect compares the old and new selections range by range, which
+// is quadratic when both are large and scattered. The same outcome is reached
+// in linear time: clear, select merged ranges, and announce the difference once.
+template <typename C>
+void ListViewPropertySynchronizer<C>::selectRows(const std::vector<int>& wanted)
+{
+    const std::vector<int> current = selectedRows();
+    if (current == wanted)
+        return;
+    std::vector<int> added, removed;
+    std::set_difference(wanted.begin(), wanted.end(), current.begin(), current.end(), std::back_inserter(added));
+    std::set_difference(current.begin(), current.end(), wanted.begin(), wanted.end(), std::back_inserter(removed));
+    QItemSelectionModel* selection = m_view.selectionModel();
+    {
+        const QSignalBlocker quiet(selection);
+        selection->clearSelection();
+        selection->select(rangesOf(wanted), QItemSelectionModel::Select);
+    }
+    Q_EMIT selection->selectionChanged(rangesOf(added), rangesOf(removed));
+}
+
+template <typename C>
+QItemSelection ListViewPropertySynchronizer<C>::rangesOf(const std::vector<int>& sortedRows) const
+{
+    QItemSelection ranges;
+    for (size_t first = 0; first < sortedRows.size();) {
+        size_t last = first;
+        while (last + 1 < sortedRows.size() && sortedRows[last + 1] == sortedRows[last] + 1)
+            ++last;
+        ranges.append(QItemSelectionRange(m_qtModel->index(sortedRows[first], 0), m_qtModel->index(sortedRows[last], 0)));
+        first = last + 1;
+    }
+    return ranges;
+}
+
+template class ListViewPropertySynchronizer<std::vector<int>>;
+template class ListViewPropertySynchronizer<std::set<int>>;
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,65 @@
+#pragma once
+#include <memory>
+#include <vector>
+#include <boost/shared_ptr.hpp>
+#include <QMetaObject>
+
+#include "platform/common/OnIdleActionPerformerSingleShot.h"
+#include "platform/common/SignalConnectionCollection.h"
+#include "property/PropertyAbstract.h"
+#include "propertybindings/BindingInterface.h"
+#include "propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
+#include "propertybindings/WidgetPropertySynchronizerInterface.h"
+#include "propertybindings/models/ListModelInterface.h"
+#include "propertybindings/models/QListModel.h"
+
+class QItemSelection;
+class QListView;
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// Keeps the selected rows of a list view and a property holding the values of
+// those rows in step. Instantiated for std::vector<int> and std::set<int>.
+//
+// Loop guards: while the selection is set from the property, selection changes
+// are not written back; while the property is written from the selection, the
+// write does not schedule a selection refresh.
+template <typename C>
+class ListViewPropertySynchronizer : public WidgetPropertySynchronizerInterface
+{
+public:
+    typedef boost::shared_ptr<const models::ListModelInterface<int>> ListModelPtr;
+
+    // mode WidgetUpdateMode_OnIdle: after the rows change, selection and
+    // property are brought together once, on idle; otherwise at once.
+    ListViewPropertySynchronizer(QListView& view, const boost::shared_ptr<PropertyAbstract<C>>& property,
+                                 const ListModelPtr& rows, BindingInterface::WidgetUpdateMode_e mode);
+    ~ListViewPropertySynchronizer() override;
+
+    void updateWidgetFromProperty() override;
+    void updatePropertyFromWidget() override;
+    void setupModel();
+    // Selects exactly the (non-header) rows whose values are in the collection.
+    void setSelectionForPropertyValues(const C& values);
+    void preserveSelectionOnModelChange();
+    void synchronizePropertyAndSelection();
+
+private:
+    std::vector<int> rowsHolding(const C& values) const;
+    std::vector<int> selectedRows() const;
+    void selectRows(const std::vector<int>& wanted);
+    QItemSelection rangesOf(const std::vector<int>& sortedRows) const;
+
+    QListView& m_view;
+    boost::shared_ptr<PropertyAbstract<C>> m_property;
+    ListModelPtr m_rows;
+    const BindingInterface::WidgetUpdateMode_e m_mode;
+    std::unique_ptr<models::QListModel<int>> m_qtModel;
+    OnIdleAfterPropertyChangeActionPerformer m_propertyWatcher;
+    common::OnIdleActionPerformerSingleShot m_modelChangeSynchronizer;
+    bool m_updatingWidget = false;
+    QMetaObject::Connection m_selectionConnection;
+    SignalConnectionCollection m_connections;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,32 @@
+#pragma once
+#include <boost/function.hpp>
+
+#include "platform/common/OnIdleActionPerformerSingleShot.h"
+#include "platform/common/SignalConnectionCollection.h"
+#include "property/PropertyAbstract.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// Runs an action once on idle after one or more changes of a property.
+class OnIdleAfterPropertyChangeActionPerformer
+{
+public:
+    template <typename T>
+    OnIdleAfterPropertyChangeActionPerformer(const PropertyAbstract<T>& property, const boost::function<void ()>& action)
+        : m_performer(action)
+    {
+        m_connections.add(property.connectToValueChangedSignal([this](const T&) { valueChanged(); }));
+    }
+
+    void valueChanged();
+    // Off: changes are ignored (used while the owner writes the property itself).
+    void enable(bool enabled) { m_enabled = enabled; }
+    bool isEnabled() const { return m_enabled; }
+
+private:
+    common::OnIdleActionPerformerSingleShot m_performer;
+    bool m_enabled = true;
+    SignalConnectionCollection m_connections;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,49 @@
+#pragma once
+#include <memory>
+#include <QObject>
+
+#include "propertybindings/UIPropertyBindingAbstract.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// Base of a binding that must itself be a QObject to own Qt slots. The property
+// side is delegated to an updater, which calls back into the three update
+// operations overridden by the derived class.
+template <typename T>
+class QObjectPropertyBinding : public QObject, public virtual BindingInterface
+{
+public:
+    QObjectPropertyBinding(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
+        : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
+    {
+    }
+
+protected:
+    PropertyAbstract<T>& property() const { return m_updater->boundProperty(); }
+    bool writeProperty(const T& candidate) { return m_updater->write(candidate); }
+    void updateValueOnIdle() { m_updater->updateValueOnIdle(); }
+
+private:
+    class PropertyBindingUpdater : public UIPropertyBindingAbstract<T>
+    {
+    public:
+        PropertyBindingUpdater(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode,
+                               QObjectPropertyBinding& owner)
+            : UIPropertyBindingAbstract<T>(property, mode), m_owner(owner)
+        {
+        }
+        void updateWidget() override { m_owner.updateWidget(); }
+        void updateVisibility() override { m_owner.updateVisibility(); }
+        void updateSensitivity() override { m_owner.updateSensitivity(); }
+
+        PropertyAbstract<T>& boundProperty() const { return this->property(); }
+        bool write(const T& candidate) { return this->writeProperty(candidate); }
+
+    private:
+        QObjectPropertyBinding& m_owner;
+    };
+
+    std::unique_ptr<PropertyBindingUpdater> m_updater;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,64 @@
+#include "propertybindings/RadioButtonPropertyBinding.h"
+
+#include <QAbstractButton>
+#include "platform/kernel/OrrTypes.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+template <typename T>
+RadioButtonPropertyBinding<T>::RadioButtonPropertyBinding(QAbstractButton* button,
+                                                          const boost::shared_ptr<PropertyAbstract<T>>& property,
+                                                          const T& buttonValue)
+    : UIPropertyBindingAbstract<T>(property, BindingInterface::WidgetUpdateMode_OnIdle), m_button(button),
+      m_buttonValue(buttonValue), m_observable(new qwidgetobservable::QButtonObservable(button)), m_listener(*this)
+{
+    m_observable->addListener(&m_listener);
+    updateWidget();
+}
+
+template <typename T>
+RadioButtonPropertyBinding<T>::~RadioButtonPropertyBinding()
+{
+    m_observable->removeListener(&m_listener);
+}
+
+template <typename T>
+void RadioButtonPropertyBinding<T>::updateWidget()
+{
+    const bool checked = this->property().retrieveValue() == m_buttonValue;
+    if (checked || !m_button->autoExclusive()) {
+        m_button->setChecked(checked);
+        return;
+    }
+    // An exclusive radio button refuses to be switched off on its own; a value
+    // that no button of the group stands for must leave all of them unchecked.
+    m_button->setAutoExclusive(false);
+    m_button->setChecked(false);
+    m_button->setAutoExclusive(true);
+}
+
+template <typename T>
+void RadioButtonPropertyBinding<T>::updateVisibility()
+{
+    m_button->setVisible(this->isPropertyVisible());
+}
+
+template <typename T>
+void RadioButtonPropertyBinding<T>::updateSensitivity()
+{
+    m_button->setEnabled(this->isPropertySensitive());
+}
+
+template <typename T>
+void RadioButtonPropertyBinding<T>::QButtonListener::buttonToggled(qwidgetobservable::QButtonObservable& source)
+{
+    // Only the button switched on writes; the one switched off in its group does not.
+    if (!source.button()->isChecked())
+        return;
+    m_binding.writePropertyReportingRejection(m_binding.m_buttonValue);
+}
+
+template class RadioButtonPropertyBinding<bool>;
+template class RadioButtonPropertyBinding<Font_e>;
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,32 @@
+#pragma once
+#include <string>
+#include "propertybindings/LineEditPropertyBindingAbstract.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// A line edit showing a property's value through a boost::format string
+// ("%1%" by default). Instantiated for double and std::string.
+template <typename T>
+class TextFieldPropertyBinding : public LineEditPropertyBindingAbstract<T>
+{
+public:
+    enum CursorPosition_e
+    {
+        CursorPosition_Home = 0, // show the start of a long value
+        CursorPosition_Keep = 1
+    };
+
+    TextFieldPropertyBinding(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,
+                             BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle,
+                             CursorPosition_e cursor = CursorPosition_Home);
+
+    void updateWidget() override;
+    void updateVisibility() override;
+    void updateSensitivity() override;
+
+private:
+    const std::string m_format;
+    const CursorPosition_e m_cursor;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

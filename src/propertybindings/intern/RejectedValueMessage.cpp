@@ -1,0 +1,15 @@
+#include "propertybindings/intern/RejectedValueMessage.h"
+
+#include <cstring>
+#include "platform/kernel/OrrUtil.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::intern {
+
+void showRejectedValueMessage(const InvalidPropertyValueException& rejection)
+{
+    const char* text = rejection.what();
+    if (std::strlen(text) != 0)
+        OrrUtilDialogMessageBox(text, MessageBoxType_Error);
+}
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::intern

@@ -1,0 +1,7 @@
+#include "propertybindings/intern/StringMassager.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::intern {
+
+StringMassager::~StringMassager() = default;
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::intern

@@ -1,0 +1,26 @@
+#pragma once
+#include "propertybindings/models/ListModelInterface.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::models {
+
+// Defaults for the optional operations: read-only, no header rows, linear lookup.
+template <typename T>
+class ListModelAbstract : public virtual ListModelInterface<T>
+{
+public:
+    std::string getStrForEdit(int row) const override { return this->getStr(row); }
+    void set(T, int) override {}
+    void setEditedItem(const std::string&, int) const override {}
+    bool isEditable() const override { return false; }
+    bool isHeader(int) const override { return false; }
+    int indexOf(const T& value) const override
+    {
+        for (int row = 0; row < this->size(); ++row) {
+            if (this->get(row) == value)
+                return row;
+        }
+        return -1;
+    }
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::models

@@ -1,0 +1,30 @@
+#pragma once
+#include <cstddef>
+#include "propertybindings/models/ListModelAbstract.h"
+#include "propertybindings/models/OptionRow.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::models {
+
+// Serves a constant option table; never changes, so never signals.
+template <typename T>
+class PremappedListModel : public ListModelAbstract<T>
+{
+public:
+    typedef OptionRow<typename OptionValue<T>::type> Row;
+
+    PremappedListModel(const Row* rows, int count) : m_rows(rows), m_count(count) {}
+    template <std::size_t N>
+    explicit PremappedListModel(const Row (&table)[N]) : PremappedListModel(table, static_cast<int>(N))
+    {
+    }
+
+    int size() const override { return m_count; }
+    T get(int row) const override { return static_cast<T>(m_rows[row].value); }
+    std::string getStr(int row) const override { return m_rows[row].text; }
+
+private:
+    const Row* m_rows;
+    int m_count;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::models
