@@ -1,0 +1,133 @@
+#include "framework/QtDialogAbstract.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QKeySequence>
+#include <QMetaMethod>
+#include <QPushButton>
+#include "framework/HelpViewer.h"
+
+namespace orrery {
+namespace dialogs {
+namespace common {
+
+namespace {
+// Marks a button box whose buttons this frame has already wired.
+const char* const WiredMarker = "orreryFrameWired";
+
+// QObject::isSignalConnected is protected; a pointer to it taken through a
+// derived class may be applied to any object.
+struct SignalProbe : QObject
+{
+    using QObject::isSignalConnected;
+};
+
+template <typename Signal>
+bool isConnected(const QDialogButtonBox& box, Signal signal)
+{
+    return (box.*&SignalProbe::isSignalConnected)(QMetaMethod::fromSignal(signal));
+}
+} // namespace
+
+QtDialogAbstract::QtDialogAbstract(QWidget& parent, RelevancePtr relevance)
+    : QDialog(&parent), m_relevance(std::move(relevance))
+{
+    if (m_relevance)
+        m_relevanceConnection = m_relevance->connectToRelevanceChangedSignal([this] { applyRelevance(); });
+}
+
+QtDialogAbstract::~QtDialogAbstract() = default;
+
+bool QtDialogAbstract::isRelevant() const
+{
+    return !m_relevance || m_relevance->isRelevant();
+}
+
+void QtDialogAbstract::launch()
+{
+    if (!isRelevant())
+    {
+        setResult(Rejected);
+        return;
+    }
+    applyRelevance();
+    if (isModal())
+        exec();
+    else
+    {
+        show();
+        raise();
+        activateWindow();
+    }
+}
+
+void QtDialogAbstract::drop()
+{
+    if (isVisible())
+        reject();
+    deleteLater();
+}
+
+void QtDialogAbstract::setHelpAction(QAction* action)
+{
+    if (m_helpAction == action)
+        return;
+    delete m_helpAction;
+    m_helpAction = action;
+    if (!action)
+        return;
+    action->setParent(this);
+    action->setShortcut(QKeySequence::HelpContents);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    if (isVisible())
+        wireButtonBoxes();
+}
+
+void QtDialogAbstract::done(int result)
+{
+    if (HelpViewer* help = HelpViewer::of(*this))
+        help->close();
+    QDialog::done(result == Accepted && !isRelevant() ? int(Rejected) : result);
+}
+
+void QtDialogAbstract::showEvent(QShowEvent* event)
+{
+    // The layouts are built after this base, so their button boxes are only
+    // known once the dialog is about to appear.
+    wireButtonBoxes();
+    applyRelevance();
+    QDialog::showEvent(event);
+}
+
+void QtDialogAbstract::applyRelevance()
+{
+    setEnabled(isRelevant());
+}
+
+void QtDialogAbstract::wireButtonBoxes()
+{
+    for (QDialogButtonBox* box : findChildren<QDialogButtonBox*>())
+    {
+        if (!box->property(WiredMarker).toBool())
+        {
+            box->setProperty(WiredMarker, true);
+            // A layout that connected its buttons itself keeps its own wiring.
+            if (!isConnected(*box, &QDialogButtonBox::accepted))
+                connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
+            if (!isConnected(*box, &QDialogButtonBox::rejected))
+                connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+            // The action may be replaced later (some dialogs change page by state).
+            connect(box, &QDialogButtonBox::helpRequested, this, [this] {
+                if (m_helpAction)
+                    m_helpAction->trigger();
+            });
+        }
+        if (m_helpAction && !box->button(QDialogButtonBox::Help))
+            box->addButton(QDialogButtonBox::Help);
+    }
+}
+
+} // namespace common
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,54 @@
+#pragma once
+#include <QDialog>
+#include <boost/shared_ptr.hpp>
+#include <boost/signals2/connection.hpp>
+#include "framework/DialogInterface.h"
+#include "propertymanager/RelevanceInterface.h"
+
+class QAction;
+
+namespace orrery {
+namespace dialogs {
+namespace common {
+
+// Base of the host's dialogs. It keeps the dialog usable only while its
+// relevance holds, owns the help action (F1 and a Help button), and makes the
+// OK and Cancel buttons of layouts that connect nothing end the dialog.
+class QtDialogAbstract : public QDialog, public virtual DialogInterface
+{
+    Q_OBJECT
+public:
+    typedef boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> RelevancePtr;
+
+    // An empty relevance makes the dialog relevant at all times.
+    QtDialogAbstract(QWidget& parent, RelevancePtr relevance);
+    ~QtDialogAbstract() override;
+
+    // Modal dialogs run until closed, others are shown and return. Does nothing
+    // (the result stays Rejected) while the dialog is not relevant.
+    void launch() override;
+    // Closes the dialog as rejected and schedules its destruction.
+    void drop() override;
+
+    bool isRelevant() const;
+    // Takes ownership of the action; it is triggered by F1 and by a Help button.
+    void setHelpAction(QAction* action);
+    QAction* helpAction() const { return m_helpAction; }
+
+protected:
+    // Refuses to accept while the dialog is not relevant, and closes its help.
+    void done(int result) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void applyRelevance();
+    void wireButtonBoxes();
+
+    RelevancePtr m_relevance;
+    boost::signals2::scoped_connection m_relevanceConnection;
+    QAction* m_helpAction = nullptr;
+};
+
+} // namespace common
+} // namespace dialogs
+} // namespace orrery

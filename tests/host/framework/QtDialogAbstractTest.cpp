@@ -1,0 +1,213 @@
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+#include "framework/HelpViewer.h"
+#include "framework/LaunchHelpAction.h"
+#include "framework/QtDialogAbstract.h"
+
+using orrery::dialogs::common::HelpViewer;
+using orrery::dialogs::common::LaunchHelpAction;
+using orrery::dialogs::common::QtDialogAbstract;
+using orrery::sdk::ui::propertymanager::RelevanceInterface;
+
+// The pages ship with the prompt library, which this program otherwise does not need.
+static void loadHelpPages()
+{
+    Q_INIT_RESOURCE(help);
+}
+
+namespace {
+
+class SwitchableRelevance : public RelevanceInterface
+{
+public:
+    bool isRelevant() const override { return m_relevant; }
+    void set(bool relevant)
+    {
+        m_relevant = relevant;
+        emitRelevanceChanged();
+    }
+
+private:
+    bool m_relevant = true;
+};
+
+// A dialog with a button box that the layout either connects itself or not.
+class ProbeDialog : public QtDialogAbstract
+{
+public:
+    ProbeDialog(QWidget& parent, RelevancePtr relevance, bool layoutConnectsButtons)
+        : QtDialogAbstract(parent, std::move(relevance)), box(new QDialogButtonBox(this))
+    {
+        box->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+        (new QVBoxLayout(this))->addWidget(box);
+        if (layoutConnectsButtons)
+        {
+            connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
+            connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
+        }
+    }
+    void launch() override { QtDialogAbstract::launch(); }
+    void drop() override { QtDialogAbstract::drop(); }
+    void accept() override
+    {
+        ++acceptCalls;
+        QtDialogAbstract::accept();
+    }
+
+    QDialogButtonBox* box;
+    int acceptCalls = 0;
+};
+
+class QtDialogAbstractTest : public ::testing::Test
+{
+protected:
+    QWidget parent;
+    boost::shared_ptr<SwitchableRelevance> relevance = boost::make_shared<SwitchableRelevance>();
+};
+
+TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutConnectedThem)
+{
+    for (bool layoutConnects : {false, true})
+    {
+        SCOPED_TRACE(layoutConnects ? "layout connects" : "frame connects");
+        ProbeDialog dialog(parent, nullptr, layoutConnects);
+        QSignalSpy accepted(&dialog, &QDialog::accepted);
+        dialog.show();
+        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        EXPECT_EQ(dialog.acceptCalls, 1); // the dialog's own accept() is reached, once
+        EXPECT_EQ(accepted.count(), 1);
+        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+        EXPECT_FALSE(dialog.isVisible());
+
+        dialog.show(); // wiring is not repeated on a second show
+        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+        EXPECT_FALSE(dialog.isVisible());
+        dialog.show();
+        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        EXPECT_EQ(accepted.count(), 2);
+    }
+}
+
+TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneIsDisabledUntilRelevantAgain)
+{
+    ProbeDialog dialog(parent, relevance, false);
+    dialog.setModal(false);
+    relevance->set(false);
+    dialog.launch();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+
+    relevance->set(true);
+    dialog.launch();
+    ASSERT_TRUE(dialog.isVisible());
+    EXPECT_TRUE(dialog.isEnabled());
+
+    relevance->set(false);
+    EXPECT_FALSE(dialog.isEnabled());
+    dialog.accept(); // e.g. a keyboard accept racing the change: not taken as an answer
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+
+    dialog.show();
+    relevance->set(true);
+    EXPECT_TRUE(dialog.isEnabled());
+}
+
+TEST_F(QtDialogAbstractTest, AnEmptyRelevanceMeansAlwaysRelevant)
+{
+    ProbeDialog dialog(parent, nullptr, false);
+    EXPECT_TRUE(dialog.isRelevant());
+    dialog.setModal(false);
+    dialog.launch();
+    EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(QtDialogAbstractTest, TheRelevanceMayOutliveTheDialog)
+{
+    {
+        ProbeDialog dialog(parent, relevance, false);
+    }
+    relevance->set(false); // must not reach the destroyed dialog
+    SUCCEED();
+}
+
+TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
+{
+    loadHelpPages();
+    ProbeDialog dialog(parent, nullptr, false);
+    dialog.setHelpAction(new LaunchHelpAction("anchor_alignment.html", dialog));
+    dialog.show();
+    QPushButton* help = dialog.box->button(QDialogButtonBox::Help);
+    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(HelpViewer::of(dialog), nullptr);
+
+    QTest::mouseClick(help, Qt::LeftButton);
+    HelpViewer* viewer = HelpViewer::of(dialog);
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_TRUE(viewer->isVisible());
+    EXPECT_EQ(viewer->page(), "anchor_alignment.html");
+    EXPECT_TRUE(viewer->pageFound());
+    EXPECT_EQ(viewer->windowTitle(), "Anchor Alignment");
+    viewer->close();
+
+    QApplication::setActiveWindow(&dialog);
+    dialog.box->button(QDialogButtonBox::Ok)->setFocus();
+    QTest::keyClick(&dialog, Qt::Key_F1);
+    EXPECT_TRUE(viewer->isVisible());
+    EXPECT_EQ(dialog.findChildren<HelpViewer*>().size(), 1); // one viewer per dialog
+
+    dialog.reject(); // help belongs to the run of the dialog
+    EXPECT_FALSE(viewer->isVisible());
+}
+
+TEST_F(QtDialogAbstractTest, ReplacingTheHelpActionRedirectsTheHelpButton)
+{
+    ProbeDialog dialog(parent, nullptr, false);
+    dialog.setHelpAction(new LaunchHelpAction("scatter_size_font.html", dialog));
+    dialog.show();
+    QPointer<QAction> first = dialog.helpAction();
+    dialog.setHelpAction(new LaunchHelpAction("symbol_font.html", dialog));
+    EXPECT_TRUE(first.isNull());
+    QTest::mouseClick(dialog.box->button(QDialogButtonBox::Help), Qt::LeftButton);
+    ASSERT_NE(HelpViewer::of(dialog), nullptr);
+    EXPECT_EQ(HelpViewer::of(dialog)->page(), "symbol_font.html");
+    EXPECT_EQ(dialog.box->buttons().size(), 3);
+}
+
+TEST_F(QtDialogAbstractTest, WithoutHelpActionThereIsNoHelpButton)
+{
+    ProbeDialog dialog(parent, nullptr, false);
+    dialog.show();
+    EXPECT_EQ(dialog.box->button(QDialogButtonBox::Help), nullptr);
+}
+
+TEST_F(QtDialogAbstractTest, AnUnknownPageShowsANoticeInsteadOfFailing)
+{
+    HelpViewer* viewer = HelpViewer::showPage("no_such_page.html", &parent);
+    EXPECT_FALSE(viewer->pageFound());
+    EXPECT_TRUE(viewer->text().contains("no_such_page.html"));
+    EXPECT_EQ(HelpViewer::showPage("", &parent), viewer);
+    EXPECT_FALSE(viewer->pageFound());
+}
+
+TEST_F(QtDialogAbstractTest, DropClosesTheDialogAsRejectedAndDestroysIt)
+{
+    QPointer<ProbeDialog> dialog = new ProbeDialog(parent, nullptr, false);
+    dialog->setModal(false);
+    dialog->launch();
+    QSignalSpy rejected(dialog.data(), &QDialog::rejected);
+    dialog->drop();
+    EXPECT_EQ(rejected.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(dialog.isNull());
+}
+
+} // namespace
