@@ -1,0 +1,57 @@
+#pragma once
+#include <memory>
+#include "framework/QtDialogAbstract.h"
+#include "platform/kernel/OrrTypes.h"
+#include "prompt/SingleInstanceDialog.h"
+
+class Ui_AnchorAlignment;
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Picks one of the nine anchor points of a box. Cancel falls back to the
+// alignment the caller passed most recently.
+class AnchorAlignmentDialog : public common::QtDialogAbstract,
+                              public virtual common::DialogInterface,
+                              public SingleInstanceDialog<AnchorAlignmentDialog>
+{
+    Q_OBJECT
+public:
+    // A live dialog keeps its buttons and answer; only the alignment that
+    // Cancel restores is replaced.
+    static AnchorAlignmentDialog* getInstance(AnchorAlignment_e initial, QWidget& parent);
+
+    AnchorAlignmentDialog(AnchorAlignment_e initial, QWidget& parent);
+    ~AnchorAlignmentDialog() override;
+
+    // Shows the alignment in the buttons without changing the answer; values
+    // outside the table check the top left button.
+    void setSelectedAlignmentButton(AnchorAlignment_e alignment);
+    AnchorAlignment_e selectedAlignment() const { return m_selectedAlignment; }
+
+public Q_SLOTS:
+    void reject() override;
+
+private Q_SLOTS:
+    // The button losing its check reports first, so the last write is always
+    // the newly checked button; the flag can be ignored.
+    void on_anchorAlignment_TopLeft_RadioButton_toggled(bool);
+    void on_anchorAlignment_TopCenter_RadioButton_toggled(bool);
+    void on_anchorAlignment_TopRight_RadioButton_toggled(bool);
+    void on_anchorAlignment_MiddleLeft_RadioButton_toggled(bool);
+    void on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool);
+    void on_anchorAlignment_MiddleRight_RadioButton_toggled(bool);
+    void on_anchorAlignment_BottomLeft_RadioButton_toggled(bool);
+    void on_anchorAlignment_BottomCenter_RadioButton_toggled(bool);
+    void on_anchorAlignment_BottomRight_RadioButton_toggled(bool);
+
+private:
+    std::unique_ptr<Ui_AnchorAlignment> m_ui;
+    AnchorAlignment_e m_selectedAlignment;
+    AnchorAlignment_e m_initialAlignment;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

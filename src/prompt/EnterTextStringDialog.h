@@ -1,0 +1,36 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <QString>
+#include "framework/QtDialogAbstract.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Asks for one line of text. The caller constructs, runs and destroys it, and
+// reads text() before destroying it.
+class EnterTextStringDialog : public common::QtDialogAbstract, public virtual common::DialogInterface
+{
+    Q_OBJECT
+public:
+    // An empty promptText keeps the default prompt; an empty helpPage installs
+    // no help. The last argument is accepted for the callers that pass it.
+    EnterTextStringDialog(QWidget& parent, QString const& promptText, QString const& initialText,
+                          QString const& helpPage, bool);
+    ~EnterTextStringDialog() override;
+
+    QString text() const;
+    void setOkButtonText(std::string const& text);
+
+private Q_SLOTS:
+    void textChanged(QString const&);
+
+private:
+    struct Layout;
+    std::unique_ptr<Layout> m_ui;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

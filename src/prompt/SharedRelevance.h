@@ -1,0 +1,22 @@
+#pragma once
+#include <boost/make_shared.hpp>
+#include <boost/shared_ptr.hpp>
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The relevance object of Owner: made on first use and kept until the library
+// is unloaded, so every dialog of that class shares it.
+template <typename Owner, typename Relevance>
+boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> sharedRelevance()
+{
+    static const boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance =
+        boost::make_shared<Relevance>();
+    return relevance;
+}
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

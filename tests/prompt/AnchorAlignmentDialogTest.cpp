@@ -1,0 +1,192 @@
+#include <QDialogButtonBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include "WidgetContract.h"
+#include "prompt/AnchorAlignmentDialog.h"
+
+using orrery::dialogs::prompt::AnchorAlignmentDialog;
+
+namespace {
+
+// Radio buttons in the order of their alignment values.
+const char* const ButtonNames[] = {
+    "anchorAlignment_TopLeft_RadioButton",     "anchorAlignment_TopCenter_RadioButton",
+    "anchorAlignment_TopRight_RadioButton",    "anchorAlignment_MiddleLeft_RadioButton",
+    "anchorAlignment_MiddleCenter_RadioButton", "anchorAlignment_MiddleRight_RadioButton",
+    "anchorAlignment_BottomLeft_RadioButton",  "anchorAlignment_BottomCenter_RadioButton",
+    "anchorAlignment_BottomRight_RadioButton"};
+
+class AnchorAlignmentDialogTest : public ::testing::Test
+{
+protected:
+    static QRadioButton* button(AnchorAlignmentDialog& d, int alignment)
+    {
+        return d.findChild<QRadioButton*>(ButtonNames[alignment]);
+    }
+    // The alignment whose button is checked, -1 when none is.
+    static int checked(AnchorAlignmentDialog& d)
+    {
+        for (int a = 0; a < 9; ++a)
+            if (button(d, a)->isChecked())
+                return a;
+        return -1;
+    }
+    static void click(QAbstractButton* b) { QTest::mouseClick(b, Qt::LeftButton); }
+    // A text-less radio button reacts only on its indicator, as for a user.
+    static void click(QRadioButton* b)
+    {
+        QStyleOptionButton option;
+        option.initFrom(b);
+        const QRect indicator = b->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, b);
+        QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, indicator.center());
+    }
+    static QPushButton* standard(AnchorAlignmentDialog& d, QDialogButtonBox::StandardButton which)
+    {
+        return d.findChild<QDialogButtonBox*>("buttonBox")->button(which);
+    }
+
+    QWidget parent;
+};
+
+TEST_F(AnchorAlignmentDialogTest, LayoutContract)
+{
+    AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
+    contract::expectWidgets(*dialog, {
+        {"AnchorAlignment", "orrery::dialogs::prompt::AnchorAlignmentDialog", "Anchor Alignment"},
+        {"frame", "QFrame", nullptr},
+        {"anchorAlignment_Top_Static", "QLabel", "Top"},
+        {"anchorAlignment_Middle_Static", "QLabel", "Middle"},
+        {"anchorAlignment_Bottom_Static", "QLabel", "Bottom"},
+        {"anchorAlignment_Left_Static", "QLabel", "Left"},
+        {"anchorAlignment_Center_Static", "QLabel", "Cntr"},
+        {"anchorAlignment_Right_Static", "QLabel", "Right"},
+        {"buttonBox", "QDialogButtonBox", nullptr},
+    });
+    for (int a = 0; a < 9; ++a)
+    {
+        contract::expectWidgets(*dialog, {{ButtonNames[a], "QRadioButton", ""}});
+        contract::expectGrid(*dialog, {{"gridLayout1", ButtonNames[a], a / 3, a % 3 + 1, 1, 1}});
+        EXPECT_EQ(button(*dialog, a)->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    }
+    contract::expectGrid(*dialog, {
+        {"gridLayout", "frame", 0, 0, 1, 2},
+        {"gridLayout", "buttonBox", 2, 1, 1, 1},
+        {"gridLayout1", "anchorAlignment_Top_Static", 0, 0, 1, 1},
+        {"gridLayout1", "anchorAlignment_Middle_Static", 1, 0, 1, 1},
+        {"gridLayout1", "anchorAlignment_Bottom_Static", 2, 0, 1, 1},
+        {"gridLayout1", "anchorAlignment_Left_Static", 3, 1, 1, 1},
+        {"gridLayout1", "anchorAlignment_Center_Static", 3, 2, 1, 1},
+        {"gridLayout1", "anchorAlignment_Right_Static", 3, 3, 1, 1},
+    });
+    EXPECT_EQ(dialog->findChild<QLabel*>("anchorAlignment_Left_Static")->sizePolicy().verticalPolicy(),
+              QSizePolicy::Fixed);
+    EXPECT_EQ(dialog->findChild<QGridLayout*>("gridLayout")->contentsMargins(), QMargins(6, 6, 6, 6));
+    EXPECT_EQ(dialog->findChild<QGridLayout*>("gridLayout1")->contentsMargins(), QMargins(0, 0, 0, 0));
+    EXPECT_EQ(dialog->findChild<QFrame*>("frame")->frameShape(), QFrame::NoFrame);
+    auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
+    EXPECT_EQ(box->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    EXPECT_TRUE(box->centerButtons());
+    EXPECT_EQ(dialog->size(), QSize(198, 85));
+    EXPECT_TRUE(dialog->isModal());
+    EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(dialog->layoutDirection(), Qt::LeftToRight);
+    ASSERT_NE(dialog->helpAction(), nullptr);
+}
+
+TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedAndIsTheAnswer)
+{
+    for (int initial : {0, 1, 4, 8})
+    {
+        AnchorAlignmentDialog dialog(AnchorAlignment_e(initial), parent);
+        EXPECT_EQ(checked(dialog), initial);
+        EXPECT_EQ(dialog.selectedAlignment(), initial);
+    }
+}
+
+TEST_F(AnchorAlignmentDialogTest, AnOutOfRangeAlignmentShowsTopLeftButKeepsItsValueUntilAClick)
+{
+    for (int initial : {9, 12, -1})
+    {
+        SCOPED_TRACE(initial);
+        AnchorAlignmentDialog dialog(AnchorAlignment_e(initial), parent);
+        dialog.show();
+        EXPECT_EQ(checked(dialog), 0);
+        EXPECT_EQ(dialog.selectedAlignment(), initial);
+        click(button(dialog, 5));
+        EXPECT_EQ(dialog.selectedAlignment(), 5);
+    }
+}
+
+TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndOkKeepsIt)
+{
+    AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
+    for (int a : {8, 0, 1, 2, 3, 4, 5, 6, 7})
+    {
+        dialog->show();
+        click(button(*dialog, a));
+        click(standard(*dialog, QDialogButtonBox::Ok));
+        EXPECT_FALSE(dialog->isVisible());
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+        EXPECT_EQ(dialog->selectedAlignment(), a);
+    }
+}
+
+TEST_F(AnchorAlignmentDialogTest, CancelRestoresTheInitialAlignment)
+{
+    AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomRight, parent);
+    dialog->show();
+    click(button(*dialog, AnchorAlignment_MiddleCenter));
+    EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_MiddleCenter);
+    click(standard(*dialog, QDialogButtonBox::Cancel));
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
+
+    dialog->show();
+    click(button(*dialog, AnchorAlignment_TopCenter));
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
+}
+
+TEST_F(AnchorAlignmentDialogTest, ALaterGetInstanceOnlyReplacesWhatCancelRestores)
+{
+    AnchorAlignmentDialog* first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
+    first->show();
+    click(button(*first, AnchorAlignment_BottomLeft));
+    click(standard(*first, QDialogButtonBox::Ok));
+
+    QWidget otherParent;
+    AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopRight, otherParent);
+    EXPECT_EQ(second, first);
+    EXPECT_EQ(second->parentWidget(), &parent);
+    EXPECT_EQ(checked(*second), AnchorAlignment_BottomLeft);
+    EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_BottomLeft);
+
+    second->show();
+    click(standard(*second, QDialogButtonBox::Cancel));
+    EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_TopRight);
+    EXPECT_EQ(checked(*second), AnchorAlignment_BottomLeft); // the buttons are not reset
+}
+
+TEST_F(AnchorAlignmentDialogTest, AFreshDialogIsBuiltAfterTheLiveOneIsDestroyed)
+{
+    auto* parentOfFirst = new QWidget;
+    QPointer<AnchorAlignmentDialog> first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, *parentOfFirst);
+    delete parentOfFirst;
+    EXPECT_TRUE(first.isNull());
+    EXPECT_EQ(AnchorAlignmentDialog::liveInstance(), nullptr);
+
+    AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_MiddleRight, parent);
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->parentWidget(), &parent);
+    EXPECT_EQ(checked(*second), AnchorAlignment_MiddleRight);
+}
+
+} // namespace

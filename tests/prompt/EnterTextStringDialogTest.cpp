@@ -1,0 +1,125 @@
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+#include "WidgetContract.h"
+#include "prompt/EnterTextStringDialog.h"
+
+using orrery::dialogs::prompt::EnterTextStringDialog;
+
+namespace {
+
+class EnterTextStringDialogTest : public ::testing::Test
+{
+protected:
+    QLineEdit* edit(EnterTextStringDialog& d) { return d.findChild<QLineEdit*>("EnterTextString_lineEdit"); }
+    QDialogButtonBox* box(EnterTextStringDialog& d)
+    {
+        return d.findChild<QDialogButtonBox*>("EnterTextString_buttonBox");
+    }
+    QPushButton* ok(EnterTextStringDialog& d) { return box(d)->button(QDialogButtonBox::Ok); }
+
+    QWidget parent;
+};
+
+TEST_F(EnterTextStringDialogTest, LayoutContract)
+{
+    EnterTextStringDialog dialog(parent, "", "", "", false);
+    contract::expectWidgets(dialog, {
+        {"EnterTextString", "orrery::dialogs::prompt::EnterTextStringDialog", "Prompt for text string"},
+        {"_2", "QGridLayout", nullptr},
+        {"EnterTextString_Label", "QLabel", "&Enter your input string:"},
+        {"EnterTextString_lineEdit", "QLineEdit", ""},
+        {"EnterTextString_buttonBox", "QDialogButtonBox", nullptr},
+    });
+    contract::expectGrid(dialog, {
+        {"_2", "EnterTextString_Label", 0, 0, 1, 2},
+        {"_2", "EnterTextString_lineEdit", 1, 1, 1, 1},
+        {"_2", "EnterTextString_buttonBox", 3, 0, 1, 2},
+    });
+    contract::expectTabOrder(dialog, {"EnterTextString_lineEdit", "EnterTextString_buttonBox"});
+
+    auto* grid = dialog.findChild<QGridLayout*>("_2");
+    EXPECT_EQ(grid->rowStretch(2), 1);
+    QLayoutItem* spacer = grid->itemAtPosition(2, 0);
+    ASSERT_NE(spacer->spacerItem(), nullptr);
+    EXPECT_EQ(spacer->sizeHint(), QSize(0, 0));
+    EXPECT_EQ(spacer->expandingDirections(), Qt::Vertical);
+    EXPECT_EQ(grid->itemAtPosition(1, 0), nullptr);
+
+    auto* label = dialog.findChild<QLabel*>("EnterTextString_Label");
+    EXPECT_TRUE(label->wordWrap());
+    EXPECT_EQ(label->buddy(), edit(dialog));
+    EXPECT_EQ(label->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    EXPECT_EQ(label->sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
+    EXPECT_EQ(edit(dialog)->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    EXPECT_EQ(edit(dialog)->sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
+    EXPECT_EQ(box(dialog)->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    EXPECT_FALSE(dialog.isModal());
+}
+
+TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextAndOkAccepts)
+{
+    EnterTextStringDialog dialog(parent, "Name of the new frame:", "Frame 001", "", false);
+    EXPECT_EQ(dialog.findChild<QLabel*>("EnterTextString_Label")->text(), "Name of the new frame:");
+    EXPECT_EQ(dialog.windowTitle(), "Prompt for text string");
+    dialog.show();
+    QTest::keyClicks(edit(dialog), "Pressure map");
+    EXPECT_EQ(dialog.text(), "Pressure map");
+    QTest::mouseClick(ok(dialog), Qt::LeftButton);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.text(), "Pressure map");
+}
+
+TEST_F(EnterTextStringDialogTest, CancelRejects)
+{
+    EnterTextStringDialog dialog(parent, "", "keep", "", false);
+    dialog.show();
+    QTest::keyClicks(edit(dialog), "x");
+    QTest::mouseClick(box(dialog)->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextAndIsDisabledOnceTheUserEmptiesTheField)
+{
+    EnterTextStringDialog dialog(parent, "", "", "", false);
+    dialog.show();
+    EXPECT_TRUE(ok(dialog)->isEnabled());
+    QTest::keyClicks(edit(dialog), "a");
+    EXPECT_TRUE(ok(dialog)->isEnabled());
+    QTest::keyClick(edit(dialog), Qt::Key_Backspace);
+    EXPECT_FALSE(ok(dialog)->isEnabled());
+    QTest::keyClicks(edit(dialog), "b");
+    EXPECT_TRUE(ok(dialog)->isEnabled());
+    QTest::mouseClick(ok(dialog), Qt::LeftButton);
+    EXPECT_EQ(dialog.text(), "b");
+}
+
+TEST_F(EnterTextStringDialogTest, OkButtonTextChangesOnlyOk)
+{
+    EnterTextStringDialog dialog(parent, "", "", "", false);
+    const QString cancelText = box(dialog)->button(QDialogButtonBox::Cancel)->text();
+    dialog.setOkButtonText("&Rename");
+    EXPECT_EQ(ok(dialog)->text(), "&Rename");
+    EXPECT_EQ(box(dialog)->button(QDialogButtonBox::Cancel)->text(), cancelText);
+}
+
+TEST_F(EnterTextStringDialogTest, HelpActionOnlyForANonEmptyPage)
+{
+    EnterTextStringDialog without(parent, "", "", "", true);
+    EXPECT_EQ(without.helpAction(), nullptr);
+    without.show();
+    EXPECT_EQ(without.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), nullptr);
+
+    EnterTextStringDialog with(parent, "", "", "anchor_alignment.html", false);
+    ASSERT_NE(with.helpAction(), nullptr);
+    with.show();
+    EXPECT_NE(with.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), nullptr);
+}
+
+} // namespace

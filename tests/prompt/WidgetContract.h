@@ -1,0 +1,111 @@
+#pragma once
+// Table-driven checks of a layout's contract: object names, classes, texts,
+// grid positions and tab order, as host code and translations rely on them.
+#include <QAbstractButton>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QString>
+#include <QWidget>
+#include <gtest/gtest.h>
+#include <algorithm>
+#include <initializer_list>
+#include <vector>
+
+namespace contract {
+
+struct WidgetRow
+{
+    const char* name;
+    const char* className;
+    const char* text; // nullptr: not checked
+};
+
+struct GridRow
+{
+    const char* layout;
+    const char* item; // a widget or a nested layout
+    int row, column, rowSpan, columnSpan;
+};
+
+inline QString textOf(const QObject& object)
+{
+    if (auto* label = qobject_cast<const QLabel*>(&object))
+        return label->text();
+    if (auto* button = qobject_cast<const QAbstractButton*>(&object))
+        return button->text();
+    if (auto* edit = qobject_cast<const QLineEdit*>(&object))
+        return edit->text();
+    auto* widget = qobject_cast<const QWidget*>(&object);
+    return widget && widget->isWindow() ? widget->windowTitle() : QString();
+}
+
+inline const QObject* find(const QWidget& root, const char* name)
+{
+    if (root.objectName() == name)
+        return &root;
+    return root.findChild<QObject*>(name);
+}
+
+inline void expectWidgets(const QWidget& root, std::initializer_list<WidgetRow> rows)
+{
+    for (const WidgetRow& row : rows)
+    {
+        SCOPED_TRACE(row.name);
+        const QObject* object = find(root, row.name);
+        ASSERT_NE(object, nullptr);
+        EXPECT_STREQ(object->metaObject()->className(), row.className);
+        if (row.text)
+        {
+            EXPECT_EQ(textOf(*object), QString::fromUtf8(row.text));
+        }
+    }
+}
+
+inline void expectGrid(const QWidget& root, std::initializer_list<GridRow> rows)
+{
+    for (const GridRow& row : rows)
+    {
+        SCOPED_TRACE(std::string(row.layout) + " / " + row.item);
+        auto* grid = root.findChild<QGridLayout*>(row.layout);
+        ASSERT_NE(grid, nullptr);
+        int found = -1;
+        for (int i = 0; i < grid->count(); ++i)
+        {
+            QLayoutItem* item = grid->itemAt(i);
+            const QObject* object = item->widget() ? static_cast<QObject*>(item->widget()) : item->layout();
+            if (object && object->objectName() == row.item)
+                found = i;
+        }
+        ASSERT_GE(found, 0) << "not in this layout";
+        int r, c, rs, cs;
+        grid->getItemPosition(found, &r, &c, &rs, &cs);
+        EXPECT_EQ(std::vector<int>({r, c, rs, cs}),
+                  std::vector<int>({row.row, row.column, row.rowSpan, row.columnSpan}));
+    }
+}
+
+// Follows nextInChainFocus from the first name; every later name must come
+// next among the named widgets (unnamed focus stops in between are skipped).
+inline void expectTabOrder(const QWidget& root, std::initializer_list<const char*> names)
+{
+    std::vector<QWidget*> expected;
+    for (const char* name : names)
+    {
+        auto* widget = root.findChild<QWidget*>(name);
+        ASSERT_NE(widget, nullptr) << name;
+        expected.push_back(widget);
+    }
+    QWidget* current = expected.front();
+    for (size_t i = 1; i < expected.size(); ++i)
+    {
+        QWidget* next = current->nextInFocusChain();
+        while (next != expected[i] && next != expected.front() &&
+               std::find(expected.begin(), expected.end(), next) == expected.end())
+            next = next->nextInFocusChain();
+        EXPECT_EQ(next, expected[i]) << "after " << current->objectName().toStdString();
+        current = expected[i];
+    }
+}
+
+} // namespace contract
