@@ -25,7 +25,7 @@ protected:
 private:
     void becameIdle();
 
-    QPointer<QWidget> m_widget;
+    QPointer<QWidget> m_surface;
     bool m_deferred = false;
     boost::signals2::scoped_connection m_idleConnection;
 };

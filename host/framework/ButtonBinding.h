@@ -1,0 +1,28 @@
+#pragma once
+#include <boost/function.hpp>
+#include <QMetaObject>
+
+#include "propertybindings/BindingInterface.h"
+
+class QAbstractButton;
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// Runs an action when a button is clicked. It shows no value, so its updates
+// have nothing to do; it is a binding so that the dialog owns it with the others.
+class ButtonBinding : public BindingInterface
+{
+public:
+    ButtonBinding(QAbstractButton& button, const boost::function<void ()>& action);
+    ~ButtonBinding() override;
+
+    void updateWidget() override {}
+    void updateVisibility() override {}
+    void updateSensitivity() override {}
+
+private:
+    boost::function<void ()> m_action;
+    QMetaObject::Connection m_connection;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,15 @@
+#include "framework/FieldPlotTypeDependentRelevance.h"
+
+#include "platform/kernel/OrrUtil.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+FieldPlotTypeDependentRelevance::FieldPlotTypeDependentRelevance()
+    : StateChangeDependentRelevance([] {
+          const PlotType_e plotType = OrrUtilFrameGetPlotType();
+          return plotType == PlotType_ThreeD || plotType == PlotType_TwoD;
+      })
+{
+}
+
+} // namespace orrery::sdk::ui::propertymanager

@@ -1,0 +1,13 @@
+#pragma once
+#include "framework/StateChangeDependentRelevance.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+// Relevant while the current frame shows a field plot (3D or 2D Cartesian).
+class FieldPlotTypeDependentRelevance : public StateChangeDependentRelevance
+{
+public:
+    FieldPlotTypeDependentRelevance();
+};
+
+} // namespace orrery::sdk::ui::propertymanager

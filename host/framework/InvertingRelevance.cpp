@@ -1,0 +1,15 @@
+#include "framework/InvertingRelevance.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+InvertingRelevance::InvertingRelevance(const boost::shared_ptr<const RelevanceInterface>& inverted)
+    : m_inverted(inverted)
+{
+    m_relay = inverted->connectToRelevanceChangedSignal([this] { emitRelevanceChanged(); });
+}
+
+InvertingRelevance::~InvertingRelevance() = default;
+
+bool InvertingRelevance::isRelevant() const { return !m_inverted->isRelevant(); }
+
+} // namespace orrery::sdk::ui::propertymanager

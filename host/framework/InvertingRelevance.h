@@ -1,0 +1,22 @@
+#pragma once
+#include <boost/shared_ptr.hpp>
+#include <boost/signals2/connection.hpp>
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+// Relevant exactly when the wrapped relevance is not; relays its changes.
+class InvertingRelevance : public virtual RelevanceInterface
+{
+public:
+    explicit InvertingRelevance(const boost::shared_ptr<const RelevanceInterface>& inverted);
+    ~InvertingRelevance() override;
+
+    bool isRelevant() const override;
+
+private:
+    boost::shared_ptr<const RelevanceInterface> m_inverted;
+    boost::signals2::scoped_connection m_relay;
+};
+
+} // namespace orrery::sdk::ui::propertymanager

@@ -1,0 +1,15 @@
+#include "framework/LinePlotTypeDependentRelevance.h"
+
+#include "platform/kernel/OrrUtil.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+LinePlotTypeDependentRelevance::LinePlotTypeDependentRelevance()
+    : StateChangeDependentRelevance([] {
+          const PlotType_e plotType = OrrUtilFrameGetPlotType();
+          return plotType == PlotType_XYLine || plotType == PlotType_PolarLine;
+      })
+{
+}
+
+} // namespace orrery::sdk::ui::propertymanager

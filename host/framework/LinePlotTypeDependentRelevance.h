@@ -1,0 +1,13 @@
+#pragma once
+#include "framework/StateChangeDependentRelevance.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+// Relevant while the current frame shows a line plot (XY or polar).
+class LinePlotTypeDependentRelevance : public StateChangeDependentRelevance
+{
+public:
+    LinePlotTypeDependentRelevance();
+};
+
+} // namespace orrery::sdk::ui::propertymanager

@@ -1,0 +1,28 @@
+#pragma once
+#include <boost/function.hpp>
+#include <boost/signals2/connection.hpp>
+
+#include "platform/common/OnIdleActionPerformerSingleShot.h"
+#include "platform/sdk/StateChangeEventInterface.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// Runs an action once on idle after one or more host state changes that pass a
+// predicate.
+class OnIdleAfterStateChangeActionPerformer
+{
+public:
+    typedef boost::function<bool (const integration::StateChangeEventInterface&)> Predicate;
+
+    OnIdleAfterStateChangeActionPerformer(const Predicate& predicate, const boost::function<void ()>& action);
+    ~OnIdleAfterStateChangeActionPerformer();
+
+private:
+    void stateChanged(const integration::StateChangeEventInterface& event);
+
+    Predicate m_predicate;
+    common::OnIdleActionPerformerSingleShot m_performer;
+    boost::signals2::scoped_connection m_stateChanges;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

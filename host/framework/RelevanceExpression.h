@@ -1,0 +1,37 @@
+#pragma once
+#include <vector>
+#include <boost/shared_ptr.hpp>
+#include "platform/common/SignalConnectionCollection.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+// A combination of relevances read left to right, without precedence:
+// RelevanceExpression(a).aand(b).oor(c) is ((a and b) or c). Relays the
+// changes of every term.
+class RelevanceExpression : public virtual RelevanceInterface
+{
+public:
+    explicit RelevanceExpression(const boost::shared_ptr<const RelevanceInterface>& first);
+    ~RelevanceExpression() override;
+
+    RelevanceExpression& aand(const boost::shared_ptr<const RelevanceInterface>& term);
+    RelevanceExpression& oor(const boost::shared_ptr<const RelevanceInterface>& term);
+
+    bool isRelevant() const override;
+
+private:
+    enum Operator_e { Operator_And, Operator_Or };
+    struct Term
+    {
+        Operator_e op;
+        boost::shared_ptr<const RelevanceInterface> relevance;
+    };
+
+    RelevanceExpression& add(Operator_e op, const boost::shared_ptr<const RelevanceInterface>& term);
+
+    std::vector<Term> m_terms;
+    SignalConnectionCollection m_relays;
+};
+
+} // namespace orrery::sdk::ui::propertymanager

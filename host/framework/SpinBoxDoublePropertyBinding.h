@@ -1,0 +1,24 @@
+#pragma once
+#include <memory>
+#include "framework/SpinBoxIncDecCalculatorBase.h"
+#include "framework/SpinBoxPropertyBindingAbstract.h"
+#include "platform/ui/QScientificSpinBox.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// A scientific spin box editing a double property; its steps are sized by a
+// calculator, which the binding owns.
+class SpinBoxDoublePropertyBinding : public SpinBoxPropertyBindingAbstract<double, orrery::ui::QScientificSpinBox, double>
+{
+public:
+    SpinBoxDoublePropertyBinding(orrery::ui::QScientificSpinBox* spinBox,
+                                 const boost::shared_ptr<PropertyAbstract<double>>& property,
+                                 propertymanager::SpinBoxIncDecCalculatorBase* calculator,
+                                 BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle);
+    ~SpinBoxDoublePropertyBinding() override;
+
+private:
+    std::unique_ptr<propertymanager::SpinBoxIncDecCalculatorBase> m_calculator;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

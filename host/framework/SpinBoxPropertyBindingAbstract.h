@@ -1,0 +1,52 @@
+#pragma once
+#include <QMetaObject>
+#include <QObject>
+
+#include "propertybindings/ScopedExitAction.h"
+#include "propertybindings/UIPropertyBindingAbstract.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings {
+
+// A spin box showing a property. The spin box reports its value when the user
+// commits it (Return, focus loss, a step); that value is written to the
+// property. A refresh from the property writes nothing back, even when the spin
+// box bends the value to its range: the property keeps what it was given.
+template <typename T, typename SpinBox, typename Shown>
+class SpinBoxPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
+{
+public:
+    SpinBoxPropertyBindingAbstract(SpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<T>>& property,
+                                   BindingInterface::WidgetUpdateMode_e mode)
+        : UIPropertyBindingAbstract<T>(property, mode), m_spinBox(spinBox)
+    {
+        void (SpinBox::*changed)(Shown) = &SpinBox::valueChanged;
+        m_connection = QObject::connect(&spinBox, changed, &spinBox, [this](Shown value) { spinBoxChanged(value); });
+    }
+    ~SpinBoxPropertyBindingAbstract() override { QObject::disconnect(m_connection); }
+
+    void updateWidget() override
+    {
+        ScopedExitAction lowerGuard(ScopedExitAction::raiseUntilExit(m_updatingWidget));
+        m_spinBox.setValue(toShown(this->property().retrieveValue()));
+    }
+    void updateVisibility() override { m_spinBox.setVisible(this->isPropertyVisible()); }
+    void updateSensitivity() override { m_spinBox.setEnabled(this->isPropertySensitive()); }
+
+protected:
+    SpinBox& spinBox() const { return m_spinBox; }
+
+private:
+    virtual Shown toShown(const T& value) const { return static_cast<Shown>(value); }
+
+    void spinBoxChanged(Shown value)
+    {
+        if (!m_updatingWidget)
+            this->writePropertyReportingRejection(static_cast<T>(value));
+    }
+
+    SpinBox& m_spinBox;
+    bool m_updatingWidget = false;
+    QMetaObject::Connection m_connection;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -1,0 +1,23 @@
+#pragma once
+#include <boost/function.hpp>
+#include <boost/signals2/connection.hpp>
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+// Relevance given by a predicate over the host's state, asked again after every
+// announced change of that state.
+class StateChangeDependentRelevance : public virtual RelevanceInterface
+{
+public:
+    explicit StateChangeDependentRelevance(const boost::function<bool ()>& predicate);
+    ~StateChangeDependentRelevance() override;
+
+    bool isRelevant() const override;
+
+private:
+    boost::function<bool ()> m_predicate;
+    boost::signals2::scoped_connection m_stateChanges;
+};
+
+} // namespace orrery::sdk::ui::propertymanager

@@ -1,0 +1,17 @@
+#pragma once
+#include "framework/models/DataSetListModelAbstract.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::models {
+
+// The variables enabled in the current frame, in ascending order; a row's
+// value is the variable number, its text the variable's name.
+class EnabledVariablesListModel : public DataSetListModelAbstract
+{
+public:
+    EnabledVariablesListModel();
+
+private:
+    std::vector<Row> fetchRows() const override;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::models

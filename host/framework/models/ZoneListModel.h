@@ -1,0 +1,25 @@
+#pragma once
+#include <boost/function.hpp>
+#include "framework/models/DataSetListModelAbstract.h"
+#include "platform/toolbox/Set.h"
+
+namespace orrery::sdk::ui::dialogs::propertybindings::models {
+
+// The zones that a source function gives for the current frame, in ascending
+// order; a row's value is the zone number, its text the zone's name (preceded
+// by the number when numbered).
+class ZoneListModel : public DataSetListModelAbstract
+{
+public:
+    typedef boost::function<toolbox::Set (long frameUniqueID)> ZoneSource;
+
+    ZoneListModel(const ZoneSource& zones, bool numbered);
+
+private:
+    std::vector<Row> fetchRows() const override;
+
+    ZoneSource m_zones;
+    const bool m_numbered;
+};
+
+} // namespace orrery::sdk::ui::dialogs::propertybindings::models
