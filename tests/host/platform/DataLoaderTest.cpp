@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+#include <boost/make_shared.hpp>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include "platform/kernel/Kernel.h"
+#include "platform/kernel/KernelTestSupport.h"
+#include "platform/loaders/DataLoaderRepository.h"
+
+using namespace orrery::sdk;
+using orrery::kernel::Kernel;
+using orrery::kernel::testing::KernelTestSupport;
+
+namespace {
+
+class DataLoading : public ::testing::Test
+{
+protected:
+    void SetUp() override { KernelTestSupport::resetKernel(); }
+
+    std::string file(const char* name, const QByteArray& content)
+    {
+        const QString path = QDir(folder.path()).filePath(name);
+        QFile out(path);
+        EXPECT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(content);
+        return path.toStdString();
+    }
+
+    bool load(const std::string& loaderName, const std::string& path)
+    {
+        error.clear();
+        return DataLoaderRepository::getInstance().loaderNamed(loaderName)->load(path, error);
+    }
+
+    const orrery::kernel::DataSet& data() { return Kernel::instance().dataSet(); }
+
+    QTemporaryDir folder;
+    std::string error;
+};
+
+class HiddenLoader : public DataLoaderInterface
+{
+public:
+    Properties properties() const override { return {"Raw dump", "", {"csv"}, true}; }
+    bool load(const std::string&, std::string&) override { return false; }
+};
+
+} // namespace
+
+TEST_F(DataLoading, CsvTableBecomesOneZone)
+{
+    ASSERT_TRUE(load("CSV table", file("probe.csv", "\"x\", \"p\"\n0,1.5\n# comment\n\n2, -3e2\r\n")));
+    EXPECT_EQ(1, data().numZones());
+    EXPECT_EQ("probe", data().zoneName(1));
+    EXPECT_EQ("p", data().varName(2));
+    EXPECT_EQ((std::vector<double>{1.5, -300.0}), data().values(1, 2));
+}
+
+TEST_F(DataLoading, WhitespaceTableSplitsOnSpacesAndTabs)
+{
+    ASSERT_TRUE(load("Text table", file("run.dat", "t   T\n0\t300\n1  310\n")));
+    EXPECT_EQ(2, data().numVars());
+    EXPECT_EQ((std::vector<double>{300.0, 310.0}), data().values(1, 2));
+}
+
+TEST_F(DataLoading, ZoneBlocksGiveNamedZones)
+{
+    ASSERT_TRUE(load("Zone blocks", file("two.zbk",
+                                         "TITLE Two blocks\nVARIABLES X Y\nZONE Left part\n0 0\n1 1\n"
+                                         "ZONE Right\n2 4\n")));
+    EXPECT_EQ("Two blocks", data().title());
+    EXPECT_EQ(2, data().numZones());
+    EXPECT_EQ("Left part", data().zoneName(1));
+    EXPECT_EQ(1u, data().pointCount(2));
+}
+
+TEST_F(DataLoading, BadFilesAreRefusedWithTheLineAndChangeNothing)
+{
+    KernelTestSupport::loadSampleDataSet();
+    EXPECT_FALSE(load("CSV table", file("bad.csv", "a,b\n1,2\n3\n")));
+    EXPECT_EQ("Line 3: 1 values where 2 were expected.", error);
+    EXPECT_FALSE(load("Text table", file("bad.txt", "a b\n1 two\n")));
+    EXPECT_EQ("Line 2: \"two\" is not a number.", error);
+    EXPECT_FALSE(load("Zone blocks", file("bad.zbk", "ZONE z\n1 2\n")));
+    EXPECT_EQ("Line 1: a zone starts before the VARIABLES line.", error);
+    EXPECT_FALSE(load("CSV table", file("empty.csv", "a,b\n")));
+    EXPECT_FALSE(load("CSV table", folder.path().toStdString() + "/missing.csv"));
+    EXPECT_EQ("Heated plate", data().title());
+}
+
+TEST_F(DataLoading, RepositoryFindsLoadersByExtension)
+{
+    DataLoaderRepository& repository = DataLoaderRepository::getInstance();
+    EXPECT_EQ(3u, repository.dataLoaderInterfaces(false).size());
+    ASSERT_EQ(1u, repository.loadersForExtension(".DAT").size());
+    EXPECT_EQ("Text table", repository.loadersForExtension("dat")[0]->properties().name);
+    EXPECT_TRUE(repository.loadersForExtension("xyz").empty());
+
+    repository.registerLoader(boost::make_shared<HiddenLoader>());
+    EXPECT_EQ(3u, repository.dataLoaderInterfaces(false).size());
+    EXPECT_EQ(4u, repository.dataLoaderInterfaces(true).size());
+    EXPECT_EQ(1u, repository.loadersForExtension("csv").size());
+    EXPECT_FALSE(repository.loaderNamed("No such loader"));
+}

@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+#include "StyleCalls.h"
+
+using namespace stylecalls;
+using orrery::kernel::testing::KernelTestSupport;
+
+namespace {
+
+class StyleWrite : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        KernelTestSupport::resetKernel();
+        KernelTestSupport::loadSampleDataSet(); // five variables
+    }
+};
+
+struct Refusal
+{
+    std::string name;
+    StringList path;
+    long value;
+    std::string text;
+};
+
+class StyleWriteRefused : public StyleWrite, public ::testing::WithParamInterface<Refusal>
+{
+};
+
+} // namespace
+
+TEST_P(StyleWriteRefused, LeavesTheOldValueAndExplainsWhy)
+{
+    const Refusal& r = GetParam();
+    const auto before = readLong(r.path);
+    ASSERT_TRUE(before);
+    EXPECT_EQ(SetValue_InvalidValue, writeLong(r.path, r.value));
+    EXPECT_EQ(r.text, lastError());
+    EXPECT_EQ(before, readLong(r.path));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    IntegerRules, StyleWriteRefused,
+    ::testing::Values(
+        Refusal{"ChannelVariable", {"GlobalRGB", "RedChannelVar"}, 9, "Variable number 9 is out of range (1 to 5)."},
+        Refusal{"AxisVariable", {"TwoDAxis", "XDetail", "VarNum"}, -1, "Variable number -1 is out of range (1 to 5)."},
+        Refusal{"RGBMode", {"GlobalRGB", "RGBMode"}, 4, "RGB mode 4 is not valid (0 to 3)."},
+        Refusal{"PlotType", {"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}),
+    [](const ::testing::TestParamInfo<Refusal>& info) { return info.param.name; });
+
+TEST_F(StyleWrite, RangeLimitsMustStayOrdered)
+{
+    EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalRGB", "RangeMax"}, 10.0));
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalRGB", "RangeMin"}, 10.0));
+    EXPECT_EQ("The minimum (10) must be less than the maximum (10).", lastError());
+    EXPECT_EQ(0.0, readFinal<double>({"GlobalRGB", "RangeMin"}));
+    EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalRGB", "RangeMin"}, 9.5));
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalRGB", "RangeMax"}, 9.0));
+    EXPECT_EQ("The maximum (9) must be greater than the minimum (9.5).", lastError());
+}
+
+TEST_F(StyleWrite, TextAndSizeRules)
+{
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<std::string>({"GlobalScatter", "BaseFontFamily"}, ""));
+    EXPECT_EQ("The font family must not be empty.", lastError());
+    EXPECT_EQ(SetValue_Ok, writeFinal<std::string>({"GlobalLinePlot", "BaseFontFamily"}, "Serif"));
+    EXPECT_EQ("Serif", readFinal<std::string>({"GlobalLinePlot", "BaseFontFamily"}));
+    EXPECT_EQ("Sans Serif", readFinal<std::string>({"GlobalScatter", "BaseFontFamily"}));
+
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 0.0));
+    EXPECT_EQ("The relative size must be greater than zero.", lastError());
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"BasicSize", "SymbolSizes", "Medium"}, 101.0));
+}
+
+TEST_F(StyleWrite, SuccessfulWriteClearsTheLastError)
+{
+    writeLong({"GlobalRGB", "RGBMode"}, 7);
+    ASSERT_FALSE(lastError().empty());
+    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 2));
+    EXPECT_EQ(2, readLong({"GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(nullptr, OrrUtilStyleGetLastErrorString());
+}
+
+TEST_F(StyleWrite, UnknownPathsAreRefusedAndUnreadable)
+{
+    EXPECT_EQ(SetValue_UnknownPath, writeLong({"GlobalRGB", "PurpleChannelVar"}, 1));
+    EXPECT_EQ("Unknown style path: GlobalRGB/PurpleChannelVar", lastError());
+    EXPECT_FALSE(readLong({"GlobalRGB", "PurpleChannelVar"}));
+    EXPECT_FALSE(readLong({"GlobalRGB"})); // a group, not a value
+}
+
+TEST_F(StyleWrite, ValueOfTheWrongTypeIsRefused)
+{
+    EXPECT_EQ(SetValue_TypeMismatch, writeFinal<double>({"GlobalScatter", "BaseFontFamily"}, 1.0));
+    EXPECT_EQ("Style path GlobalScatter/BaseFontFamily takes a text value.", lastError());
+    EXPECT_FALSE(readFinal<double>({"GlobalScatter", "BaseFontFamily"}));
+    EXPECT_EQ(true, readFinal<bool>({"GlobalScatter", "RelativeSizeInGridUnits"}));
+}
+
+TEST_F(StyleWrite, VariableWriteWithoutVariablesIsDeclinedSilently)
+{
+    KernelTestSupport::clearDataSet();
+    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "GreenChannelVar"}, 2));
+    EXPECT_EQ("", lastError());
+    EXPECT_EQ(0, readLong({"GlobalRGB", "GreenChannelVar"}));
+    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "GreenChannelVar"}, 0));
+}
+
+TEST_F(StyleWrite, ForcedOutcomesApplyToTheNextWriteOnly)
+{
+    KernelTestSupport::declineNextWrite();
+    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_EQ(0, readLong({"GlobalRGB", "RGBMode"}));
+    KernelTestSupport::refuseNextWrite("Busy elsewhere.");
+    EXPECT_EQ(SetValue_InvalidValue, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_EQ("Busy elsewhere.", lastError());
+    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_EQ(3, KernelTestSupport::styleWriteCount({"GlobalRGB", "RGBMode"}));
+}
+
+TEST_F(StyleWrite, ArithmeticAssignmentWorksOnNumbersOnly)
+{
+    EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 1.5, AssignOp_TimesEquals));
+    EXPECT_EQ(1.5, readFinal<double>({"GlobalScatter", "RelativeSize"}));
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 0.0, AssignOp_DivideEquals));
+    EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 2.0, AssignOp_MinusEquals));
+    EXPECT_EQ(1.5, readFinal<double>({"GlobalScatter", "RelativeSize"}));
+    EXPECT_EQ(SetValue_InvalidOperator, writeFinal<bool>({"GlobalScatter", "BaseFontIsBold"}, true, AssignOp_PlusEquals));
+}
+
+TEST_F(StyleWrite, FramePrefixAddressesAnotherFrame)
+{
+    KernelTestSupport::setFrameCount(2); // frame 2 is now current
+    EXPECT_EQ(SetValue_Ok, writeLong({"Frame", "1", "GlobalRGB", "RGBMode"}, 3));
+    EXPECT_EQ(3, readLong({"Frame", "1", "GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(0, readLong({"GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(SetValue_NoFrame, writeLong({"Frame", "7", "GlobalRGB", "RGBMode"}, 3));
+    EXPECT_EQ("There is no frame 7.", lastError());
+}
+
+TEST_F(StyleWrite, WithoutFramesThereIsNoStyle)
+{
+    KernelTestSupport::setFrameCount(0);
+    EXPECT_EQ(SetValue_NoFrame, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_FALSE(readLong({"GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(PlotType_Sketch, OrrUtilFrameGetPlotType());
+}
+
+TEST(StyleValueIdentifiers, OneStableIdentifierPerName)
+{
+    const StyleValue a("GlobalRGB", "RangeMin");
+    const StyleValue b(StringList{"GlobalRGB", "RangeMax"});
+    ASSERT_EQ(2u, a.macroIDs().size());
+    EXPECT_EQ(a.macroIDs()[0], b.macroIDs()[0]);
+    EXPECT_NE(a.macroIDs()[1], b.macroIDs()[1]);
+    EXPECT_EQ((StringList{"GlobalRGB", "RangeMin"}), a.names());
+    const StyleValue copy(a);
+    EXPECT_EQ(a.macroIDs()[1], copy.macroIDs()[1]);
+}
+
+TEST(StyleValueIdentifiers, ExtraNamesContinueThePath)
+{
+    KernelTestSupport::resetKernel();
+    const StyleValue group("GlobalRGB");
+    RawArray<long> ids;
+    ids.append(group.macroIDs());
+    group.initMacroIDsfromStyleValueNames("RGBMode", nullptr, "ignored", nullptr, nullptr, nullptr, nullptr, ids);
+    ids.push_back(-1);
+    EXPECT_EQ(3u, ids.size());
+    ArgList args;
+    group.setupGetValueArgList(ids, -1, -1, args);
+    long mode = -1;
+    args.appendArbParamPtr("IValue", &mode);
+    EXPECT_EQ(GetValue_Ok, CheckedStyleValue(group).styleGetLowLevel(args));
+    EXPECT_EQ(0, mode);
+}
