@@ -6,7 +6,7 @@ namespace orrery {
 namespace kernel {
 
 // One frame of the current page: its style, the zones and variables it uses
-// and its size on the page.
+// and its height on the page.
 class Frame
 {
 public:
@@ -20,7 +20,6 @@ public:
 
     toolbox::Set enabledZones;
     toolbox::Set enabledVars;
-    double widthCm = 24.0;
     double heightCm = DefaultHeightCm;
 
 private:

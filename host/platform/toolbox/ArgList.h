@@ -36,7 +36,6 @@ public:
     void appendSet(const std::string& name, const Set* set);
     void appendArray(const std::string& name, const std::vector<long>& values);
 
-    bool contains(const std::string& name) const { return m_args.count(name) != 0; }
     // The argument of that name when it holds a T, else null.
     template <typename T>
     const T* find(const std::string& name) const

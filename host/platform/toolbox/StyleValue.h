@@ -40,7 +40,8 @@ public:
                                          const char* n7, RawArray<long>& ids) const;
 
     // Fill args for a read or write of the path in ids at the given collection
-    // member (-1: none). A write applies to every member of set when set is given.
+    // member (-1: none; no family has a second level yet, so second is carried but
+    // unused). A write applies to every member of set when set is given.
     void setupGetValueArgList(const RawArray<long>& ids, long first, long second,
                               ArgList& args) const;
     void setupSetValueArgList(const RawArray<long>& ids, const Set* set, long first,

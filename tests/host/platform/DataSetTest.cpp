@@ -33,6 +33,7 @@ TEST_F(KernelDataSet, NamesAndCounts)
     EXPECT_TRUE(OrrUtilDataSetIsAvailable());
     EXPECT_EQ(3, OrrUtilDataSetGetNumZones());
     EXPECT_EQ(5, OrrUtilDataSetGetNumVars());
+    EXPECT_EQ("Heated plate", owned(OrrUtilDataSetGetTitle()));
     EXPECT_EQ("Channel", owned(OrrUtilZoneGetName(2)));
     EXPECT_EQ("Temperature", owned(OrrUtilVarGetName(5)));
     EXPECT_EQ("<null>", owned(OrrUtilVarGetName(6)));
@@ -51,7 +52,10 @@ TEST_F(KernelDataSet, RangesCoverTheEnabledZonesOnly)
     EXPECT_DOUBLE_EQ(101325.0 - 150.0 * 9, min);
     EXPECT_DOUBLE_EQ(101325.0 + 20.0, max);
 
-    KernelTestSupport::setEnabledZones({2});
+    KernelTestSupport::setEnabledZones({2, 7}); // zone 7 does not exist and is dropped
+    EXPECT_FALSE(OrrUtilZoneIsEnabled(1));
+    EXPECT_TRUE(OrrUtilZoneIsEnabled(2));
+    EXPECT_FALSE(OrrUtilZoneIsEnabled(7));
     ASSERT_TRUE(OrrUtilVarGetMinMax(1, &min, &max));
     EXPECT_DOUBLE_EQ(3.0, min);
     EXPECT_DOUBLE_EQ(6.0, max);

@@ -116,7 +116,9 @@ TEST_F(StyleWrite, ForcedOutcomesApplyToTheNextWriteOnly)
     EXPECT_EQ(SetValue_InvalidValue, writeLong({"GlobalRGB", "RGBMode"}, 1));
     EXPECT_EQ("Busy elsewhere.", lastError());
     EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    writeLong({"GlobalRGB", "RangeMin"}, 0);
     EXPECT_EQ(3, KernelTestSupport::styleWriteCount({"GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(4, KernelTestSupport::styleWriteCount());
 }
 
 TEST_F(StyleWrite, ArithmeticAssignmentWorksOnNumbersOnly)
