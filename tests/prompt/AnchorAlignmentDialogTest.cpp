@@ -4,10 +4,9 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyle>
-#include <QStyleOptionButton>
 #include <QTest>
 #include <gtest/gtest.h>
+#include "UserActions.h"
 #include "WidgetContract.h"
 #include "prompt/AnchorAlignmentDialog.h"
 
@@ -37,15 +36,6 @@ protected:
             if (button(d, a)->isChecked())
                 return a;
         return -1;
-    }
-    static void click(QAbstractButton* b) { QTest::mouseClick(b, Qt::LeftButton); }
-    // A text-less radio button reacts only on its indicator, as for a user.
-    static void click(QRadioButton* b)
-    {
-        QStyleOptionButton option;
-        option.initFrom(b);
-        const QRect indicator = b->style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, b);
-        QTest::mouseClick(b, Qt::LeftButton, Qt::NoModifier, indicator.center());
     }
     static QPushButton* standard(AnchorAlignmentDialog& d, QDialogButtonBox::StandardButton which)
     {
@@ -119,7 +109,7 @@ TEST_F(AnchorAlignmentDialogTest, AnOutOfRangeAlignmentShowsTopLeftButKeepsItsVa
         dialog.show();
         EXPECT_EQ(checked(dialog), 0);
         EXPECT_EQ(dialog.selectedAlignment(), initial);
-        click(button(dialog, 5));
+        user::click(button(dialog, 5));
         EXPECT_EQ(dialog.selectedAlignment(), 5);
     }
 }
@@ -130,8 +120,8 @@ TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndOkKeepsIt)
     for (int a : {8, 0, 1, 2, 3, 4, 5, 6, 7})
     {
         dialog->show();
-        click(button(*dialog, a));
-        click(standard(*dialog, QDialogButtonBox::Ok));
+        user::click(button(*dialog, a));
+        user::click(standard(*dialog, QDialogButtonBox::Ok));
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(dialog->result(), QDialog::Accepted);
         EXPECT_EQ(dialog->selectedAlignment(), a);
@@ -142,14 +132,14 @@ TEST_F(AnchorAlignmentDialogTest, CancelRestoresTheInitialAlignment)
 {
     AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomRight, parent);
     dialog->show();
-    click(button(*dialog, AnchorAlignment_MiddleCenter));
+    user::click(button(*dialog, AnchorAlignment_MiddleCenter));
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_MiddleCenter);
-    click(standard(*dialog, QDialogButtonBox::Cancel));
+    user::click(standard(*dialog, QDialogButtonBox::Cancel));
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
 
     dialog->show();
-    click(button(*dialog, AnchorAlignment_TopCenter));
+    user::click(button(*dialog, AnchorAlignment_TopCenter));
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
@@ -159,8 +149,8 @@ TEST_F(AnchorAlignmentDialogTest, ALaterGetInstanceOnlyReplacesWhatCancelRestore
 {
     AnchorAlignmentDialog* first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
     first->show();
-    click(button(*first, AnchorAlignment_BottomLeft));
-    click(standard(*first, QDialogButtonBox::Ok));
+    user::click(button(*first, AnchorAlignment_BottomLeft));
+    user::click(standard(*first, QDialogButtonBox::Ok));
 
     QWidget otherParent;
     AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopRight, otherParent);
@@ -170,7 +160,7 @@ TEST_F(AnchorAlignmentDialogTest, ALaterGetInstanceOnlyReplacesWhatCancelRestore
     EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_BottomLeft);
 
     second->show();
-    click(standard(*second, QDialogButtonBox::Cancel));
+    user::click(standard(*second, QDialogButtonBox::Cancel));
     EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_TopRight);
     EXPECT_EQ(checked(*second), AnchorAlignment_BottomLeft); // the buttons are not reset
 }

@@ -1,0 +1,42 @@
+#pragma once
+#include <memory>
+#include <string>
+#include "framework/QtDialogAbstract.h"
+#include "platform/kernel/OrrTypes.h"
+#include "prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Asks for one character to draw as a plot symbol, and its font: the base font
+// or the Greek, Math or user-defined symbol font.
+class EnterASCIICharacterDialog : public common::QtDialogAbstract,
+                                  public virtual common::DialogInterface,
+                                  public SingleInstanceDialog<EnterASCIICharacterDialog>
+{
+    Q_OBJECT
+public:
+    // The first call fixes the initial character and font; a live dialog is
+    // returned as the user left it and the arguments are ignored.
+    static EnterASCIICharacterDialog* getInstance(QWidget& parent, std::string initialChar, bool useBaseFont,
+                                                  Font_e font);
+
+    EnterASCIICharacterDialog(QWidget& parent, std::string initialChar, Font_e font);
+    ~EnterASCIICharacterDialog() override;
+
+    std::string selectedChar() const;
+    // Derived from the font: 255 is the single encoding of the base font.
+    bool useBaseFont() const;
+    Font_e typeFaceOverride() const;
+
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,34 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <boost/shared_ptr.hpp>
+#include "platform/kernel/OrrTypes.h"
+#include "property/PropertyAbstract.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The symbol character and the font it is drawn in. The font 255 stands for
+// the plot's base font (no override).
+class EnterASCIICharacterPropertiesManager
+{
+public:
+    EnterASCIICharacterPropertiesManager(std::string const& initialChar, Font_e font);
+    ~EnterASCIICharacterPropertiesManager();
+
+    // Refuses the empty string.
+    boost::shared_ptr<PropertyAbstract<std::string>> selectedChar() const;
+    boost::shared_ptr<PropertyAbstract<Font_e>> typeFaceOverride() const;
+
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,45 @@
+#pragma once
+#include <memory>
+#include <string>
+#include "framework/QtDialogAbstract.h"
+#include "prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Asks for three whole numbers side by side (by default a begin, an end and a
+// skip), with captions, title and lower limits chosen by the caller.
+class EnterThreeIntValuesDialog : public common::QtDialogAbstract,
+                                  public virtual common::DialogInterface,
+                                  public SingleInstanceDialog<EnterThreeIntValuesDialog>
+{
+    Q_OBJECT
+public:
+    // The first call fixes everything; a live dialog is returned as the user
+    // left it and the arguments are ignored.
+    static EnterThreeIntValuesDialog* getInstance(QWidget& parent, long value1, long value2, long value3,
+                                                  std::string const& title, std::string const& helpPage,
+                                                  std::string label1, std::string label2, std::string label3,
+                                                  long minimum1, long minimum2, long minimum3);
+
+    // A lower limit of 0 or below leaves the spin box's own lower end in place.
+    EnterThreeIntValuesDialog(QWidget& parent, std::string const& title, std::string const& helpPage, long value1,
+                              long value2, long value3, std::string label1, std::string label2, std::string label3,
+                              long minimum1, long minimum2, long minimum3);
+    ~EnterThreeIntValuesDialog() override;
+
+    long value1() const;
+    long value2() const;
+    long value3() const;
+
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,32 @@
+#pragma once
+#include <memory>
+#include <boost/shared_ptr.hpp>
+#include "property/PropertyAbstract.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The three whole numbers of the three-values prompt; any value is accepted.
+class EnterThreeIntValuesPropertiesManager
+{
+public:
+    EnterThreeIntValuesPropertiesManager(long value1, long value2, long value3);
+    ~EnterThreeIntValuesPropertiesManager();
+
+    boost::shared_ptr<PropertyAbstract<long>> value1() const;
+    boost::shared_ptr<PropertyAbstract<long>> value2() const;
+    boost::shared_ptr<PropertyAbstract<long>> value3() const;
+
+    // The values only mean something while there is a data set.
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

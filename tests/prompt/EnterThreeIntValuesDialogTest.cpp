@@ -1,0 +1,205 @@
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSpinBox>
+#include <QTest>
+#include <gtest/gtest.h>
+#include "UserActions.h"
+#include "WidgetContract.h"
+#include "platform/common/IdleQueue.h"
+#include "platform/kernel/KernelTestSupport.h"
+#include "prompt/EnterThreeIntValuesDialog.h"
+
+using orrery::dialogs::prompt::EnterThreeIntValuesDialog;
+using orrery::kernel::testing::KernelTestSupport;
+using orrery::sdk::ui::common::IdleQueue;
+
+namespace {
+
+class EnterThreeIntValuesDialogTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        KernelTestSupport::resetKernel();
+        KernelTestSupport::loadSampleDataSet();
+    }
+
+    // The default range prompt: begin, end and skip, all at least 1.
+    EnterThreeIntValuesDialog* rangePrompt(long begin = 1, long end = 10, long skip = 1, QWidget* owner = nullptr)
+    {
+        return EnterThreeIntValuesDialog::getInstance(owner ? *owner : parent, begin, end, skip, "Index Range",
+                                                      "select_variable.html", "&Begin", "&End", "&Skip", 1, 1, 1);
+    }
+    static QSpinBox* spin(QWidget& d, int i) { return d.findChild<QSpinBox*>(QString("value%1").arg(i)); }
+
+    QWidget parent;
+};
+
+TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
+{
+    EnterThreeIntValuesDialog* dialog = rangePrompt();
+    contract::expectWidgets(*dialog, {
+        {"EnterThreeIntValues", "orrery::dialogs::prompt::EnterThreeIntValuesDialog", "Index Range"},
+        {"verticalLayout", "QVBoxLayout", nullptr},
+        {"gridLayout_2", "QGridLayout", nullptr},
+        {"gridLayout", "QGridLayout", nullptr},
+        {"topLabel", "QLabel", "TextLabel"},
+        {"valueLabel1", "QLabel", "&Begin"},
+        {"valueLabel2", "QLabel", "&End"},
+        {"valueLabel3", "QLabel", "&Skip"},
+        {"value1", "orrery::ui::IntegralSpinBox", nullptr},
+        {"value2", "orrery::ui::IntegralSpinBox", nullptr},
+        {"value3", "orrery::ui::IntegralSpinBox", nullptr},
+        {"buttonBox", "QDialogButtonBox", nullptr},
+    });
+    contract::expectGrid(*dialog, {
+        {"gridLayout_2", "topLabel", 0, 0, 1, 1},
+        {"gridLayout_2", "gridLayout", 1, 0, 1, 3},
+        {"gridLayout_2", "buttonBox", 3, 2, 1, 1},
+        {"gridLayout", "valueLabel1", 0, 0, 1, 1},
+        {"gridLayout", "value1", 1, 0, 1, 1},
+        {"gridLayout", "valueLabel2", 0, 2, 1, 1},
+        {"gridLayout", "value2", 1, 2, 1, 1},
+        {"gridLayout", "valueLabel3", 0, 4, 1, 1},
+        {"gridLayout", "value3", 1, 4, 1, 1},
+    });
+    contract::expectTabOrder(*dialog, {"value1", "value2", "value3"});
+    for (int i = 1; i <= 3; ++i)
+    {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(dialog->findChild<QLabel*>(QString("valueLabel%1").arg(i))->buddy(), spin(*dialog, i));
+        EXPECT_FALSE(spin(*dialog, i)->keyboardTracking());
+        EXPECT_TRUE(spin(*dialog, i)->alignment() & Qt::AlignRight);
+        EXPECT_EQ(spin(*dialog, i)->maximum(), 2147483646);
+    }
+    EXPECT_EQ(dialog->findChild<QLabel*>("topLabel")->maximumHeight(), 0);
+    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
+              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    EXPECT_EQ(dialog->size(), QSize(358, 116));
+    EXPECT_TRUE(dialog->isModal());
+    ASSERT_NE(dialog->helpAction(), nullptr);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOk)
+{
+    EnterThreeIntValuesDialog* dialog = rangePrompt();
+    user::open(*dialog);
+    user::retype(*spin(*dialog, 1), "5", *spin(*dialog, 2));
+    user::retype(*spin(*dialog, 2), "250", *spin(*dialog, 3));
+    user::retype(*spin(*dialog, 3), "5", *spin(*dialog, 1));
+    user::press(*dialog, QDialogButtonBox::Ok);
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->value1(), 5);
+    EXPECT_EQ(dialog->value2(), 250);
+    EXPECT_EQ(dialog->value3(), 5);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, ReturnInASpinBoxCommitsTheValueAndAccepts)
+{
+    EnterThreeIntValuesDialog* dialog = rangePrompt();
+    user::open(*dialog);
+    spin(*dialog, 2)->setFocus();
+    QTest::keyClick(spin(*dialog, 2), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin(*dialog, 2), "42");
+    QTest::keyClick(spin(*dialog, 2), Qt::Key_Return);
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->value2(), 42);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, CancelledEditsStayInTheDialogForTheNextRun)
+{
+    EnterThreeIntValuesDialog* dialog = rangePrompt(1, 10, 1);
+    user::open(*dialog);
+    user::retype(*spin(*dialog, 1), "3", *spin(*dialog, 2));
+    user::press(*dialog, QDialogButtonBox::Cancel);
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+    EXPECT_EQ(dialog->value1(), 3); // nothing is reset: the caller looks at the result
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, PositiveLowerLimitsHoldSmallerValuesBack)
+{
+    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
+        parent, 0, 0, 0, "Limits", "", "a", "b", "c", 1, 0, -5);
+    EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);
+    EXPECT_EQ(spin(*dialog, 2)->minimum(), -2147483646);
+    EXPECT_EQ(spin(*dialog, 3)->minimum(), -2147483646);
+    // An initial value under the limit is shown clamped but kept until edited.
+    EXPECT_EQ(spin(*dialog, 1)->value(), 1);
+    EXPECT_EQ(dialog->value1(), 0);
+
+    user::open(*dialog);
+    user::retype(*spin(*dialog, 1), "7", *spin(*dialog, 2));
+    EXPECT_EQ(dialog->value1(), 7);
+    user::retype(*spin(*dialog, 1), "0", *spin(*dialog, 2));
+    EXPECT_EQ(dialog->value1(), 7);
+    EXPECT_EQ(spin(*dialog, 1)->value(), 7);
+    user::retype(*spin(*dialog, 3), "-3", *spin(*dialog, 2));
+    EXPECT_EQ(dialog->value3(), -3);
+    user::retype(*spin(*dialog, 3), "99999999999", *spin(*dialog, 2));
+    EXPECT_LE(dialog->value3(), 2147483646);
+    EXPECT_EQ(spin(*dialog, 3)->value(), dialog->value3());
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndAnEmptyCaption)
+{
+    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
+        parent, 1, 2, 3, "Zone Range", "", "&First", "", "S&tep", 0, 0, 0);
+    EXPECT_EQ(dialog->windowTitle(), "Zone Range");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel2")->text(), "");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel3")->text(), "S&tep");
+    EXPECT_EQ(spin(*dialog, 3)->value(), 3);
+    EXPECT_NE(dialog->helpAction(), nullptr); // installed even for an empty page
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, ALiveDialogIsReturnedAsTheUserLeftIt)
+{
+    EnterThreeIntValuesDialog* first = rangePrompt(1, 10, 1);
+    user::open(*first);
+    user::retype(*spin(*first, 2), "20", *spin(*first, 3));
+    user::press(*first, QDialogButtonBox::Ok);
+
+    QWidget otherParent;
+    EnterThreeIntValuesDialog* second = EnterThreeIntValuesDialog::getInstance(
+        otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50);
+    EXPECT_EQ(second, first);
+    EXPECT_EQ(second->windowTitle(), "Index Range");
+    EXPECT_EQ(second->findChild<QLabel*>("valueLabel1")->text(), "&Begin");
+    EXPECT_EQ(second->value1(), 1);
+    EXPECT_EQ(second->value2(), 20);
+    EXPECT_EQ(spin(*second, 2)->value(), 20);
+    EXPECT_EQ(spin(*second, 1)->minimum(), 1);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, AFreshDialogFollowsTheDestructionOfTheLiveOne)
+{
+    auto* owner = new QWidget;
+    QPointer<EnterThreeIntValuesDialog> first = rangePrompt(1, 10, 1, owner);
+    delete owner;
+    ASSERT_TRUE(first.isNull());
+    EnterThreeIntValuesDialog* second = rangePrompt(4, 5, 6);
+    EXPECT_EQ(second->value1(), 4);
+    EXPECT_EQ(spin(*second, 3)->value(), 6);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)
+{
+    EnterThreeIntValuesDialog* dialog = rangePrompt();
+    dialog->show();
+    EXPECT_TRUE(dialog->isEnabled());
+    KernelTestSupport::clearDataSet();
+    IdleQueue::instance().flush();
+    EXPECT_FALSE(dialog->isEnabled());
+    dialog->hide();
+    dialog->launch(); // refused, so it returns at once
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
+
+    KernelTestSupport::loadSampleDataSet("Small");
+    IdleQueue::instance().flush();
+    EXPECT_TRUE(EnterThreeIntValuesDialog::relevance()->isRelevant());
+}
+
+} // namespace

@@ -1,0 +1,54 @@
+#include <stdexcept>
+#include <QPointer>
+#include <QWidget>
+#include <gtest/gtest.h>
+#include "prompt/SingleInstanceDialog.h"
+
+using orrery::dialogs::prompt::SingleInstanceDialog;
+
+namespace {
+
+class Probe : public QWidget, public SingleInstanceDialog<Probe>
+{
+public:
+    Probe(QWidget& parent, bool fail) : QWidget(&parent)
+    {
+        if (fail)
+            throw std::runtime_error("construction failed");
+    }
+    static Probe* getInstance(QWidget& parent, bool fail = false) { return obtain(parent, fail); }
+};
+
+TEST(SingleInstanceDialogTest, AFailedConstructionRegistersNothingAndTheNextCallBuilds)
+{
+    QWidget parent;
+    EXPECT_THROW(Probe::getInstance(parent, true), std::runtime_error);
+    EXPECT_EQ(Probe::liveInstance(), nullptr);
+    EXPECT_TRUE(parent.findChildren<Probe*>().isEmpty());
+    Probe* probe = Probe::getInstance(parent);
+    EXPECT_EQ(Probe::liveInstance(), probe);
+    EXPECT_EQ(Probe::getInstance(parent, true), probe); // a live instance is not rebuilt
+}
+
+TEST(SingleInstanceDialogTest, DestroyingTheLiveInstanceForgetsIt)
+{
+    QWidget parent;
+    QPointer<Probe> first = Probe::getInstance(parent);
+    delete first.data();
+    EXPECT_EQ(Probe::liveInstance(), nullptr);
+    Probe* second = Probe::getInstance(parent);
+    EXPECT_NE(second, nullptr);
+    EXPECT_EQ(Probe::liveInstance(), second);
+}
+
+TEST(SingleInstanceDialogTest, AnotherObjectOfTheClassDoesNotUnregisterTheLiveOne)
+{
+    QWidget parent;
+    Probe* live = Probe::getInstance(parent);
+    {
+        Probe directlyBuilt(parent, false);
+    }
+    EXPECT_EQ(Probe::liveInstance(), live);
+}
+
+} // namespace
