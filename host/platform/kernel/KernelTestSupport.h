@@ -52,7 +52,7 @@ public:
     static StyleDatum styleValue(const toolbox::StringList& path, long member = -1);
 
     // The next style write is refused with this text (code SetValue_InvalidValue)
-    // or declined (code 15), whatever its value.
+    // or declined (code 15), whatever its value. An empty text leaves no last error.
     static void refuseNextWrite(const std::string& errorText);
     static void declineNextWrite();
 

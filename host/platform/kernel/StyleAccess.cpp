@@ -296,8 +296,9 @@ WriteVerdict StyleAccess::combine(const StyleDatum& old, AssignOp_e op, const St
 
 SetValueReturnCode_e StyleAccess::finish(const WriteVerdict& verdict)
 {
-    const bool refused = verdict.code != SetValue_Ok && verdict.code != SetValue_Declined;
-    m_kernel.setLastError(refused ? std::optional<std::string>(verdict.text) : std::nullopt);
+    // A refusal without a text leaves no last error, as an accepted write does.
+    const bool explained = verdict.code != SetValue_Ok && verdict.code != SetValue_Declined && !verdict.text.empty();
+    m_kernel.setLastError(explained ? std::optional<std::string>(verdict.text) : std::nullopt);
     return verdict.code;
 }
 
