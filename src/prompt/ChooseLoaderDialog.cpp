@@ -1,0 +1,99 @@
+#include "prompt/ChooseLoaderDialog.h"
+
+#include <boost/ptr_container/ptr_vector.hpp>
+#include <QPushButton>
+#include "framework/LaunchHelpAction.h"
+#include "framework/ListHeaderItemDelegate.h"
+#include "framework/ListViewPropertyBinding.h"
+#include "framework/RelevanceApplier.h"
+#include "framework/models/StringListWithHeadersModel.h"
+#include "prompt/ChooseLoaderPropertiesManager.h"
+#include "ui_ChooseLoader.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+namespace pb = sdk::ui::dialogs::propertybindings;
+
+struct ChooseLoaderDialog::Impl
+{
+    explicit Impl(QDialog& dialog)
+    {
+        ui.setupUi(&dialog);
+        ui.LoadersList->setItemDelegate(new sdk::ui::dialogs::ListHeaderItemDelegate(ui.LoadersList));
+        auto* list = new pb::ListViewPropertyBinding(*ui.LoadersList, manager.loadersListProperty(),
+                                                     manager.loadersListModel());
+        bindings.push_back(list);
+        list->setSelectionMode(QAbstractItemView::SingleSelection);
+        appliers.push_back(new pb::RelevanceApplier(manager.loaderSelectedRelevance(),
+                                                    {ui.buttonBox->button(QDialogButtonBox::Ok)}));
+    }
+
+    Ui_ChooseLoader ui;
+    ChooseLoaderPropertiesManager manager;
+    boost::ptr_vector<pb::BindingInterface> bindings;
+    boost::ptr_vector<pb::RelevanceApplier> appliers;
+    std::set<std::string> extensions;
+};
+
+ChooseLoaderDialog* ChooseLoaderDialog::getInstance(QWidget& parent, std::vector<LoaderPtr> const& suggestedLoaders,
+                                                    std::set<std::string> const& extensions)
+{
+    ChooseLoaderDialog* dialog = obtain(parent);
+    dialog->refresh(suggestedLoaders, extensions);
+    return dialog;
+}
+
+ChooseLoaderDialog::ChooseLoaderDialog(QWidget& parent) : QtDialogAbstract(parent, RelevancePtr())
+{
+    setHelpAction(new common::LaunchHelpAction("choose_loader.html", *this));
+    m_impl.reset(new Impl(*this));
+    // A double-click on a loader confirms it; header rows are captions, not choices.
+    connect(m_impl->ui.LoadersList, &QListView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (index.flags() & Qt::ItemIsEnabled)
+            accept();
+    });
+}
+
+ChooseLoaderDialog::~ChooseLoaderDialog() = default;
+
+ChooseLoaderDialog::LoaderPtr ChooseLoaderDialog::selectedLoader()
+{
+    return m_impl->manager.selectedLoader();
+}
+
+void ChooseLoaderDialog::accept()
+{
+    // OK is enabled only with one loader selected; Return or a double-click must obey the same rule.
+    if (!m_impl->manager.loaderSelectedRelevance()->isRelevant())
+        return;
+    m_impl->manager.saveLastLoaderUsedForExtensions(m_impl->extensions);
+    QtDialogAbstract::accept();
+}
+
+void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
+                                 std::set<std::string> const& extensions)
+{
+    m_impl->extensions = extensions;
+    m_impl->manager.updateLoaderList(suggestedLoaders);
+    m_impl->manager.selectLoaderBasedOnExtensionsHistory(extensions);
+
+    QString title = tr("Choose Loader ");
+    if (!extensions.empty())
+    {
+        title += "(";
+        for (const std::string& extension : extensions)
+            title += "*" + QString::fromLatin1(extension.c_str()) + " ";
+        title[title.size() - 1] = ')';
+    }
+    setWindowTitle(title);
+    m_impl->ui.label->setText(
+        suggestedLoaders.empty()
+            ? tr("A loader could not be found for this file type.\nPlease choose which loader you would like to use.")
+            : tr("Multiple loaders support this kind of file.\nPlease choose which loader you would like to use."));
+}
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

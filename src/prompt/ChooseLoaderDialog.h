@@ -1,0 +1,50 @@
+#pragma once
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+#include <boost/shared_ptr.hpp>
+#include "framework/QtDialogAbstract.h"
+#include "platform/loaders/DataLoaderInterface.h"
+#include "prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Lets the user pick the data loader for a file: the suggested loaders first,
+// then all others; the loader last confirmed for the file's extension is
+// preselected, and a confirmed choice is remembered for the next time.
+class ChooseLoaderDialog : public common::QtDialogAbstract,
+                           public virtual common::DialogInterface,
+                           public SingleInstanceDialog<ChooseLoaderDialog>
+{
+    Q_OBJECT
+public:
+    typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;
+
+    // Every call rebuilds the list, selection, title and prompt from the
+    // arguments. Extensions are written with their dot (".csv").
+    static ChooseLoaderDialog* getInstance(QWidget& parent, std::vector<LoaderPtr> const& suggestedLoaders,
+                                           std::set<std::string> const& extensions);
+
+    explicit ChooseLoaderDialog(QWidget& parent);
+    ~ChooseLoaderDialog() override;
+
+    // Empty when no loader is selected.
+    LoaderPtr selectedLoader();
+
+public Q_SLOTS:
+    // Remembers the choice for the file's extension, then accepts.
+    void accept() override;
+
+private:
+    void refresh(std::vector<LoaderPtr> const& suggestedLoaders, std::set<std::string> const& extensions);
+
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery
