@@ -5,6 +5,7 @@
 #include <QListView>
 
 #include "platform/kernel/OrrTypes.h"
+#include "propertybindings/ScopedExitAction.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
@@ -31,11 +32,7 @@ void ComboBoxPropertyBinding<T>::init(BindingInterface::ModelUpdateMode mode)
         m_busyDeferrer.reset(new orrery::ui::WidgetUpdateDeferrerOnBusy(m_combo));
     m_combo->setInsertPolicy(QComboBox::NoInsert);
     // After the rows are rebuilt the current value is shown again, once.
-    SignalConnectionCollection& connections = this->connections();
-    connections.add(m_rows->connectToDataChanged([this] { this->updateValueOnIdle(); }));
-    connections.add(m_rows->connectToItemChanged([this](int) { this->updateValueOnIdle(); }));
-    connections.add(m_rows->connectToItemsInserted([this](int, int) { this->updateValueOnIdle(); }));
-    connections.add(m_rows->connectToItemsRemoved([this](int, int) { this->updateValueOnIdle(); }));
+    m_rows->connectToEveryChange([this] { this->updateValueOnIdle(); }, this->connections());
     m_qtModel.reset(new models::QListModel<T>(*m_rows));
     m_combo->setModel(m_qtModel.get());
     ignoreIndexChangesWhileRowsChange();
@@ -44,6 +41,7 @@ void ComboBoxPropertyBinding<T>::init(BindingInterface::ModelUpdateMode mode)
         view->setUniformItemSizes(true);
     m_observable.reset(new qwidgetobservable::QComboBoxObservable(m_combo));
     m_observable->addListener(&m_listener);
+    updateWidget();
 }
 
 // Qt makes some row current while rows are reset, inserted or removed; that is
@@ -53,8 +51,8 @@ template <typename T>
 void ComboBoxPropertyBinding<T>::ignoreIndexChangesWhileRowsChange()
 {
     QAbstractItemModel* model = m_qtModel.get();
-    auto raise = [this] { m_rowsChanging = true; };
-    auto lower = [this] { m_rowsChanging = false; };
+    auto raise = [this] { m_ignoringIndexChanges = true; };
+    auto lower = [this] { m_ignoringIndexChanges = false; };
     QObject::connect(model, &QAbstractItemModel::modelAboutToBeReset, model, raise);
     QObject::connect(model, &QAbstractItemModel::rowsAboutToBeInserted, model, raise);
     QObject::connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, model, raise);
@@ -63,9 +61,12 @@ void ComboBoxPropertyBinding<T>::ignoreIndexChangesWhileRowsChange()
     QObject::connect(model, &QAbstractItemModel::rowsRemoved, model, lower);
 }
 
+// Showing the property is no choice of the user either: a value outside the
+// list shows the first row but stays in the property.
 template <typename T>
 void ComboBoxPropertyBinding<T>::updateWidget()
 {
+    ScopedExitAction stopIgnoring(ScopedExitAction::raiseUntilExit(m_ignoringIndexChanges));
     const T value = this->property().retrieveValue();
     const int row = m_rows->indexOf(value);
     if (row >= 0) {
@@ -95,7 +96,7 @@ template <typename T>
 void ComboBoxPropertyBinding<T>::QComboBoxListener::currentIndexChanged(int index,
                                                                         qwidgetobservable::QComboBoxObservable&)
 {
-    if (m_binding.m_rowsChanging || index < 0 || index >= m_binding.m_rows->size())
+    if (m_binding.m_ignoringIndexChanges || index < 0 || index >= m_binding.m_rows->size())
         return;
     m_binding.writePropertyReportingRejection(m_binding.m_rows->get(index));
 }

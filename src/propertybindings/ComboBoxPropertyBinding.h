@@ -49,7 +49,7 @@ private:
     std::unique_ptr<models::QListModel<T>> m_qtModel;
     QComboBoxListener m_listener;
     std::unique_ptr<orrery::ui::WidgetUpdateDeferrerOnBusy> m_busyDeferrer;
-    bool m_rowsChanging = false;
+    bool m_ignoringIndexChanges = false;
 };
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -23,12 +23,13 @@ ListViewPropertySynchronizer<C>::ListViewPropertySynchronizer(QListView& view,
       m_propertyWatcher(*property, [this] { updateWidgetFromProperty(); }),
       m_modelChangeSynchronizer([this] { synchronizePropertyAndSelection(); })
 {
+    // While the view adjusts its selection to changed rows, the selection is not
+    // the user's and the rows' values may already be the new ones: the guard is
+    // raised before the view hears of the change, and the two are brought
+    // together again after it has (preserveSelectionOnModelChange).
+    rows->connectToEveryChange([this] { m_updatingWidget = true; }, m_connections);
     setupModel();
-    // Connected after the Qt model, so that the view already shows the new rows.
-    m_connections.add(rows->connectToDataChanged([this] { preserveSelectionOnModelChange(); }));
-    m_connections.add(rows->connectToItemChanged([this](int) { preserveSelectionOnModelChange(); }));
-    m_connections.add(rows->connectToItemsInserted([this](int, int) { preserveSelectionOnModelChange(); }));
-    m_connections.add(rows->connectToItemsRemoved([this](int, int) { preserveSelectionOnModelChange(); }));
+    rows->connectToEveryChange([this] { preserveSelectionOnModelChange(); }, m_connections);
     updateWidgetFromProperty();
 }
 

@@ -52,6 +52,9 @@ void RadioButtonPropertyBinding<T>::updateSensitivity()
 template <typename T>
 void RadioButtonPropertyBinding<T>::QButtonListener::buttonToggled(qwidgetobservable::QButtonObservable& source)
 {
+    // Every button the user's click toggled shows the property again on idle, so
+    // that a refused value puts the whole group back.
+    m_binding.updateValueOnIdle();
     // Only the button switched on writes; the one switched off in its group does not.
     if (!source.button()->isChecked())
         return;

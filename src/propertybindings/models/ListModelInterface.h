@@ -1,6 +1,8 @@
 #pragma once
 #include <string>
+#include <boost/function.hpp>
 #include <boost/signals2/signal.hpp>
+#include "platform/common/SignalConnectionCollection.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
@@ -47,6 +49,15 @@ public:
     boost::signals2::connection connectToItemsRemoved(const ItemsRangeSignal::slot_type& slot) const
     {
         return connected(m_itemsRemoved.connect(slot), &ListModelInterface::signalItemsRemovedConnected);
+    }
+
+    // One action for every kind of change, its connections kept in the collection.
+    void connectToEveryChange(const boost::function<void ()>& action, SignalConnectionCollection& connections) const
+    {
+        connections.add(connectToDataChanged([action] { action(); }));
+        connections.add(connectToItemChanged([action](int) { action(); }));
+        connections.add(connectToItemsInserted([action](int, int) { action(); }));
+        connections.add(connectToItemsRemoved([action](int, int) { action(); }));
     }
 
 protected:

@@ -1,0 +1,239 @@
+// The property side shared by every binding: when the widget is refreshed,
+// how often, and what a destroyed binding leaves behind.
+#include <memory>
+#include <stdexcept>
+
+#include "platform/sdk/AppLock.h"
+#include "propertybindings/BindingTestSupport.h"
+#include "propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
+#include "propertybindings/QObjectPropertyBinding.h"
+#include "propertybindings/ScopedExitAction.h"
+#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "propertymanager/PropertyDependentRelevance.h"
+
+using namespace bindingtest;
+using namespace orrery;
+using namespace orrery::sdk::ui::dialogs::propertybindings;
+using orrery::sdk::ui::propertymanager::PropertyDependentRelevance;
+using orrery::sdk::ui::propertymanager::UIStylePropertyAbstract;
+
+namespace {
+
+class StyleIntProperty : public UIStylePropertyAbstract<int>
+{
+public:
+    void storeValue(const int& v) override { m_value = v; }
+    int retrieveValue() const override { return m_value; }
+
+private:
+    int m_value = 0;
+};
+
+// Counts the refreshes and remembers the value last shown.
+class CountingBinding : public UIPropertyBindingAbstract<int>
+{
+public:
+    using UIPropertyBindingAbstract<int>::UIPropertyBindingAbstract;
+    void updateWidget() override
+    {
+        ++widgetUpdates;
+        shown = property().retrieveValue();
+    }
+    void updateVisibility() override
+    {
+        ++visibilityUpdates;
+        visible = isPropertyVisible();
+    }
+    void updateSensitivity() override
+    {
+        ++sensitivityUpdates;
+        sensitive = isPropertySensitive();
+    }
+    bool edit(int v) { return writeProperty(v); }
+
+    int widgetUpdates = 0, visibilityUpdates = 0, sensitivityUpdates = 0;
+    int shown = -1;
+    bool visible = true, sensitive = true;
+};
+
+class CountingQObjectBinding : public QObjectPropertyBinding<int>
+{
+public:
+    using QObjectPropertyBinding<int>::QObjectPropertyBinding;
+    void updateWidget() override { shown = property().retrieveValue(); }
+    void updateVisibility() override {}
+    void updateSensitivity() override {}
+    int shown = -1;
+};
+
+class BindingCoreTest : public BindingFixture
+{
+protected:
+    boost::shared_ptr<Property<int>> property = boost::make_shared<Property<int>>(1);
+};
+
+} // namespace
+
+TEST_F(BindingCoreTest, ImmediateModeRefreshesInsideEachNotification)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    property->setValue(2);
+    EXPECT_EQ(binding.shown, 2);
+    property->setValue(3);
+    EXPECT_EQ(binding.widgetUpdates, 2);
+    EXPECT_EQ(binding.shown, 3);
+}
+
+TEST_F(BindingCoreTest, OnIdleModeGivesOneRefreshForManyChanges)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    for (int v = 2; v < 10002; ++v)
+        property->setValue(v);
+    EXPECT_EQ(binding.widgetUpdates, 0);
+    runIdle();
+    EXPECT_EQ(binding.widgetUpdates, 1);
+    EXPECT_EQ(binding.shown, 10001);
+    runIdle();
+    EXPECT_EQ(binding.widgetUpdates, 1);
+}
+
+TEST_F(BindingCoreTest, IdleRefreshWaitsWhileTheHostIsBusy)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    {
+        sdk::AppLock busy;
+        property->setValue(5);
+        runIdle();
+        EXPECT_EQ(binding.widgetUpdates, 0);
+    }
+    runIdle();
+    EXPECT_EQ(binding.shown, 5);
+}
+
+TEST_F(BindingCoreTest, UpdateValueOnIdleArmsARefreshEvenInImmediateMode)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    binding.updateValueOnIdle();
+    binding.updateValueOnIdle();
+    EXPECT_EQ(binding.widgetUpdates, 0);
+    runIdle();
+    EXPECT_EQ(binding.widgetUpdates, 1);
+}
+
+TEST_F(BindingCoreTest, AWidgetEditStoresOnceAndAnnouncesTheValueHeld)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    Emissions<int> emissions(*property);
+    EXPECT_TRUE(binding.edit(7));
+    EXPECT_FALSE(binding.edit(7));
+    EXPECT_EQ(emissions.values, std::vector<int>({7}));
+    EXPECT_EQ(binding.widgetUpdates, 1);
+}
+
+TEST_F(BindingCoreTest, ARefusedEditThrowsAndKeepsTheValue)
+{
+    auto refusing = refusingProperty<int>(1, 9, "nine is not allowed");
+    CountingBinding binding(refusing, BindingInterface::WidgetUpdateMode_Immediate);
+    EXPECT_THROW(binding.edit(9), InvalidPropertyValueException);
+    EXPECT_EQ(refusing->getValue(), 1);
+    EXPECT_EQ(binding.widgetUpdates, 0);
+}
+
+TEST_F(BindingCoreTest, StylePropertyRelevanceIsFollowedOncePerKindOnIdle)
+{
+    StyleIntProperty style;
+    auto flag = boost::make_shared<Property<bool>>(true);
+    style.setSensitivityRelevance(boost::make_shared<PropertyDependentRelevance<bool>>(flag, true));
+    CountingBinding binding(style, BindingInterface::WidgetUpdateMode_OnIdle);
+    for (int i = 0; i < 5; ++i)
+        flag->setValue(i % 2 == 0 ? false : true);
+    flag->setValue(false);
+    EXPECT_EQ(binding.sensitivityUpdates, 0);
+    runIdle();
+    EXPECT_EQ(binding.sensitivityUpdates, 1);
+    EXPECT_FALSE(binding.sensitive);
+    EXPECT_EQ(binding.visibilityUpdates, 0);
+    EXPECT_EQ(binding.widgetUpdates, 0);
+}
+
+TEST_F(BindingCoreTest, StylePropertyVisibilityIsAppliedAtOnceInImmediateMode)
+{
+    StyleIntProperty style;
+    auto flag = boost::make_shared<Property<bool>>(true);
+    CountingBinding binding(style, BindingInterface::WidgetUpdateMode_Immediate);
+    style.setVisibilityRelevance(boost::make_shared<PropertyDependentRelevance<bool>>(flag, true));
+    flag->setValue(false);
+    EXPECT_FALSE(binding.visible);
+    flag->setValue(true);
+    EXPECT_TRUE(binding.visible);
+}
+
+TEST_F(BindingCoreTest, ABindingOnAPlainPropertyReportsItAlwaysRelevant)
+{
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    binding.updateSensitivity();
+    binding.updateVisibility();
+    EXPECT_TRUE(binding.sensitive);
+    EXPECT_TRUE(binding.visible);
+}
+
+TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefresh)
+{
+    const size_t before = property->valueChangedListenerCount();
+    auto binding = std::make_unique<CountingBinding>(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    EXPECT_EQ(property->valueChangedListenerCount(), before + 1);
+    property->setValue(4);
+    binding.reset();
+    EXPECT_EQ(property->valueChangedListenerCount(), before);
+    EXPECT_EQ(sdk::ui::common::IdleQueue::instance().pending(), 0u);
+}
+
+TEST_F(BindingCoreTest, ABindingKeepsASharedPropertyAlive)
+{
+    boost::weak_ptr<Property<int>> watched = property;
+    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    property.reset();
+    ASSERT_FALSE(watched.expired());
+    watched.lock()->setValue(11);
+    EXPECT_EQ(binding.shown, 11);
+}
+
+TEST_F(BindingCoreTest, QObjectBindingIsRefreshedThroughItsUpdater)
+{
+    CountingQObjectBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    property->setValue(6);
+    property->setValue(8);
+    EXPECT_EQ(binding.shown, -1);
+    runIdle();
+    EXPECT_EQ(binding.shown, 8);
+}
+
+TEST_F(BindingCoreTest, PropertyChangePerformerRunsOnceOnIdleAndCanBeSwitchedOff)
+{
+    int runs = 0;
+    OnIdleAfterPropertyChangeActionPerformer performer(*property, [&runs] { ++runs; });
+    property->setValue(2);
+    property->setValue(3);
+    runIdle();
+    EXPECT_EQ(runs, 1);
+    performer.enable(false);
+    property->setValue(4);
+    runIdle();
+    EXPECT_EQ(runs, 1);
+    performer.enable(true);
+    property->setValue(5);
+    runIdle();
+    EXPECT_EQ(runs, 2);
+}
+
+TEST(ScopedExitActionTest, LowersTheFlagWhenTheScopeIsLeftByAnException)
+{
+    bool flag = false;
+    try {
+        ScopedExitAction lower(ScopedExitAction::raiseUntilExit(flag));
+        EXPECT_TRUE(flag);
+        throw std::runtime_error("leave");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_FALSE(flag);
+}

@@ -1,0 +1,132 @@
+// A combo box and its property, driven through the keyboard as a user would.
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "platform/sdk/AppLock.h"
+#include "propertybindings/BindingTestSupport.h"
+#include "propertybindings/ComboBoxPropertyBinding.h"
+#include "propertybindings/models/OptionTables.h"
+#include "propertybindings/models/PremappedListModel.h"
+#include "propertybindings/models/QListModel.h"
+
+using namespace bindingtest;
+using namespace orrery;
+using namespace orrery::sdk::ui::dialogs::propertybindings;
+
+namespace {
+
+class ComboBoxBindingTest : public BindingFixture
+{
+protected:
+    ComboBoxBindingTest() : combo(&window) {}
+
+    QComboBox combo;
+    boost::shared_ptr<TestListModel> rows =
+        boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{10, "ten"}, {20, "twenty"}, {30, "thirty"}});
+    boost::shared_ptr<Property<int>> property = boost::make_shared<Property<int>>(20);
+};
+
+} // namespace
+
+TEST_F(ComboBoxBindingTest, ShowsTheRowOfTheValueAndUsesTheListModel)
+{
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    runIdle();
+    ASSERT_EQ(combo.count(), 3);
+    EXPECT_EQ(combo.currentText(), QStringLiteral("twenty"));
+    EXPECT_EQ(combo.itemData(2, models::QListModel<int>::ValueRole).toInt(), 30);
+    EXPECT_EQ(combo.insertPolicy(), QComboBox::NoInsert);
+}
+
+TEST_F(ComboBoxBindingTest, AUserChoiceStoresOnceAndIsNotWrittenBackByTheRefresh)
+{
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    runIdle();
+    Emissions<int> emissions(*property);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(emissions.values, std::vector<int>({30}));
+    runIdle();
+    EXPECT_EQ(combo.currentIndex(), 2);
+    EXPECT_EQ(emissions.count(), 1u);
+}
+
+TEST_F(ComboBoxBindingTest, APropertyChangeSelectsItsRowOnceOnIdleWithoutWritingBack)
+{
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    runIdle();
+    Emissions<int> emissions(*property);
+    property->setValue(10);
+    property->setValue(30);
+    EXPECT_EQ(combo.currentIndex(), 1);
+    runIdle();
+    EXPECT_EQ(combo.currentIndex(), 2);
+    EXPECT_EQ(emissions.values, std::vector<int>({10, 30}));
+}
+
+TEST_F(ComboBoxBindingTest, AValueOutsideTheListIsShownAsTextInAnEditableCombo)
+{
+    combo.setEditable(true);
+    property->setValue(25);
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    runIdle();
+    EXPECT_EQ(combo.currentText(), QStringLiteral("25"));
+    EXPECT_EQ(property->getValue(), 25);
+}
+
+TEST_F(ComboBoxBindingTest, AValueOutsideTheListSelectsTheFirstRowOfAFixedCombo)
+{
+    property->setValue(25);
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    QTest::keyClick(&combo, Qt::Key_End);
+    property->setValue(26);
+    runIdle();
+    EXPECT_EQ(combo.currentIndex(), 0);
+    EXPECT_EQ(property->getValue(), 26);
+}
+
+TEST_F(ComboBoxBindingTest, AnEmptyListLeavesTheComboAlone)
+{
+    rows->replaceAll({});
+    ComboBoxPropertyBinding<int> binding(combo, property, rows);
+    runIdle();
+    EXPECT_EQ(combo.currentIndex(), -1);
+    EXPECT_EQ(property->getValue(), 20);
+}
+
+TEST_F(ComboBoxBindingTest, RebuildingTheListKeepsTheValueAndReselectsItOnIdle)
+{
+    ComboBoxPropertyBinding<int> binding(combo, property, rows, BindingInterface::ModelUpdate_DeferredWhileBusy);
+    runIdle();
+    Emissions<int> emissions(*property);
+    rows->replaceAll({{5, "five"}, {30, "thirty"}, {20, "twenty"}});
+    rows->removeRows(0, 0);
+    rows->insertRow(0, {1, "one"});
+    EXPECT_EQ(emissions.count(), 0u);
+    runIdle();
+    EXPECT_EQ(combo.currentText(), QStringLiteral("twenty"));
+    EXPECT_EQ(property->getValue(), 20);
+    EXPECT_EQ(emissions.count(), 0u);
+}
+
+TEST_F(ComboBoxBindingTest, ARefusedChoiceIsReportedOnceAndUndoneOnIdle)
+{
+    auto refusing = refusingProperty<int>(20, 30, "That variable cannot be used.");
+    ComboBoxPropertyBinding<int> binding(combo, refusing, rows);
+    runIdle();
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(messageTexts(), std::vector<std::string>({"That variable cannot be used."}));
+    EXPECT_EQ(refusing->getValue(), 20);
+    runIdle();
+    EXPECT_EQ(combo.currentText(), QStringLiteral("twenty"));
+}
+
+TEST_F(ComboBoxBindingTest, AnOptionTableOfAnEnumerationMapsRowsToValues)
+{
+    auto mode = boost::make_shared<Property<RGBMode_e>>(RGBMode_SpecifyGB);
+    auto table = boost::make_shared<models::PremappedListModel<RGBMode_e>>(models::rgbMode);
+    ComboBoxPropertyBinding<RGBMode_e> binding(combo, mode, table);
+    runIdle();
+    EXPECT_EQ(combo.currentText(), QStringLiteral("Specify G&B, calculate R"));
+    QTest::keyClick(&combo, Qt::Key_Home);
+    EXPECT_EQ(mode->getValue(), RGBMode_SpecifyRGB);
+}

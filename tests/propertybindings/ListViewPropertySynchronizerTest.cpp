@@ -1,0 +1,172 @@
+// A list view's selection and a property of row values, in both directions,
+// including rows that come, go and change under a selection.
+#include <set>
+#include <vector>
+#include <QListView>
+#include <QSignalSpy>
+
+#include "propertybindings/BindingTestSupport.h"
+#include "propertybindings/ListViewPropertySynchronizer.h"
+
+using namespace bindingtest;
+using namespace orrery;
+using namespace orrery::sdk::ui::dialogs::propertybindings;
+
+namespace {
+
+typedef std::set<int> Values;
+
+class ListViewSynchronizerTest : public BindingFixture
+{
+protected:
+    ListViewSynchronizerTest() : view(&window) { view.resize(300, 280); }
+
+    std::unique_ptr<ListViewPropertySynchronizer<Values>> synchronize(
+        BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle)
+    {
+        auto s = std::make_unique<ListViewPropertySynchronizer<Values>>(view, property, rows, mode);
+        view.setSelectionMode(QAbstractItemView::MultiSelection);
+        return s;
+    }
+    void click(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        const QRect rect = view.visualRect(view.model()->index(row, 0));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, rect.center());
+    }
+    std::vector<int> selectedRows() const
+    {
+        std::vector<int> result;
+        for (int row = 0; row < view.model()->rowCount(); ++row) {
+            if (view.selectionModel()->isSelected(view.model()->index(row, 0)))
+                result.push_back(row);
+        }
+        return result;
+    }
+
+    QListView view;
+    boost::shared_ptr<TestListModel> rows = boost::make_shared<TestListModel>(TestListModel::numbered(8, 11));
+    boost::shared_ptr<Property<Values>> property = boost::make_shared<Property<Values>>(Values{12, 14});
+};
+
+} // namespace
+
+TEST_F(ListViewSynchronizerTest, ShowsTheRowsOfThePropertyValuesAtOnce)
+{
+    auto s = synchronize();
+    EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
+    EXPECT_TRUE(view.uniformItemSizes());
+}
+
+TEST_F(ListViewSynchronizerTest, ClickingRowsWritesTheirValuesOncePerClick)
+{
+    ASSERT_TRUE(showWindow());
+    auto s = synchronize();
+    Emissions<Values> emissions(*property);
+    click(6);
+    click(1);
+    EXPECT_EQ(emissions.values, std::vector<Values>({{12, 14, 17}, {14, 17}}));
+    runIdle();
+    EXPECT_EQ(selectedRows(), std::vector<int>({3, 6}));
+    EXPECT_EQ(emissions.count(), 2u);
+}
+
+TEST_F(ListViewSynchronizerTest, APropertyChangeSelectsOnIdleWithoutWritingBack)
+{
+    auto s = synchronize();
+    Emissions<Values> emissions(*property);
+    QSignalSpy selectionChanges(view.selectionModel(), &QItemSelectionModel::selectionChanged);
+    property->setValue({11});
+    property->setValue({15, 18, 99});
+    EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
+    runIdle();
+    EXPECT_EQ(selectedRows(), std::vector<int>({4, 7}));
+    EXPECT_EQ(selectionChanges.count(), 1);
+    // A value no row holds stays in the property.
+    EXPECT_EQ(property->getValue(), Values({15, 18, 99}));
+    EXPECT_EQ(emissions.count(), 2u);
+}
+
+TEST_F(ListViewSynchronizerTest, SelectingTheSameRowsAgainChangesNothing)
+{
+    auto s = synchronize();
+    QSignalSpy selectionChanges(view.selectionModel(), &QItemSelectionModel::selectionChanged);
+    s->setSelectionForPropertyValues({12, 14});
+    EXPECT_EQ(selectionChanges.count(), 0);
+}
+
+TEST_F(ListViewSynchronizerTest, ValuesOfVanishedRowsDropOutOfTheProperty)
+{
+    auto s = synchronize();
+    rows->removeRows(3, 5);
+    runIdle();
+    EXPECT_EQ(property->getValue(), Values({12}));
+    EXPECT_EQ(selectedRows(), std::vector<int>({1}));
+}
+
+TEST_F(ListViewSynchronizerTest, ARebuiltListIsSelectedByValueNotByRow)
+{
+    auto s = synchronize(BindingInterface::WidgetUpdateMode_Immediate);
+    Emissions<Values> emissions(*property);
+    rows->replaceAll({{14, "fourteen"}, {20, "twenty"}, {12, "twelve"}, {13, "thirteen"}});
+    EXPECT_EQ(selectedRows(), std::vector<int>({0, 2}));
+    EXPECT_EQ(emissions.count(), 0u);
+    rows->insertRow(0, {30, "thirty"});
+    EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
+    EXPECT_EQ(property->getValue(), Values({12, 14}));
+}
+
+TEST_F(ListViewSynchronizerTest, ValueHeldByHeaderRowsIsNotSelected)
+{
+    rows = boost::make_shared<TestListModel>(TestListModel::numbered(4, 0), std::vector<int>{0, 2});
+    property->setValue({0, 1, 2, 3});
+    auto s = synchronize();
+    EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
+}
+
+TEST_F(ListViewSynchronizerTest, AVectorPropertyGetsTheValuesInRowOrder)
+{
+    auto values = boost::make_shared<Property<std::vector<int>>>(std::vector<int>{15});
+    rows->replaceAll({{9, "a"}, {3, "b"}, {5, "c"}, {15, "d"}});
+    ASSERT_TRUE(showWindow());
+    ListViewPropertySynchronizer<std::vector<int>> s(view, values, rows, BindingInterface::WidgetUpdateMode_OnIdle);
+    view.setSelectionMode(QAbstractItemView::MultiSelection);
+    click(2);
+    click(0);
+    EXPECT_EQ(values->getValue(), std::vector<int>({9, 5, 15}));
+}
+
+TEST_F(ListViewSynchronizerTest, ARefusedSelectionIsReportedAndTakenBackOnIdle)
+{
+    ASSERT_TRUE(showWindow());
+    property = refusingProperty<Values>(Values{12}, Values{12, 13}, "Choose one zone only.");
+    auto s = synchronize();
+    click(2);
+    EXPECT_EQ(messageTexts(), std::vector<std::string>({"Choose one zone only."}));
+    EXPECT_EQ(property->getValue(), Values({12}));
+    runIdle();
+    EXPECT_EQ(selectedRows(), std::vector<int>({1}));
+}
+
+TEST_F(ListViewSynchronizerTest, ALargeScatteredSelectionIsReplacedExactly)
+{
+    rows->replaceAll(TestListModel::numbered(4000, 0));
+    Values even, odd;
+    for (int v = 0; v < 4000; v += 2) {
+        even.insert(v);
+        odd.insert(v + 1);
+    }
+    auto s = synchronize();
+    s->setSelectionForPropertyValues(even);
+    QSignalSpy selectionChanges(view.selectionModel(), &QItemSelectionModel::selectionChanged);
+    s->setSelectionForPropertyValues(odd);
+    ASSERT_EQ(selectionChanges.count(), 1);
+    const QItemSelection selected = selectionChanges.at(0).at(0).value<QItemSelection>();
+    const QItemSelection deselected = selectionChanges.at(0).at(1).value<QItemSelection>();
+    EXPECT_EQ(selected.size(), 2000);
+    EXPECT_TRUE(deselected.contains(view.model()->index(0, 0)));
+    EXPECT_FALSE(deselected.contains(view.model()->index(1, 0)));
+    const std::vector<int> shown = selectedRows();
+    ASSERT_EQ(shown.size(), 2000u);
+    EXPECT_EQ(shown.front(), 1);
+    EXPECT_EQ(shown.back(), 3999);
+}

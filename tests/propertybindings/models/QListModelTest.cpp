@@ -1,0 +1,110 @@
+// A list model as Qt views see it: roles, header rows, and relayed changes.
+#include <QListView>
+#include <QSignalSpy>
+
+#include "propertybindings/BindingTestSupport.h"
+#include "propertybindings/models/QListModel.h"
+
+using namespace bindingtest;
+using orrery::sdk::ui::dialogs::propertybindings::models::ListModelAbstract;
+using orrery::sdk::ui::dialogs::propertybindings::models::QListModel;
+
+namespace {
+
+class EditableModel : public TestListModel
+{
+public:
+    using TestListModel::TestListModel;
+    bool isEditable() const override { return true; }
+    std::string getStrForEdit(int row) const override { return "edit " + getStr(row); }
+    void setEditedItem(const std::string& text, int row) const override { edits.emplace_back(row, text); }
+    mutable std::vector<std::pair<int, std::string>> edits;
+};
+
+} // namespace
+
+TEST(QListModelTest, OffersTextValueAndEditTextByRole)
+{
+    TestListModel rows({{7, "seven"}, {9, "nine"}});
+    QListModel<int> model(rows);
+    const QModelIndex second = model.index(1, 0);
+    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.data(second, Qt::DisplayRole).toString(), QStringLiteral("nine"));
+    EXPECT_EQ(model.data(second, Qt::ToolTipRole).toString(), QStringLiteral("nine"));
+    EXPECT_EQ(model.data(second, QListModel<int>::ValueRole).toInt(), 9);
+    EXPECT_FALSE(model.data(second, Qt::EditRole).isValid());
+    EXPECT_FALSE(model.data(second, Qt::DecorationRole).isValid());
+    EXPECT_FALSE(model.data(model.index(5, 0), Qt::DisplayRole).isValid());
+    EXPECT_FALSE(second.parent().isValid());
+    EXPECT_FALSE(model.setData(second, QStringLiteral("x")));
+}
+
+TEST(QListModelTest, EditableRowsOfferAndTakeEditText)
+{
+    EditableModel rows({{1, "a"}, {2, "b"}}, {1});
+    QListModel<int> model(rows);
+    EXPECT_EQ(model.data(model.index(0, 0), Qt::EditRole).toString(), QStringLiteral("edit a"));
+    EXPECT_TRUE(model.flags(model.index(0, 0)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(model.flags(model.index(1, 0)) & Qt::ItemIsEditable);
+    EXPECT_TRUE(model.setData(model.index(0, 0), QStringLiteral("changed")));
+    ASSERT_EQ(rows.edits.size(), 1u);
+    EXPECT_EQ(rows.edits[0], std::make_pair(0, std::string("changed")));
+}
+
+TEST(QListModelTest, HeaderRowsAreDisabledAndCannotBeClickedIntoTheSelection)
+{
+    TestListModel rows({{0, "Suggested"}, {1, "csv"}, {2, "Others"}, {3, "text"}}, {0, 2});
+    QListModel<int> model(rows);
+    EXPECT_FALSE(model.flags(model.index(0, 0)) & Qt::ItemIsEnabled);
+    EXPECT_TRUE(model.flags(model.index(1, 0)) & Qt::ItemIsEnabled);
+
+    QListView view;
+    view.setModel(&model);
+    view.resize(200, 200);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(model.index(2, 0)).center());
+    EXPECT_FALSE(view.selectionModel()->isSelected(model.index(2, 0)));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(model.index(3, 0)).center());
+    EXPECT_TRUE(view.selectionModel()->isSelected(model.index(3, 0)));
+}
+
+TEST(QListModelTest, RelaysTheFourKindsOfChange)
+{
+    TestListModel rows(TestListModel::numbered(5));
+    QListModel<int> model(rows);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+
+    rows.removeRows(1, 2);
+    ASSERT_EQ(removed.count(), 1);
+    EXPECT_EQ(removed.at(0).at(1).toInt(), 1);
+    EXPECT_EQ(removed.at(0).at(2).toInt(), 2);
+    EXPECT_EQ(model.rowCount(), 3);
+
+    rows.insertRow(0, {42, "answer"});
+    ASSERT_EQ(inserted.count(), 1);
+    EXPECT_EQ(inserted.at(0).at(1).toInt(), 0);
+    EXPECT_EQ(model.data(model.index(0, 0), Qt::DisplayRole).toString(), QStringLiteral("answer"));
+
+    rows.renameRow(2, "renamed");
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed.at(0).at(0).value<QModelIndex>().row(), 2);
+
+    rows.replaceAll(TestListModel::numbered(2));
+    EXPECT_EQ(reset.count(), 1);
+    EXPECT_EQ(model.rowCount(), 2);
+}
+
+TEST(QListModelTest, ListModelDefaultsFindTheFirstRowOfAValue)
+{
+    TestListModel rows({{4, "a"}, {5, "b"}, {4, "c"}});
+    const ListModelAbstract<int>& model = rows;
+    EXPECT_EQ(model.indexOf(4), 0);
+    EXPECT_EQ(model.indexOf(5), 1);
+    EXPECT_EQ(model.indexOf(6), -1);
+    EXPECT_EQ(model.getStrForEdit(2), "c");
+    EXPECT_FALSE(model.isEditable());
+}
