@@ -1,0 +1,41 @@
+#pragma once
+#include <functional>
+#include <type_traits>
+#include <vector>
+#include <QDialogButtonBox>
+#include <QString>
+#include "framework/QtDialogAbstract.h"
+#include "prompt/SingleInstanceDialog.h"
+
+// Every dialog the demo can open: how the host opens it, what the tour does in
+// it, which button ends the tour's run, and how its answers read.
+class DialogCatalog
+{
+public:
+    typedef orrery::dialogs::common::QtDialogAbstract Dialog;
+
+    struct Entry
+    {
+        QString name; // menu text; also names the tour's screenshot
+        std::function<Dialog*(QWidget& parent)> open;
+        std::function<void(Dialog&)> drive;
+        QDialogButtonBox::StandardButton closeWith;
+        std::function<QString(Dialog&)> answers;
+        bool callerOwnsDialog; // single-instance dialogs belong to their parent
+    };
+
+    static const std::vector<Entry>& entries();
+
+private:
+    template <typename D>
+    static Entry entry(const QString& name, D* (*open)(QWidget&), void (*drive)(D&),
+                       QDialogButtonBox::StandardButton closeWith, QString (*answers)(D&))
+    {
+        return {name,
+                [open](QWidget& parent) -> Dialog* { return open(parent); },
+                [drive](Dialog& d) { drive(static_cast<D&>(d)); },
+                closeWith,
+                [answers](Dialog& d) { return answers(static_cast<D&>(d)); },
+                !std::is_base_of_v<orrery::dialogs::prompt::SingleInstanceDialog<D>, D>};
+    }
+};

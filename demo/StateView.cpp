@@ -1,0 +1,149 @@
+#include "StateView.h"
+
+#include <QListWidget>
+#include <QSplitter>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include "platform/kernel/KernelTestSupport.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+
+using orrery::kernel::testing::KernelTestSupport;
+using orrery::sdk::integration::StateChangeEventInterface;
+using orrery::sdk::integration::StateChangeEventObservable;
+
+namespace {
+
+// The style values that the dialogs read or write.
+const char* const WatchedPaths[] = {
+    "FrameLayout/PlotType",          "GlobalRGB/RGBMode",        "GlobalRGB/RedChannelVar",
+    "GlobalRGB/GreenChannelVar",     "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMin",
+    "GlobalRGB/RangeMax",            "GlobalScatter/Var",        "GlobalScatter/RelativeSize",
+    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum"};
+
+QString codeName(StateChange_e code)
+{
+    switch (code)
+    {
+    case StateChange_VarsAltered: return "variables altered";
+    case StateChange_VarsAdded: return "variables added";
+    case StateChange_ZonesDeleted: return "zones deleted";
+    case StateChange_ZonesAdded: return "zones added";
+    case StateChange_NodeMapsAltered: return "node maps altered";
+    case StateChange_FrameDeleted: return "frame deleted";
+    case StateChange_NewTopFrame: return "new top frame";
+    case StateChange_Style: return "style";
+    case StateChange_DataSetReset: return "data set reset";
+    case StateChange_NewLayout: return "new layout";
+    case StateChange_CompleteReset: return "complete reset";
+    case StateChange_PageCountChanged: return "page count changed";
+    case StateChange_FrameAdded: return "frame added";
+    case StateChange_EnabledZonesChanged: return "enabled zones changed";
+    case StateChange_EnabledVarsChanged: return "enabled variables changed";
+    case StateChange_VarsDeleted: return "variables deleted";
+    }
+    return "other";
+}
+
+QString toText(const orrery::kernel::StyleDatum& datum)
+{
+    return std::visit(
+        [](const auto& value) -> QString {
+            using T = std::decay_t<decltype(value)>;
+            if constexpr (std::is_same_v<T, std::string>)
+                return QString::fromStdString(value);
+            else if constexpr (std::is_same_v<T, bool>)
+                return value ? "true" : "false";
+            else
+                return QString::number(value);
+        },
+        datum);
+}
+
+QString takeString(char* text)
+{
+    const QString result = text ? QString::fromUtf8(text) : QString();
+    OrrUtilStringDealloc(&text);
+    return result;
+}
+
+void setRow(QTreeWidgetItem& parent, int row, const QString& name, const QString& value)
+{
+    while (parent.childCount() <= row)
+        new QTreeWidgetItem(&parent);
+    parent.child(row)->setText(0, name);
+    parent.child(row)->setText(1, value);
+}
+
+} // namespace
+
+StateView::StateView(QWidget* parent)
+    : QWidget(parent), m_tree(new QTreeWidget), m_events(new QListWidget)
+{
+    m_tree->setColumnCount(2);
+    m_tree->setHeaderLabels({tr("Item"), tr("Value")});
+    m_tree->setIndentation(12);
+    m_dataSet = new QTreeWidgetItem(m_tree, {tr("Data set")});
+    m_style = new QTreeWidgetItem(m_tree, {tr("Style")});
+    m_events->setObjectName("stateChangeEvents");
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(m_tree);
+    splitter->addWidget(m_events);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(splitter);
+    m_connection = StateChangeEventObservable::getInstance().signal().connect(
+        [this](const StateChangeEventInterface& event) { stateChanged(event); });
+    refresh();
+    m_tree->expandAll();
+    m_tree->resizeColumnToContents(0);
+}
+
+void StateView::refresh()
+{
+    refreshDataSet();
+    refreshStyle();
+}
+
+void StateView::stateChanged(const StateChangeEventInterface& event)
+{
+    QString line = QString("%1 (%2)").arg(int(event.code())).arg(codeName(event.code()));
+    if (!event.stylePath().empty())
+        line += ": " + QString::fromStdString(event.stylePath().join("/"));
+    m_events->addItem(line);
+    m_events->scrollToBottom();
+    refresh();
+}
+
+void StateView::refreshDataSet()
+{
+    const bool available = OrrUtilDataSetIsAvailable();
+    setRow(*m_dataSet, 0, tr("Title"), available ? takeString(OrrUtilDataSetGetTitle()) : tr("(none)"));
+    setRow(*m_dataSet, 1, tr("Zones"), QString::number(available ? OrrUtilDataSetGetNumZones() : 0));
+    QStringList variables;
+    for (int var = 1; available && var <= OrrUtilDataSetGetNumVars(); ++var)
+        variables << takeString(OrrUtilVarGetName(var));
+    setRow(*m_dataSet, 2, tr("Variables"), variables.join(", "));
+    setRow(*m_dataSet, 3, tr("Plot type"), QString::number(int(OrrUtilFrameGetPlotType())));
+}
+
+void StateView::refreshStyle()
+{
+    int row = 0;
+    for (const char* path : WatchedPaths)
+    {
+        QString value;
+        try
+        {
+            orrery::toolbox::StringList names;
+            for (const QString& name : QString(path).split('/'))
+                names.append(name.toStdString());
+            value = toText(KernelTestSupport::styleValue(names));
+        }
+        catch (const std::exception& e)
+        {
+            value = tr("(unreadable: %1)").arg(e.what());
+        }
+        setRow(*m_style, row++, path, value);
+    }
+}

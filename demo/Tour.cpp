@@ -1,0 +1,89 @@
+#include "Tour.h"
+
+#include <cstdio>
+#include <QCoreApplication>
+#include <QDir>
+#include <QListView>
+#include <QPixmap>
+#include <QTimer>
+#include "DemoUser.h"
+#include "MainWindow.h"
+#include "platform/common/IdleQueue.h"
+#include "prompt/ChooseLoaderDialog.h"
+
+using orrery::dialogs::prompt::ChooseLoaderDialog;
+
+namespace {
+
+QString fileNameFor(const QString& dialogName)
+{
+    QString name = dialogName.toLower();
+    name.remove("...");
+    return name.replace(' ', '_') + ".png";
+}
+
+void settle()
+{
+    QCoreApplication::processEvents();
+    orrery::sdk::ui::common::IdleQueue::instance().flush();
+}
+
+bool save(QWidget& widget, const QString& path)
+{
+    const bool saved = widget.grab().save(path);
+    std::printf("  %s %s\n", saved ? "screenshot" : "could not save", qPrintable(path));
+    return saved;
+}
+
+} // namespace
+
+bool Tour::loadFile(MainWindow& window, const QString& path)
+{
+    QTimer::singleShot(0, &window, [] {
+        ChooseLoaderDialog* chooser = ChooseLoaderDialog::liveInstance();
+        if (!chooser || !chooser->isVisible())
+            return;
+        settle();
+        auto* list = chooser->findChild<QListView*>("LoadersList");
+        for (int row = 0; !chooser->selectedLoader() && row < list->model()->rowCount(); ++row)
+        {
+            DemoUser::selectRow(*list, list->model()->index(row, 0).data().toString());
+            settle();
+        }
+        std::printf("Loader chooser for %s: %s\n", qPrintable(chooser->windowTitle()),
+                    chooser->selectedLoader() ? chooser->selectedLoader()->properties().name.c_str() : "(none)");
+        DemoUser::press(*chooser, QDialogButtonBox::Ok);
+    });
+    const bool loaded = window.loadFile(path);
+    std::printf("%s %s\n", loaded ? "Loaded" : "Could not load", qPrintable(path));
+    return loaded;
+}
+
+int Tour::run(MainWindow& window, const QString& screenshotDir)
+{
+    if (!QDir().mkpath(screenshotDir))
+    {
+        std::fprintf(stderr, "Cannot create %s\n", qPrintable(screenshotDir));
+        return 1;
+    }
+    const QDir dir(screenshotDir);
+    window.show();
+    settle();
+    bool allSaved = true;
+    for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
+    {
+        std::printf("%s\n", qPrintable(entry.name));
+        const QString line = window.runDialog(entry, [&](DialogCatalog::Dialog& dialog) {
+            settle();
+            entry.drive(dialog);
+            settle();
+            allSaved &= save(dialog, dir.filePath(fileNameFor(entry.name)));
+            DemoUser::press(dialog, entry.closeWith);
+        });
+        std::printf("  %s\n", qPrintable(line));
+    }
+    settle();
+    allSaved &= save(window, dir.filePath("main_window.png"));
+    std::fflush(stdout);
+    return allSaved ? 0 : 1;
+}

@@ -1,0 +1,16 @@
+#pragma once
+#include <QString>
+
+class MainWindow;
+
+// Runs every dialog of the demo without anyone at the keyboard: drives it as a
+// user would, saves a screenshot of it, and prints its answers.
+class Tour
+{
+public:
+    // Returns the process exit code.
+    static int run(MainWindow& window, const QString& screenshotDir);
+    // Loads a data file, confirming the loader chooser's preselection (or its
+    // first loader) if the file's extension needs one.
+    static bool loadFile(MainWindow& window, const QString& path);
+};
