@@ -17,11 +17,13 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ListViewPropertyBinding : public PropertyBindingInterface
 {
 public:
-    template <typename C>
-    ListViewPropertyBinding(QListView& view, const boost::shared_ptr<PropertyAbstract<C>>& property,
-                            const typename ListViewPropertySynchronizer<C>::ListModelPtr& rows,
+    // Any property of std::vector<int> or std::set<int>.
+    template <typename Property>
+    ListViewPropertyBinding(QListView& view, const boost::shared_ptr<Property>& property,
+                            const boost::shared_ptr<const models::ListModelInterface<int>>& rows,
                             BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle)
-        : m_view(view), m_synchronizer(new ListViewPropertySynchronizer<C>(view, property, rows, mode))
+        : m_view(view),
+          m_synchronizer(new ListViewPropertySynchronizer<typename Property::ValueType>(view, property, rows, mode))
     {
     }
     ~ListViewPropertyBinding() override;

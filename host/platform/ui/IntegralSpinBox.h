@@ -9,7 +9,7 @@ class IntegralSpinBox : public QSpinBox
 {
     Q_OBJECT
 public:
-    static const int LargestMagnitude = 2147483646;
+    static constexpr int LargestMagnitude = 2147483646;
 
     explicit IntegralSpinBox(QWidget* parent = nullptr);
 };

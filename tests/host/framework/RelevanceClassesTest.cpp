@@ -1,0 +1,168 @@
+// The host's relevance classes against a kernel that changes, and the applier
+// that shows them on widgets.
+#include <QLabel>
+#include <QPushButton>
+
+#include "framework/DataSetExistsRelevance.h"
+#include "framework/FieldPlotTypeDependentRelevance.h"
+#include "framework/InvertingRelevance.h"
+#include "framework/LinePlotTypeDependentRelevance.h"
+#include "framework/RelevanceApplier.h"
+#include "framework/RelevanceExpression.h"
+#include "framework/StateChangeDependentRelevance.h"
+#include "propertybindings/BindingTestSupport.h"
+#include "propertymanager/PropertyDependentRelevance.h"
+
+using namespace bindingtest;
+using namespace orrery;
+using namespace orrery::sdk::ui::propertymanager;
+using orrery::sdk::ui::dialogs::propertybindings::BindingInterface;
+using orrery::sdk::ui::dialogs::propertybindings::RelevanceApplier;
+
+namespace {
+
+typedef boost::shared_ptr<const RelevanceInterface> RelevancePtr;
+
+struct Announcements
+{
+    explicit Announcements(const RelevanceInterface& relevance)
+        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; }))
+    {
+    }
+    int count = 0;
+    boost::signals2::scoped_connection connection;
+};
+
+// A relevance that a test switches through a property.
+struct Switch
+{
+    explicit Switch(bool on) : value(boost::make_shared<Property<bool>>(on)) {}
+    RelevancePtr relevance() const { return boost::make_shared<PropertyDependentRelevance<bool>>(value, true); }
+    boost::shared_ptr<Property<bool>> value;
+};
+
+typedef BindingFixture RelevanceClassesTest;
+
+} // namespace
+
+TEST_F(RelevanceClassesTest, DataSetExistsFollowsTheKernelsDataSet)
+{
+    DataSetExistsRelevance relevance;
+    Announcements announced(relevance);
+    EXPECT_FALSE(relevance.isRelevant());
+    Kernel::loadSampleDataSet();
+    EXPECT_TRUE(relevance.isRelevant());
+    EXPECT_GE(announced.count, 1);
+    Kernel::clearDataSet();
+    EXPECT_FALSE(relevance.isRelevant());
+}
+
+TEST_F(RelevanceClassesTest, PlotTypeRelevancesSplitFieldAndLinePlots)
+{
+    FieldPlotTypeDependentRelevance field;
+    LinePlotTypeDependentRelevance line;
+    Announcements announced(field);
+    const struct
+    {
+        PlotType_e plotType;
+        bool field, line;
+    } cases[] = {{PlotType_ThreeD, true, false},
+                 {PlotType_TwoD, true, false},
+                 {PlotType_XYLine, false, true},
+                 {PlotType_Sketch, false, false},
+                 {PlotType_PolarLine, false, true}};
+    for (const auto& c : cases) {
+        Kernel::setPlotType(c.plotType);
+        EXPECT_EQ(field.isRelevant(), c.field) << c.plotType;
+        EXPECT_EQ(line.isRelevant(), c.line) << c.plotType;
+    }
+    EXPECT_GE(announced.count, 4);
+}
+
+TEST_F(RelevanceClassesTest, StateChangeRelevanceAsksItsPredicateAfterEachChange)
+{
+    bool answer = false;
+    StateChangeDependentRelevance relevance([&answer] { return answer; });
+    Announcements announced(relevance);
+    answer = true;
+    EXPECT_TRUE(relevance.isRelevant());
+    Kernel::fireStateChange(StateChange_NodeMapsAltered);
+    EXPECT_EQ(announced.count, 1);
+}
+
+TEST_F(RelevanceClassesTest, InvertingRelevanceNegatesAndRelays)
+{
+    Switch s(true);
+    InvertingRelevance inverted(s.relevance());
+    Announcements announced(inverted);
+    EXPECT_FALSE(inverted.isRelevant());
+    s.value->setValue(false);
+    EXPECT_TRUE(inverted.isRelevant());
+    EXPECT_EQ(announced.count, 1);
+}
+
+TEST_F(RelevanceClassesTest, ExpressionsAreReadLeftToRight)
+{
+    // (a and b) or c, for every combination; a precedence reading (a and (b or c)) differs at a=0, c=1.
+    for (int bits = 0; bits < 8; ++bits) {
+        const bool a = bits & 1, b = bits & 2, c = bits & 4;
+        Switch sa(a), sb(b), sc(c);
+        RelevanceExpression expression(sa.relevance());
+        expression.aand(sb.relevance()).oor(sc.relevance());
+        EXPECT_EQ(expression.isRelevant(), (a && b) || c) << a << b << c;
+    }
+    Switch first(false), second(true);
+    RelevanceExpression either(first.relevance());
+    either.oor(second.relevance());
+    Announcements announced(either);
+    EXPECT_TRUE(either.isRelevant());
+    second.value->setValue(false);
+    first.value->setValue(true);
+    EXPECT_EQ(announced.count, 2);
+    EXPECT_TRUE(either.isRelevant());
+}
+
+TEST_F(RelevanceClassesTest, ApplierEnablesOrShowsWidgetsOnEveryChange)
+{
+    Switch s(false);
+    QLabel label(&window);
+    QPushButton button(&window);
+    ASSERT_TRUE(showWindow());
+    RelevanceApplier enabler(s.relevance(), {&label, &button});
+    EXPECT_FALSE(label.isEnabled());
+    EXPECT_FALSE(button.isEnabled());
+    s.value->setValue(true);
+    EXPECT_TRUE(button.isEnabled());
+
+    QLabel hidden(&window);
+    hidden.show();
+    RelevanceApplier shower(s.relevance(), {&hidden}, RelevanceApplier::Manifestation_Visibility);
+    EXPECT_TRUE(hidden.isVisible());
+    s.value->setValue(false);
+    EXPECT_FALSE(hidden.isVisible());
+    EXPECT_TRUE(hidden.isEnabled());
+}
+
+TEST_F(RelevanceClassesTest, AnIdleApplierAppliesOnceAfterManyChanges)
+{
+    Switch s(true);
+    QLabel label(&window);
+    RelevanceApplier applier(s.relevance(), {&label}, RelevanceApplier::Manifestation_Sensitivity,
+                             BindingInterface::WidgetUpdateMode_OnIdle);
+    s.value->setValue(false);
+    s.value->setValue(true);
+    s.value->setValue(false);
+    EXPECT_TRUE(label.isEnabled());
+    runIdle();
+    EXPECT_FALSE(label.isEnabled());
+}
+
+TEST_F(RelevanceClassesTest, AnApplierOutlivingItsWidgetDoesNotTouchIt)
+{
+    Switch s(true);
+    auto label = std::make_unique<QLabel>();
+    RelevanceApplier applier(s.relevance(), {label.get()});
+    label.reset();
+    s.value->setValue(false);
+    SUCCEED();
+}

@@ -1,0 +1,177 @@
+// The widget observables and the host spin boxes, driven by keyboard and focus.
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "platform/qwidgetobservable/QButtonObservable.h"
+#include "platform/qwidgetobservable/QComboBoxObservable.h"
+#include "platform/qwidgetobservable/QTextFieldObservable.h"
+#include "platform/ui/IntegralSpinBox.h"
+#include "platform/ui/QScientificSpinBox.h"
+
+using namespace qwidgetobservable;
+
+namespace {
+
+class WidgetObservablesTest : public ::testing::Test
+{
+protected:
+    WidgetObservablesTest() : field(&dialog), other(&dialog), ok(QStringLiteral("OK"), &dialog)
+    {
+        other.move(0, 40);
+        ok.move(0, 80);
+        ok.setDefault(true);
+        QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+    }
+    bool showDialog()
+    {
+        dialog.show();
+        dialog.activateWindow();
+        return QTest::qWaitForWindowActive(&dialog);
+    }
+
+    QDialog dialog;
+    QLineEdit field;
+    QLineEdit other;
+    QPushButton ok;
+};
+
+struct ComboListener : QComboBoxListenerInterface
+{
+    void currentIndexChanged(int index, QComboBoxObservable&) override { indexes.push_back(index); }
+    std::vector<int> indexes;
+};
+
+struct ButtonListener : QButtonListenerInterface
+{
+    void buttonToggled(QButtonObservable& source) override { states.push_back(source.button()->isChecked()); }
+    std::vector<bool> states;
+};
+
+} // namespace
+
+TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusalKeepsTheDialogOpen)
+{
+    ASSERT_TRUE(showDialog());
+    int commits = 0;
+    bool accept = false;
+    QTextFieldObservable observable(field, [&] {
+        ++commits;
+        return accept;
+    });
+    QSignalSpy accepted(&dialog, &QDialog::accepted);
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("abc"));
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(commits, 1);
+    EXPECT_EQ(accepted.count(), 0);
+    accept = true;
+    QTest::keyClick(&field, Qt::Key_Enter);
+    EXPECT_EQ(commits, 2);
+    EXPECT_EQ(accepted.count(), 1);
+}
+
+TEST_F(WidgetObservablesTest, LeavingCommitsOnlyAnEditedField)
+{
+    ASSERT_TRUE(showDialog());
+    int commits = 0;
+    QTextFieldObservable observable(field, [&] { return ++commits > 0; });
+    field.setFocus();
+    other.setFocus();
+    EXPECT_EQ(commits, 0);
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("x"));
+    other.setFocus();
+    EXPECT_EQ(commits, 1);
+    field.setFocus();
+    other.setFocus();
+    EXPECT_EQ(commits, 1);
+}
+
+TEST_F(WidgetObservablesTest, AFailingCommitIsContainedAndCountsAsRefused)
+{
+    ASSERT_TRUE(showDialog());
+    QTextFieldObservable observable(field, []() -> bool { throw std::runtime_error("kernel gone"); });
+    QSignalSpy accepted(&dialog, &QDialog::accepted);
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(accepted.count(), 0);
+}
+
+TEST_F(WidgetObservablesTest, ComboAndButtonObservablesTellTheirListenersUntilRemoved)
+{
+    QComboBox combo(&dialog);
+    combo.addItems({QStringLiteral("a"), QStringLiteral("b")});
+    QComboBoxObservable comboObservable(&combo);
+    ComboListener comboListener;
+    comboObservable.addListener(&comboListener);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    comboObservable.removeListener(&comboListener);
+    QTest::keyClick(&combo, Qt::Key_Up);
+    EXPECT_EQ(comboListener.indexes, std::vector<int>({1}));
+
+    QRadioButton radio(&dialog);
+    QButtonObservable buttonObservable(&radio);
+    ButtonListener buttonListener;
+    buttonObservable.addListener(&buttonListener);
+    radio.setChecked(true);
+    radio.setAutoExclusive(false);
+    radio.setChecked(false);
+    EXPECT_EQ(buttonListener.states, std::vector<bool>({true, false}));
+}
+
+TEST(HostSpinBoxesTest, ScientificSpinBoxShowsAndAcceptsExponents)
+{
+    orrery::ui::QScientificSpinBox spin;
+    spin.setDecimals(15);
+    QSignalSpy changes(&spin, &orrery::ui::QScientificSpinBox::valueChanged);
+    spin.setValue(1.5e-07);
+    EXPECT_EQ(spin.text(), QStringLiteral("1.5e-07"));
+    spin.setValue(0.1);
+    EXPECT_EQ(spin.text(), QStringLiteral("0.1"));
+    EXPECT_EQ(changes.count(), 2);
+
+    int position = 0;
+    QString text;
+    const std::vector<std::pair<QString, QValidator::State>> cases = {
+        {QStringLiteral("2.5e-3"), QValidator::Acceptable}, {QStringLiteral("-"), QValidator::Intermediate},
+        {QStringLiteral("1e"), QValidator::Intermediate},    {QStringLiteral(""), QValidator::Intermediate},
+        {QStringLiteral("1x"), QValidator::Invalid},         {QStringLiteral("1,5"), QValidator::Invalid}};
+    for (const auto& c : cases) {
+        text = c.first;
+        EXPECT_EQ(spin.validate(text, position), c.second) << c.first.toStdString();
+    }
+    spin.setRange(0.0, 1.0);
+    text = QStringLiteral("2");
+    EXPECT_EQ(spin.validate(text, position), QValidator::Intermediate);
+    EXPECT_DOUBLE_EQ(spin.value(), 0.1);
+}
+
+TEST(HostSpinBoxesTest, ScientificSpinBoxTypedWithKeyboardTrackingOff)
+{
+    orrery::ui::QScientificSpinBox spin;
+    spin.setKeyboardTracking(false);
+    QSignalSpy changes(&spin, &orrery::ui::QScientificSpinBox::valueChanged);
+    QTest::keyClick(&spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(&spin, QStringLiteral("3e2"));
+    EXPECT_EQ(changes.count(), 0);
+    QTest::keyClick(&spin, Qt::Key_Return);
+    ASSERT_EQ(changes.count(), 1);
+    EXPECT_DOUBLE_EQ(spin.value(), 300.0);
+    QTest::keyClick(&spin, Qt::Key_Down);
+    EXPECT_DOUBLE_EQ(spin.value(), 299.0);
+}
+
+TEST(HostSpinBoxesTest, IntegralSpinBoxStartsWithTheWidestRange)
+{
+    orrery::ui::IntegralSpinBox spin;
+    EXPECT_EQ(spin.minimum(), -2147483646);
+    EXPECT_EQ(spin.maximum(), 2147483646);
+    spin.setValue(-2000000000);
+    EXPECT_EQ(spin.value(), -2000000000);
+}
