@@ -1,6 +1,7 @@
 #include "prompt/ChooseLoaderDialog.h"
 
 #include <boost/ptr_container/ptr_vector.hpp>
+#include <QCoreApplication>
 #include <QPushButton>
 #include "framework/LaunchHelpAction.h"
 #include "framework/ListHeaderItemDelegate.h"
@@ -79,7 +80,7 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     m_impl->manager.updateLoaderList(suggestedLoaders);
     m_impl->manager.selectLoaderBasedOnExtensionsHistory(extensions);
 
-    QString title = tr("Choose Loader ");
+    QString title = QCoreApplication::translate("ChooseLoader", "Choose Loader ");
     if (!extensions.empty())
     {
         title += "(";
@@ -90,8 +91,10 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     setWindowTitle(title);
     m_impl->ui.label->setText(
         suggestedLoaders.empty()
-            ? tr("A loader could not be found for this file type.\nPlease choose which loader you would like to use.")
-            : tr("Multiple loaders support this kind of file.\nPlease choose which loader you would like to use."));
+            ? QCoreApplication::translate(
+                  "ChooseLoader", "A loader could not be found for this file type.\nPlease choose which loader you would like to use.")
+            : QCoreApplication::translate(
+                  "ChooseLoader", "Multiple loaders support this kind of file.\nPlease choose which loader you would like to use."));
 }
 
 } // namespace prompt
