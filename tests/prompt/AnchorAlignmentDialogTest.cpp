@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include "UserActions.h"
+#include "support/UserActions.h"
 #include "WidgetContract.h"
 #include "prompt/AnchorAlignmentDialog.h"
 

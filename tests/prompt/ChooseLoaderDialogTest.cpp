@@ -7,7 +7,7 @@
 #include <QTest>
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
-#include "UserActions.h"
+#include "support/UserActions.h"
 #include "WidgetContract.h"
 #include "platform/common/IdleQueue.h"
 #include "platform/loaders/DataLoaderRepository.h"

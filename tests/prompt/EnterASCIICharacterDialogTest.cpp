@@ -4,7 +4,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include "UserActions.h"
+#include "support/UserActions.h"
 #include "WidgetContract.h"
 #include "platform/common/IdleQueue.h"
 #include "platform/kernel/KernelTestSupport.h"

@@ -5,7 +5,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <gtest/gtest.h>
-#include "UserActions.h"
+#include "support/UserActions.h"
 #include "WidgetContract.h"
 #include "platform/common/IdleQueue.h"
 #include "platform/kernel/KernelTestSupport.h"

@@ -74,7 +74,7 @@ protected:
 
 } // namespace
 
-TEST_F(BindingCoreTest, ImmediateModeRefreshesInsideEachNotification)
+TEST_F(BindingCoreTest, ImmediateModeRefreshesInsideEachNotificationAndReportsAPlainPropertyRelevant)
 {
     CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
     property->setValue(2);
@@ -82,29 +82,34 @@ TEST_F(BindingCoreTest, ImmediateModeRefreshesInsideEachNotification)
     property->setValue(3);
     EXPECT_EQ(binding.widgetUpdates, 2);
     EXPECT_EQ(binding.shown, 3);
+
+    binding.updateSensitivity();
+    binding.updateVisibility();
+    EXPECT_TRUE(binding.sensitive);
+    EXPECT_TRUE(binding.visible);
 }
 
 TEST_F(BindingCoreTest, OnIdleModeGivesOneRefreshForManyChanges)
 {
     CountingBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    CountingQObjectBinding qobjectBinding(property, BindingInterface::WidgetUpdateMode_OnIdle);
     for (int v = 2; v < 10002; ++v)
         property->setValue(v);
     EXPECT_EQ(binding.widgetUpdates, 0);
+    EXPECT_EQ(qobjectBinding.shown, -1);
     runIdle();
     EXPECT_EQ(binding.widgetUpdates, 1);
     EXPECT_EQ(binding.shown, 10001);
+    EXPECT_EQ(qobjectBinding.shown, 10001);
     runIdle();
     EXPECT_EQ(binding.widgetUpdates, 1);
-}
 
-TEST_F(BindingCoreTest, IdleRefreshWaitsWhileTheHostIsBusy)
-{
-    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
+    // While the host is busy the refresh waits.
     {
         sdk::AppLock busy;
         property->setValue(5);
         runIdle();
-        EXPECT_EQ(binding.widgetUpdates, 0);
+        EXPECT_EQ(binding.widgetUpdates, 1);
     }
     runIdle();
     EXPECT_EQ(binding.shown, 5);
@@ -120,7 +125,7 @@ TEST_F(BindingCoreTest, UpdateValueOnIdleArmsARefreshEvenInImmediateMode)
     EXPECT_EQ(binding.widgetUpdates, 1);
 }
 
-TEST_F(BindingCoreTest, AWidgetEditStoresOnceAndAnnouncesTheValueHeld)
+TEST_F(BindingCoreTest, AWidgetEditStoresOnceAndARefusedOneThrowsAndKeepsTheValue)
 {
     CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
     Emissions<int> emissions(*property);
@@ -128,18 +133,15 @@ TEST_F(BindingCoreTest, AWidgetEditStoresOnceAndAnnouncesTheValueHeld)
     EXPECT_FALSE(binding.edit(7));
     EXPECT_EQ(emissions.values, std::vector<int>({7}));
     EXPECT_EQ(binding.widgetUpdates, 1);
-}
 
-TEST_F(BindingCoreTest, ARefusedEditThrowsAndKeepsTheValue)
-{
     auto refusing = refusingProperty<int>(1, 9, "nine is not allowed");
-    CountingBinding binding(refusing, BindingInterface::WidgetUpdateMode_Immediate);
-    EXPECT_THROW(binding.edit(9), InvalidPropertyValueException);
+    CountingBinding refused(refusing, BindingInterface::WidgetUpdateMode_Immediate);
+    EXPECT_THROW(refused.edit(9), InvalidPropertyValueException);
     EXPECT_EQ(refusing->getValue(), 1);
-    EXPECT_EQ(binding.widgetUpdates, 0);
+    EXPECT_EQ(refused.widgetUpdates, 0);
 }
 
-TEST_F(BindingCoreTest, StylePropertyRelevanceIsFollowedOncePerKindOnIdle)
+TEST_F(BindingCoreTest, StylePropertyRelevanceIsFollowedOncePerKindOnIdleAndAtOnceInImmediateMode)
 {
     StyleIntProperty style;
     auto flag = boost::make_shared<Property<bool>>(true);
@@ -154,30 +156,18 @@ TEST_F(BindingCoreTest, StylePropertyRelevanceIsFollowedOncePerKindOnIdle)
     EXPECT_FALSE(binding.sensitive);
     EXPECT_EQ(binding.visibilityUpdates, 0);
     EXPECT_EQ(binding.widgetUpdates, 0);
+
+    StyleIntProperty other;
+    auto shown = boost::make_shared<Property<bool>>(true);
+    CountingBinding immediate(other, BindingInterface::WidgetUpdateMode_Immediate);
+    other.setVisibilityRelevance(boost::make_shared<PropertyDependentRelevance<bool>>(shown, true));
+    shown->setValue(false);
+    EXPECT_FALSE(immediate.visible);
+    shown->setValue(true);
+    EXPECT_TRUE(immediate.visible);
 }
 
-TEST_F(BindingCoreTest, StylePropertyVisibilityIsAppliedAtOnceInImmediateMode)
-{
-    StyleIntProperty style;
-    auto flag = boost::make_shared<Property<bool>>(true);
-    CountingBinding binding(style, BindingInterface::WidgetUpdateMode_Immediate);
-    style.setVisibilityRelevance(boost::make_shared<PropertyDependentRelevance<bool>>(flag, true));
-    flag->setValue(false);
-    EXPECT_FALSE(binding.visible);
-    flag->setValue(true);
-    EXPECT_TRUE(binding.visible);
-}
-
-TEST_F(BindingCoreTest, ABindingOnAPlainPropertyReportsItAlwaysRelevant)
-{
-    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
-    binding.updateSensitivity();
-    binding.updateVisibility();
-    EXPECT_TRUE(binding.sensitive);
-    EXPECT_TRUE(binding.visible);
-}
-
-TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefresh)
+TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefreshWhileALiveOneKeepsItsProperty)
 {
     const size_t before = property->valueChangedListenerCount();
     auto binding = std::make_unique<CountingBinding>(property, BindingInterface::WidgetUpdateMode_OnIdle);
@@ -186,26 +176,13 @@ TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefresh)
     binding.reset();
     EXPECT_EQ(property->valueChangedListenerCount(), before);
     EXPECT_EQ(sdk::ui::common::IdleQueue::instance().pending(), 0u);
-}
 
-TEST_F(BindingCoreTest, ABindingKeepsASharedPropertyAlive)
-{
     boost::weak_ptr<Property<int>> watched = property;
-    CountingBinding binding(property, BindingInterface::WidgetUpdateMode_Immediate);
+    CountingBinding live(property, BindingInterface::WidgetUpdateMode_Immediate);
     property.reset();
     ASSERT_FALSE(watched.expired());
     watched.lock()->setValue(11);
-    EXPECT_EQ(binding.shown, 11);
-}
-
-TEST_F(BindingCoreTest, QObjectBindingIsRefreshedThroughItsUpdater)
-{
-    CountingQObjectBinding binding(property, BindingInterface::WidgetUpdateMode_OnIdle);
-    property->setValue(6);
-    property->setValue(8);
-    EXPECT_EQ(binding.shown, -1);
-    runIdle();
-    EXPECT_EQ(binding.shown, 8);
+    EXPECT_EQ(live.shown, 11);
 }
 
 TEST_F(BindingCoreTest, PropertyChangePerformerRunsOnceOnIdleAndCanBeSwitchedOff)

@@ -1,7 +1,7 @@
 #pragma once
-// Shared by the binding tests: a clean kernel whose message boxes are recorded,
-// the idle queue run on demand, a shown window to put widgets in, a recorder
-// of property emissions and a list model that tests can change.
+// Shared by the binding tests: a clean kernel without a data set whose message
+// boxes are recorded, the idle queue run on demand, a shown window to put
+// widgets in, a validator that refuses one value and a list model that tests can change.
 #include <string>
 #include <utility>
 #include <vector>
@@ -11,13 +11,16 @@
 #include <gtest/gtest.h>
 
 #include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
 #include "property/Property.h"
 #include "propertybindings/models/ListModelAbstract.h"
+#include "support/Recorders.h"
+#include "support/UserActions.h"
 
 namespace bindingtest {
 
-typedef orrery::kernel::testing::KernelTestSupport Kernel;
+using testsupport::Emissions;
+using testsupport::Kernel;
+using testsupport::RelevanceChanges;
 
 inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
 
@@ -49,20 +52,6 @@ protected:
     }
 
     QWidget window;
-};
-
-// Records every value a property announces.
-template <typename T>
-struct Emissions
-{
-    explicit Emissions(const orrery::PropertyAbstract<T>& property)
-        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); }))
-    {
-    }
-    size_t count() const { return values.size(); }
-
-    std::vector<T> values;
-    boost::signals2::scoped_connection connection;
 };
 
 // A property whose validator refuses one value with a given text.

@@ -1,43 +1,52 @@
-#include "KernelFixture.h"
 #include "property/Property.h"
 #include "propertymanager/RGBColorOptsPropertiesGenerated.h"
 #include "propertymanager/ScatterSizeFontPropertiesGenerated.h"
+#include "support/Recorders.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;
+using namespace testsupport;
 using orrery::toolbox::StringList;
 
-class GeneratedStylePropertySetTest : public KernelFixture
-{
-};
+typedef SampleKernelTest GeneratedStylePropertySetTest;
 
 TEST_F(GeneratedStylePropertySetTest, ModalSetWritesOnlyChangedEntriesOnSubmitInTableOrder)
 {
     RGBColorOptsPropertiesGenerated set(true, StringList());
     EXPECT_TRUE(set.isModal());
-    const double max = kernelValue<double>({"GlobalRGB", "RangeMax"});
+    const double max = styleValue<double>({"GlobalRGB", "RangeMax"});
     set.rangeMax()->setValue(max + 1.0);
     set.blueVar()->setValue(2);
     set.rgbMode()->setValue(RGBMode_SpecifyRB);
     set.greenVar()->setValue(set.greenVar()->getValue());
-    EXPECT_TRUE(styleChanges.empty());
+    EXPECT_TRUE(changes.events.empty());
 
     set.submit();
     EXPECT_EQ((std::vector<std::string>{"GlobalRGB/RGBMode", "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMax"}),
-              styleChanges);
-    EXPECT_EQ(max + 1.0, kernelValue<double>({"GlobalRGB", "RangeMax"}));
+              changes.stylePaths());
+    EXPECT_EQ(max + 1.0, styleValue<double>({"GlobalRGB", "RangeMax"}));
 }
 
-TEST_F(GeneratedStylePropertySetTest, NonModalSetWritesEachEditAtOnce)
+TEST_F(GeneratedStylePropertySetTest, NonModalSetWritesEachEditAtOnceUnderItsPath)
 {
     ScatterSizeFontPropertiesGenerated set(false, StringList());
     set.scatterFontItalic()->setValue(true);
-    EXPECT_TRUE(kernelValue<bool>({"GlobalScatter", "BaseFontIsItalic"}));
+    EXPECT_TRUE(styleValue<bool>({"GlobalScatter", "BaseFontIsItalic"}));
     set.symbolFont()->setValue("Serif");
-    EXPECT_EQ("Serif", kernelValue<std::string>({"GlobalLinePlot", "BaseFontFamily"}));
+    EXPECT_EQ("Serif", styleValue<std::string>({"GlobalLinePlot", "BaseFontFamily"}));
+    set.scatterSizeVariable()->setValue(4); // under the short name Var
+    EXPECT_EQ((std::vector<std::string>{"GlobalScatter/BaseFontIsItalic", "GlobalLinePlot/BaseFontFamily",
+                                        "GlobalScatter/Var"}),
+              changes.stylePaths());
     const int writes = Kernel::styleWriteCount();
     set.submitProperties();
     EXPECT_EQ(writes, Kernel::styleWriteCount());
+
+    // A prefix is put in front of every path.
+    RGBColorOptsPropertiesGenerated elsewhere(false, StringList{"Elsewhere"});
+    EXPECT_EQ(StringList{"Elsewhere"}, elsewhere.prefix());
+    EXPECT_THROW(elsewhere.rangeMin()->setValue(0.25), InvalidPropertyValueException);
+    EXPECT_EQ(3u, changes.events.size());
 }
 
 TEST_F(GeneratedStylePropertySetTest, ReplacedPropertyIsHandedOutWhileSubmitStillAppliesTheKernelOne)
@@ -50,7 +59,7 @@ TEST_F(GeneratedStylePropertySetTest, ReplacedPropertyIsHandedOutWhileSubmitStil
 
     kernelSide->setValue(3);
     set.submitProperties();
-    EXPECT_EQ(3, kernelValue<long>({"GlobalRGB", "RedChannelVar"}));
+    EXPECT_EQ(3, styleValue<long>({"GlobalRGB", "RedChannelVar"}));
 }
 
 TEST_F(GeneratedStylePropertySetTest, SetWithAParentTakesTheParentsModality)
@@ -63,26 +72,11 @@ TEST_F(GeneratedStylePropertySetTest, SetWithAParentTakesTheParentsModality)
     EXPECT_FALSE(immediateChild.isModal());
 
     deferredChild.scatterFontBold()->setValue(true);
-    EXPECT_FALSE(kernelValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
+    EXPECT_FALSE(styleValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
     // The child submits when its parent does.
     modalParent.submit();
-    EXPECT_TRUE(kernelValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
+    EXPECT_TRUE(styleValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
 
     immediateChild.scatterFontBold()->setValue(false);
-    EXPECT_FALSE(kernelValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
-}
-
-TEST_F(GeneratedStylePropertySetTest, ScatterSizeVariableLivesUnderTheShortNameVar)
-{
-    ScatterSizeFontPropertiesGenerated set(false, StringList());
-    set.scatterSizeVariable()->setValue(4);
-    EXPECT_EQ((std::vector<std::string>{"GlobalScatter/Var"}), styleChanges);
-}
-
-TEST_F(GeneratedStylePropertySetTest, PrefixIsPutInFrontOfEveryPath)
-{
-    RGBColorOptsPropertiesGenerated set(false, StringList{"Elsewhere"});
-    EXPECT_EQ(StringList{"Elsewhere"}, set.prefix());
-    EXPECT_THROW(set.rangeMin()->setValue(0.25), InvalidPropertyValueException);
-    EXPECT_TRUE(styleChanges.empty());
+    EXPECT_FALSE(styleValue<bool>({"GlobalScatter", "BaseFontIsBold"}));
 }

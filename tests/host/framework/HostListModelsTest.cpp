@@ -38,11 +38,14 @@ typedef BindingFixture HostListModelsTest;
 TEST_F(HostListModelsTest, ZonesFollowTheDataSetAndTheEnabledZones)
 {
     ZoneListModel zones(sdk::getEnabledZonesForFrame, false);
+    ZoneListModel numbered(sdk::getEnabledZonesForFrame, true);
     ChangeCounter changes(zones);
     EXPECT_EQ(zones.size(), 0);
     Kernel::loadSampleDataSet();
     ASSERT_EQ(zones.size(), 3);
     EXPECT_EQ(changes.count, 1);
+    EXPECT_EQ(numbered.getStr(1), "2: " + zones.getStr(1));
+    EXPECT_EQ(numbered.get(1), 2);
     const Rows all = rowsOf(zones);
     Kernel::setEnabledZones({1, 3});
     EXPECT_EQ(rowsOf(zones), (Rows{all[0], all[2]}));
@@ -51,16 +54,7 @@ TEST_F(HostListModelsTest, ZonesFollowTheDataSetAndTheEnabledZones)
     EXPECT_EQ(zones.size(), 0);
 }
 
-TEST_F(HostListModelsTest, NumberedZonesShowTheirNumberBeforeTheName)
-{
-    Kernel::loadSampleDataSet();
-    ZoneListModel plain(sdk::getEnabledZonesForFrame, false);
-    ZoneListModel numbered(sdk::getEnabledZonesForFrame, true);
-    EXPECT_EQ(numbered.getStr(1), "2: " + plain.getStr(1));
-    EXPECT_EQ(numbered.get(1), 2);
-}
-
-TEST_F(HostListModelsTest, StyleChangesAndUnchangedRowsAnnounceNothing)
+TEST_F(HostListModelsTest, VariablesFollowTheEnabledVariablesButNotStyleOrUnchangedRows)
 {
     Kernel::loadSampleDataSet();
     EnabledVariablesListModel vars;
@@ -68,13 +62,6 @@ TEST_F(HostListModelsTest, StyleChangesAndUnchangedRowsAnnounceNothing)
     Kernel::fireStateChange(StateChange_Style, {"GlobalRGB", "RGBMode"});
     Kernel::fireStateChange(StateChange_VarsAltered);
     EXPECT_EQ(changes.count, 0);
-}
-
-TEST_F(HostListModelsTest, VariablesFollowTheEnabledVariables)
-{
-    Kernel::loadSampleDataSet();
-    EnabledVariablesListModel vars;
-    ChangeCounter changes(vars);
     ASSERT_EQ(vars.size(), 5);
     EXPECT_EQ(vars.get(3), 4);
     EXPECT_EQ(vars.indexOf(5), 4);

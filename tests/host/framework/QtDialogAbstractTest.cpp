@@ -99,44 +99,36 @@ TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutCon
 
 TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneIsDisabledUntilRelevantAgain)
 {
-    ProbeDialog dialog(parent, relevance, false);
-    dialog.setModal(false);
-    relevance->set(false);
-    dialog.launch();
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
-
-    relevance->set(true);
-    dialog.launch();
-    ASSERT_TRUE(dialog.isVisible());
-    EXPECT_TRUE(dialog.isEnabled());
-
-    relevance->set(false);
-    EXPECT_FALSE(dialog.isEnabled());
-    dialog.accept(); // e.g. a keyboard accept racing the change: not taken as an answer
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
-
-    dialog.show();
-    relevance->set(true);
-    EXPECT_TRUE(dialog.isEnabled());
-}
-
-TEST_F(QtDialogAbstractTest, AnEmptyRelevanceMeansAlwaysRelevant)
-{
-    ProbeDialog dialog(parent, nullptr, false);
-    EXPECT_TRUE(dialog.isRelevant());
-    dialog.setModal(false);
-    dialog.launch();
-    EXPECT_TRUE(dialog.isVisible());
-}
-
-TEST_F(QtDialogAbstractTest, TheRelevanceMayOutliveTheDialog)
-{
     {
         ProbeDialog dialog(parent, relevance, false);
+        dialog.setModal(false);
+        relevance->set(false);
+        dialog.launch();
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+
+        relevance->set(true);
+        dialog.launch();
+        ASSERT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(dialog.isEnabled());
+
+        relevance->set(false);
+        EXPECT_FALSE(dialog.isEnabled());
+        dialog.accept(); // e.g. a keyboard accept racing the change: not taken as an answer
+        EXPECT_EQ(dialog.result(), QDialog::Rejected);
+
+        dialog.show();
+        relevance->set(true);
+        EXPECT_TRUE(dialog.isEnabled());
     }
-    relevance->set(false); // must not reach the destroyed dialog
-    SUCCEED();
+    relevance->set(false); // the relevance outlives the dialog and must not reach it
+
+    // An empty relevance means always relevant.
+    ProbeDialog always(parent, nullptr, false);
+    EXPECT_TRUE(always.isRelevant());
+    always.setModal(false);
+    always.launch();
+    EXPECT_TRUE(always.isVisible());
 }
 
 TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
@@ -168,8 +160,12 @@ TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
     EXPECT_FALSE(viewer->isVisible());
 }
 
-TEST_F(QtDialogAbstractTest, ReplacingTheHelpActionRedirectsTheHelpButton)
+TEST_F(QtDialogAbstractTest, HelpButtonOnlyWithAHelpActionAndReplacingTheActionRedirectsIt)
 {
+    ProbeDialog without(parent, nullptr, false);
+    without.show();
+    EXPECT_EQ(without.box->button(QDialogButtonBox::Help), nullptr);
+
     ProbeDialog dialog(parent, nullptr, false);
     dialog.setHelpAction(new LaunchHelpAction("scatter_size_font.html", dialog));
     dialog.show();
@@ -180,17 +176,8 @@ TEST_F(QtDialogAbstractTest, ReplacingTheHelpActionRedirectsTheHelpButton)
     ASSERT_NE(HelpViewer::of(dialog), nullptr);
     EXPECT_EQ(HelpViewer::of(dialog)->page(), "symbol_font.html");
     EXPECT_EQ(dialog.box->buttons().size(), 3);
-}
 
-TEST_F(QtDialogAbstractTest, WithoutHelpActionThereIsNoHelpButton)
-{
-    ProbeDialog dialog(parent, nullptr, false);
-    dialog.show();
-    EXPECT_EQ(dialog.box->button(QDialogButtonBox::Help), nullptr);
-}
-
-TEST_F(QtDialogAbstractTest, AnUnknownPageShowsANoticeInsteadOfFailing)
-{
+    // An unknown page shows a notice instead of failing.
     HelpViewer* viewer = HelpViewer::showPage("no_such_page.html", &parent);
     EXPECT_FALSE(viewer->pageFound());
     EXPECT_TRUE(viewer->text().contains("no_such_page.html"));

@@ -3,7 +3,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "framework/DataSetExistsRelevance.h"
 #include "framework/FieldPlotTypeDependentRelevance.h"
 #include "framework/InvertingRelevance.h"
 #include "framework/LinePlotTypeDependentRelevance.h"
@@ -21,23 +20,14 @@ using orrery::sdk::ui::dialogs::propertybindings::RelevanceApplier;
 
 namespace {
 
-typedef boost::shared_ptr<const RelevanceInterface> RelevancePtr;
-
-struct Announcements
-{
-    explicit Announcements(const RelevanceInterface& relevance)
-        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; }))
-    {
-    }
-    int count = 0;
-    boost::signals2::scoped_connection connection;
-};
-
 // A relevance that a test switches through a property.
 struct Switch
 {
     explicit Switch(bool on) : value(boost::make_shared<Property<bool>>(on)) {}
-    RelevancePtr relevance() const { return boost::make_shared<PropertyDependentRelevance<bool>>(value, true); }
+    boost::shared_ptr<const RelevanceInterface> relevance() const
+    {
+        return boost::make_shared<PropertyDependentRelevance<bool>>(value, true);
+    }
     boost::shared_ptr<Property<bool>> value;
 };
 
@@ -45,23 +35,11 @@ typedef BindingFixture RelevanceClassesTest;
 
 } // namespace
 
-TEST_F(RelevanceClassesTest, DataSetExistsFollowsTheKernelsDataSet)
-{
-    DataSetExistsRelevance relevance;
-    Announcements announced(relevance);
-    EXPECT_FALSE(relevance.isRelevant());
-    Kernel::loadSampleDataSet();
-    EXPECT_TRUE(relevance.isRelevant());
-    EXPECT_GE(announced.count, 1);
-    Kernel::clearDataSet();
-    EXPECT_FALSE(relevance.isRelevant());
-}
-
 TEST_F(RelevanceClassesTest, PlotTypeRelevancesSplitFieldAndLinePlots)
 {
     FieldPlotTypeDependentRelevance field;
     LinePlotTypeDependentRelevance line;
-    Announcements announced(field);
+    RelevanceChanges announced(field);
     const struct
     {
         PlotType_e plotType;
@@ -79,26 +57,23 @@ TEST_F(RelevanceClassesTest, PlotTypeRelevancesSplitFieldAndLinePlots)
     EXPECT_GE(announced.count, 4);
 }
 
-TEST_F(RelevanceClassesTest, StateChangeRelevanceAsksItsPredicateAfterEachChange)
+TEST_F(RelevanceClassesTest, StateChangeAndInvertingRelevancesRelayEachChange)
 {
     bool answer = false;
     StateChangeDependentRelevance relevance([&answer] { return answer; });
-    Announcements announced(relevance);
+    RelevanceChanges announced(relevance);
     answer = true;
     EXPECT_TRUE(relevance.isRelevant());
     Kernel::fireStateChange(StateChange_NodeMapsAltered);
     EXPECT_EQ(announced.count, 1);
-}
 
-TEST_F(RelevanceClassesTest, InvertingRelevanceNegatesAndRelays)
-{
     Switch s(true);
     InvertingRelevance inverted(s.relevance());
-    Announcements announced(inverted);
+    RelevanceChanges invertedChanges(inverted);
     EXPECT_FALSE(inverted.isRelevant());
     s.value->setValue(false);
     EXPECT_TRUE(inverted.isRelevant());
-    EXPECT_EQ(announced.count, 1);
+    EXPECT_EQ(invertedChanges.count, 1);
 }
 
 TEST_F(RelevanceClassesTest, ExpressionsAreReadLeftToRight)
@@ -114,7 +89,7 @@ TEST_F(RelevanceClassesTest, ExpressionsAreReadLeftToRight)
     Switch first(false), second(true);
     RelevanceExpression either(first.relevance());
     either.oor(second.relevance());
-    Announcements announced(either);
+    RelevanceChanges announced(either);
     EXPECT_TRUE(either.isRelevant());
     second.value->setValue(false);
     first.value->setValue(true);
@@ -141,6 +116,12 @@ TEST_F(RelevanceClassesTest, ApplierEnablesOrShowsWidgetsOnEveryChange)
     s.value->setValue(false);
     EXPECT_FALSE(hidden.isVisible());
     EXPECT_TRUE(hidden.isEnabled());
+
+    // An applier outliving its widget does not touch it.
+    auto gone = std::make_unique<QLabel>();
+    RelevanceApplier outliving(s.relevance(), {gone.get()});
+    gone.reset();
+    s.value->setValue(true);
 }
 
 TEST_F(RelevanceClassesTest, AnIdleApplierAppliesOnceAfterManyChanges)
@@ -155,14 +136,4 @@ TEST_F(RelevanceClassesTest, AnIdleApplierAppliesOnceAfterManyChanges)
     EXPECT_TRUE(label.isEnabled());
     runIdle();
     EXPECT_FALSE(label.isEnabled());
-}
-
-TEST_F(RelevanceClassesTest, AnApplierOutlivingItsWidgetDoesNotTouchIt)
-{
-    Switch s(true);
-    auto label = std::make_unique<QLabel>();
-    RelevanceApplier applier(s.relevance(), {label.get()});
-    label.reset();
-    s.value->setValue(false);
-    SUCCEED();
 }

@@ -32,24 +32,19 @@ protected:
 
 } // namespace
 
-TEST_F(Settings, ValuesSurviveANewRun)
+TEST_F(Settings, ValuesSurviveANewRunAndALaterDepositReplacesOne)
 {
     EXPECT_EQ("", settings().getStringValue("LastLoaderUsedForExt_csv"));
     settings().depositValue("LastLoaderUsedForExt_csv", "CSV table");
     settings().depositValue("Odd key=1", "two\nlines \\ and = signs");
-    settings().reload();
-    EXPECT_EQ("CSV table", settings().getStringValue("LastLoaderUsedForExt_csv"));
-    EXPECT_EQ("two\nlines \\ and = signs", settings().getStringValue("Odd key=1"));
-    EXPECT_EQ(QDir(folder.path()).filePath("settings.ini").toStdString(), settings().filePath());
-    EXPECT_EQ("", settings().lastError());
-}
-
-TEST_F(Settings, LaterDepositReplacesTheValue)
-{
     settings().depositValue("k", "first");
     settings().depositValue("k", "second");
     settings().reload();
     EXPECT_EQ("second", settings().getStringValue("k"));
+    EXPECT_EQ("CSV table", settings().getStringValue("LastLoaderUsedForExt_csv"));
+    EXPECT_EQ("two\nlines \\ and = signs", settings().getStringValue("Odd key=1"));
+    EXPECT_EQ(QDir(folder.path()).filePath("settings.ini").toStdString(), settings().filePath());
+    EXPECT_EQ("", settings().lastError());
 }
 
 TEST_F(Settings, CorruptFileKeepsItsReadableLinesAndIsReported)

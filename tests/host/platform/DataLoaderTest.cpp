@@ -4,35 +4,28 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include "platform/kernel/Kernel.h"
-#include "platform/kernel/KernelTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
+#include "support/Recorders.h"
 
 using namespace orrery::sdk;
 using orrery::kernel::Kernel;
-using orrery::kernel::testing::KernelTestSupport;
+using testsupport::SampleKernelTest;
 
 namespace {
 
-class DataLoading : public ::testing::Test
+class DataLoading : public SampleKernelTest
 {
 protected:
-    void SetUp() override { KernelTestSupport::resetKernel(); }
-
-    std::string file(const char* name, const QByteArray& content)
+    bool load(const std::string& loaderName, const char* name, const QByteArray& content)
     {
         const QString path = QDir(folder.path()).filePath(name);
         QFile out(path);
         EXPECT_TRUE(out.open(QIODevice::WriteOnly));
         out.write(content);
-        return path.toStdString();
-    }
-
-    bool load(const std::string& loaderName, const std::string& path)
-    {
+        out.close();
         error.clear();
-        return DataLoaderRepository::getInstance().loaderNamed(loaderName)->load(path, error);
+        return DataLoaderRepository::getInstance().loaderNamed(loaderName)->load(path.toStdString(), error);
     }
-
     const orrery::kernel::DataSet& data() { return Kernel::instance().dataSet(); }
 
     QTemporaryDir folder;
@@ -48,27 +41,19 @@ public:
 
 } // namespace
 
-TEST_F(DataLoading, CsvTableBecomesOneZone)
+TEST_F(DataLoading, EachFormatBecomesItsZones)
 {
-    ASSERT_TRUE(load("CSV table", file("probe.csv", "\"x\", \"p\"\n0,1.5\n# comment\n\n2, -3e2\r\n")));
+    ASSERT_TRUE(load("CSV table", "probe.csv", "\"x\", \"p\"\n0,1.5\n# comment\n\n2, -3e2\r\n"));
     EXPECT_EQ(1, data().numZones());
     EXPECT_EQ("probe", data().zoneName(1));
     EXPECT_EQ("p", data().varName(2));
     EXPECT_EQ((std::vector<double>{1.5, -300.0}), data().values(1, 2));
-}
 
-TEST_F(DataLoading, WhitespaceTableSplitsOnSpacesAndTabs)
-{
-    ASSERT_TRUE(load("Text table", file("run.dat", "t   T\n0\t300\n1  310\n")));
+    ASSERT_TRUE(load("Text table", "run.dat", "t   T\n0\t300\n1  310\n"));
     EXPECT_EQ(2, data().numVars());
     EXPECT_EQ((std::vector<double>{300.0, 310.0}), data().values(1, 2));
-}
 
-TEST_F(DataLoading, ZoneBlocksGiveNamedZones)
-{
-    ASSERT_TRUE(load("Zone blocks", file("two.zbk",
-                                         "TITLE Two blocks\nVARIABLES X Y\nZONE Left part\n0 0\n1 1\n"
-                                         "ZONE Right\n2 4\n")));
+    ASSERT_TRUE(load("Zone blocks", "two.zbk", "TITLE Two blocks\nVARIABLES X Y\nZONE Left part\n0 0\n1 1\nZONE Right\n2 4\n"));
     EXPECT_EQ("Two blocks", data().title());
     EXPECT_EQ(2, data().numZones());
     EXPECT_EQ("Left part", data().zoneName(1));
@@ -77,15 +62,16 @@ TEST_F(DataLoading, ZoneBlocksGiveNamedZones)
 
 TEST_F(DataLoading, BadFilesAreRefusedWithTheLineAndChangeNothing)
 {
-    KernelTestSupport::loadSampleDataSet();
-    EXPECT_FALSE(load("CSV table", file("bad.csv", "a,b\n1,2\n3\n")));
+    EXPECT_FALSE(load("CSV table", "bad.csv", "a,b\n1,2\n3\n"));
     EXPECT_EQ("Line 3: 1 values where 2 were expected.", error);
-    EXPECT_FALSE(load("Text table", file("bad.txt", "a b\n1 two\n")));
+    EXPECT_FALSE(load("Text table", "bad.txt", "a b\n1 two\n"));
     EXPECT_EQ("Line 2: \"two\" is not a number.", error);
-    EXPECT_FALSE(load("Zone blocks", file("bad.zbk", "ZONE z\n1 2\n")));
+    EXPECT_FALSE(load("Zone blocks", "bad.zbk", "ZONE z\n1 2\n"));
     EXPECT_EQ("Line 1: a zone starts before the VARIABLES line.", error);
-    EXPECT_FALSE(load("CSV table", file("empty.csv", "a,b\n")));
-    EXPECT_FALSE(load("CSV table", folder.path().toStdString() + "/missing.csv"));
+    EXPECT_FALSE(load("CSV table", "empty.csv", "a,b\n"));
+    error.clear();
+    EXPECT_FALSE(DataLoaderRepository::getInstance().loaderNamed("CSV table")->load(
+        folder.path().toStdString() + "/missing.csv", error));
     EXPECT_EQ("Heated plate", data().title());
 }
 

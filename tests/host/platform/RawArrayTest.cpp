@@ -3,7 +3,7 @@
 
 using orrery::RawArray;
 
-TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32)
+TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32AndAppendEnlargesToExactlyTheSum)
 {
     RawArray<long> a;
     a.push_back(1);
@@ -23,6 +23,14 @@ TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32)
     EXPECT_EQ(150u, b.capacity());
     for (long i = 0; i <= 100; ++i)
         ASSERT_EQ(i, b[i]);
+
+    RawArray<long> c;
+    c.push_back(-1);
+    c.append(b);
+    EXPECT_EQ(102u, c.size());
+    EXPECT_EQ(102u, c.capacity());
+    EXPECT_EQ(-1, c[0]);
+    EXPECT_EQ(100, c[101]);
 }
 
 TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullAndTheSlotFollowsReallocation)
@@ -41,18 +49,4 @@ TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullAndTheSlotFollowsReallocation)
     EXPECT_EQ(4u, a.size());
     EXPECT_EQ(7, a[0]);
     EXPECT_EQ(10, a[3]);
-}
-
-TEST(RawArrayGrowth, AppendEnlargesToExactlyTheSum)
-{
-    RawArray<long> a;
-    a.push_back(1);
-    RawArray<long> b;
-    for (long i = 0; i < 40; ++i)
-        b.push_back(i);
-    a.append(b);
-    EXPECT_EQ(41u, a.size());
-    EXPECT_EQ(41u, a.capacity());
-    EXPECT_EQ(1, a[0]);
-    EXPECT_EQ(39, a[40]);
 }

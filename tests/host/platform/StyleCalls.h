@@ -3,17 +3,17 @@
 #include <string>
 #include <utility>
 #include <vector>
-#include "platform/kernel/KernelTestSupport.h"
 #include "platform/kernel/OrrUtil.h"
-#include "platform/sdk/StateChangeEventObservable.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/CheckedStyleValue.h"
 #include "platform/toolbox/Set.h"
+#include "support/Recorders.h"
 
 // Style reads and writes made the way the library makes them: identifier list,
 // prepared argument list, low-level or final call.
 namespace stylecalls {
 
+using namespace testsupport;
 using orrery::RawArray;
 using orrery::toolbox::ArgList;
 using orrery::toolbox::CheckedStyleValue;
@@ -88,31 +88,5 @@ inline std::string lastError()
     OrrUtilStringDealloc(&text);
     return copy;
 }
-
-// Every state change announced while it lives.
-class StateChangeRecorder
-{
-public:
-    StateChangeRecorder()
-        : m_connection(orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-              [this](const orrery::sdk::integration::StateChangeEventInterface& event) {
-                  events.emplace_back(event.code(), event.stylePath().join("/"));
-              }))
-    {
-    }
-
-    std::vector<StateChange_e> codes() const
-    {
-        std::vector<StateChange_e> all;
-        for (const auto& event : events)
-            all.push_back(event.first);
-        return all;
-    }
-
-    std::vector<std::pair<StateChange_e, std::string>> events;
-
-private:
-    boost::signals2::scoped_connection m_connection;
-};
 
 } // namespace stylecalls

@@ -2,19 +2,10 @@
 #include "StyleCalls.h"
 
 using namespace stylecalls;
-using orrery::kernel::testing::KernelTestSupport;
 
 namespace {
 
-class StyleWrite : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        KernelTestSupport::resetKernel();
-        KernelTestSupport::loadSampleDataSet(); // five variables
-    }
-};
+typedef SampleKernelTest StyleWrite; // five variables
 
 struct Refusal
 {
@@ -49,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{"PlotType", {"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}),
     [](const ::testing::TestParamInfo<Refusal>& info) { return info.param.name; });
 
-TEST_F(StyleWrite, RangeLimitsMustStayOrdered)
+TEST_F(StyleWrite, RangeTextAndSizeRules)
 {
     EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalRGB", "RangeMax"}, 10.0));
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalRGB", "RangeMin"}, 10.0));
@@ -58,10 +49,7 @@ TEST_F(StyleWrite, RangeLimitsMustStayOrdered)
     EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalRGB", "RangeMin"}, 9.5));
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalRGB", "RangeMax"}, 9.0));
     EXPECT_EQ("The maximum (9) must be greater than the minimum (9.5).", lastError());
-}
 
-TEST_F(StyleWrite, TextAndSizeRules)
-{
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<std::string>({"GlobalScatter", "BaseFontFamily"}, ""));
     EXPECT_EQ("The font family must not be empty.", lastError());
     EXPECT_EQ(SetValue_Ok, writeFinal<std::string>({"GlobalLinePlot", "BaseFontFamily"}, "Serif"));
@@ -71,58 +59,25 @@ TEST_F(StyleWrite, TextAndSizeRules)
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 0.0));
     EXPECT_EQ("The relative size must be greater than zero.", lastError());
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"BasicSize", "SymbolSizes", "Medium"}, 101.0));
-}
-
-TEST_F(StyleWrite, SuccessfulWriteClearsTheLastError)
-{
-    writeLong({"GlobalRGB", "RGBMode"}, 7);
+    // A successful write clears the last error.
     ASSERT_FALSE(lastError().empty());
     EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 2));
     EXPECT_EQ(2, readLong({"GlobalRGB", "RGBMode"}));
     EXPECT_EQ(nullptr, OrrUtilStyleGetLastErrorString());
 }
 
-TEST_F(StyleWrite, UnknownPathsAreRefusedAndUnreadable)
+TEST_F(StyleWrite, UnknownPathsAndValuesOfTheWrongTypeAreRefused)
 {
     EXPECT_EQ(SetValue_UnknownPath, writeLong({"GlobalRGB", "PurpleChannelVar"}, 1));
     EXPECT_EQ("Unknown style path: GlobalRGB/PurpleChannelVar", lastError());
     EXPECT_FALSE(readLong({"GlobalRGB", "PurpleChannelVar"}));
     EXPECT_FALSE(readLong({"GlobalRGB"})); // a group, not a value
-}
 
-TEST_F(StyleWrite, ValueOfTheWrongTypeIsRefused)
-{
     EXPECT_EQ(SetValue_TypeMismatch, writeFinal<double>({"GlobalScatter", "BaseFontFamily"}, 1.0));
     EXPECT_EQ("Style path GlobalScatter/BaseFontFamily takes a text value.", lastError());
     EXPECT_FALSE(readFinal<double>({"GlobalScatter", "BaseFontFamily"}));
     EXPECT_EQ(true, readFinal<bool>({"GlobalScatter", "RelativeSizeInGridUnits"}));
-}
 
-TEST_F(StyleWrite, VariableWriteWithoutVariablesIsDeclinedSilently)
-{
-    KernelTestSupport::clearDataSet();
-    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "GreenChannelVar"}, 2));
-    EXPECT_EQ("", lastError());
-    EXPECT_EQ(0, readLong({"GlobalRGB", "GreenChannelVar"}));
-    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "GreenChannelVar"}, 0));
-}
-
-TEST_F(StyleWrite, ForcedOutcomesApplyToTheNextWriteOnly)
-{
-    KernelTestSupport::declineNextWrite();
-    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "RGBMode"}, 1));
-    EXPECT_EQ(0, readLong({"GlobalRGB", "RGBMode"}));
-    KernelTestSupport::refuseNextWrite("Busy elsewhere.");
-    EXPECT_EQ(SetValue_InvalidValue, writeLong({"GlobalRGB", "RGBMode"}, 1));
-    EXPECT_EQ("Busy elsewhere.", lastError());
-    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 1));
-    writeLong({"GlobalRGB", "RangeMin"}, 0);
-    EXPECT_EQ(3, KernelTestSupport::styleWriteCount({"GlobalRGB", "RGBMode"}));
-    EXPECT_EQ(4, KernelTestSupport::styleWriteCount());
-}
-
-TEST_F(StyleWrite, ArithmeticAssignmentWorksOnNumbersOnly)
-{
     EXPECT_EQ(SetValue_Ok, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 1.5, AssignOp_TimesEquals));
     EXPECT_EQ(1.5, readFinal<double>({"GlobalScatter", "RelativeSize"}));
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 0.0, AssignOp_DivideEquals));
@@ -131,25 +86,43 @@ TEST_F(StyleWrite, ArithmeticAssignmentWorksOnNumbersOnly)
     EXPECT_EQ(SetValue_InvalidOperator, writeFinal<bool>({"GlobalScatter", "BaseFontIsBold"}, true, AssignOp_PlusEquals));
 }
 
-TEST_F(StyleWrite, FramePrefixAddressesAnotherFrame)
+TEST_F(StyleWrite, DeclinedWritesAreSilentAndForcedOutcomesApplyToTheNextWriteOnly)
 {
-    KernelTestSupport::setFrameCount(2); // frame 2 is now current
+    Kernel::declineNextWrite();
+    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_EQ(0, readLong({"GlobalRGB", "RGBMode"}));
+    Kernel::refuseNextWrite("Busy elsewhere.");
+    EXPECT_EQ(SetValue_InvalidValue, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    EXPECT_EQ("Busy elsewhere.", lastError());
+    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "RGBMode"}, 1));
+    writeLong({"GlobalRGB", "RangeMin"}, 0);
+    EXPECT_EQ(3, Kernel::styleWriteCount({"GlobalRGB", "RGBMode"}));
+    EXPECT_EQ(4, Kernel::styleWriteCount());
+
+    // A variable write without variables is declined silently.
+    Kernel::clearDataSet();
+    EXPECT_EQ(SetValue_Declined, writeLong({"GlobalRGB", "GreenChannelVar"}, 2));
+    EXPECT_EQ("", lastError());
+    EXPECT_EQ(0, readLong({"GlobalRGB", "GreenChannelVar"}));
+    EXPECT_EQ(SetValue_Ok, writeLong({"GlobalRGB", "GreenChannelVar"}, 0));
+}
+
+TEST_F(StyleWrite, FramePrefixAddressesAnotherFrameAndWithoutFramesThereIsNoStyle)
+{
+    Kernel::setFrameCount(2); // frame 2 is now current
     EXPECT_EQ(SetValue_Ok, writeLong({"Frame", "1", "GlobalRGB", "RGBMode"}, 3));
     EXPECT_EQ(3, readLong({"Frame", "1", "GlobalRGB", "RGBMode"}));
     EXPECT_EQ(0, readLong({"GlobalRGB", "RGBMode"}));
     EXPECT_EQ(SetValue_NoFrame, writeLong({"Frame", "7", "GlobalRGB", "RGBMode"}, 3));
     EXPECT_EQ("There is no frame 7.", lastError());
-}
 
-TEST_F(StyleWrite, WithoutFramesThereIsNoStyle)
-{
-    KernelTestSupport::setFrameCount(0);
+    Kernel::setFrameCount(0);
     EXPECT_EQ(SetValue_NoFrame, writeLong({"GlobalRGB", "RGBMode"}, 1));
     EXPECT_FALSE(readLong({"GlobalRGB", "RGBMode"}));
     EXPECT_EQ(PlotType_Sketch, OrrUtilFrameGetPlotType());
 }
 
-TEST(StyleValueIdentifiers, OneStableIdentifierPerName)
+TEST_F(StyleWrite, OneStableIdentifierPerNameAndExtraNamesContinueThePath)
 {
     const StyleValue a("GlobalRGB", "RangeMin");
     const StyleValue b(StringList{"GlobalRGB", "RangeMax"});
@@ -157,13 +130,8 @@ TEST(StyleValueIdentifiers, OneStableIdentifierPerName)
     EXPECT_EQ(a.macroIDs()[0], b.macroIDs()[0]);
     EXPECT_NE(a.macroIDs()[1], b.macroIDs()[1]);
     EXPECT_EQ((StringList{"GlobalRGB", "RangeMin"}), a.names());
-    const StyleValue copy(a);
-    EXPECT_EQ(a.macroIDs()[1], copy.macroIDs()[1]);
-}
+    EXPECT_EQ(a.macroIDs()[1], StyleValue(a).macroIDs()[1]);
 
-TEST(StyleValueIdentifiers, ExtraNamesContinueThePath)
-{
-    KernelTestSupport::resetKernel();
     const StyleValue group("GlobalRGB");
     RawArray<long> ids;
     ids.append(group.macroIDs());

@@ -2,38 +2,29 @@
 #include "StyleCalls.h"
 
 using namespace stylecalls;
-using orrery::kernel::testing::KernelTestSupport;
 
 namespace {
-
 const StringList Mode{"GlobalRGB", "RGBMode"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
-
-class Undo : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        KernelTestSupport::resetKernel();
-        KernelTestSupport::loadSampleDataSet();
-    }
-};
-
 } // namespace
 
-TEST_F(Undo, BracketIsUndoneAndRedoneAsOneStep)
+typedef SampleKernelTest Undo;
+
+TEST_F(Undo, BracketIsUndoneAndRedoneAsOneStepAndNestedBracketsJoinIt)
 {
     OrrUtilUndoStateBegin(11);
     writeLong(Mode, 1);
     writeLong(Red, 4);
+    OrrUtilUndoStateBegin(11);
     writeLong(Mode, 2);
+    OrrUtilUndoStateEnd(false, false); // an inner bracket cannot drop its writes from the step
     OrrUtilUndoStateEnd(false, true);
 
-    StateChangeRecorder recorder;
+    changes.events.clear();
     EXPECT_TRUE(OrrUtilUndoPerform());
     EXPECT_EQ(0, readLong(Mode));
     EXPECT_EQ(0, readLong(Red));
-    EXPECT_EQ(std::vector<StateChange_e>(3, StateChange_Style), recorder.codes());
+    EXPECT_EQ(std::vector<StateChange_e>(3, StateChange_Style), changes.codes());
     EXPECT_FALSE(OrrUtilUndoPerform());
 
     EXPECT_TRUE(OrrUtilRedoPerform());
@@ -42,7 +33,7 @@ TEST_F(Undo, BracketIsUndoneAndRedoneAsOneStep)
     EXPECT_FALSE(OrrUtilRedoPerform());
 }
 
-TEST_F(Undo, WritesOutsideBracketsAreStepsOfTheirOwn)
+TEST_F(Undo, WritesOutsideBracketsAreStepsOfTheirOwnAndANewWriteDropsTheRedoHistory)
 {
     writeLong(Mode, 1);
     writeLong(Mode, 2);
@@ -50,19 +41,9 @@ TEST_F(Undo, WritesOutsideBracketsAreStepsOfTheirOwn)
     EXPECT_EQ(1, readLong(Mode));
     OrrUtilUndoPerform();
     EXPECT_EQ(0, readLong(Mode));
-}
-
-TEST_F(Undo, NestedBracketsJoinTheOutermost)
-{
-    OrrUtilUndoStateBegin(11);
-    writeLong(Mode, 1);
-    OrrUtilUndoStateBegin(11);
-    writeLong(Red, 3);
-    OrrUtilUndoStateEnd(false, false); // an inner bracket cannot drop its writes from the step
-    OrrUtilUndoStateEnd(false, true);
-    OrrUtilUndoPerform();
-    EXPECT_EQ(0, readLong(Mode));
-    EXPECT_EQ(0, readLong(Red));
+    writeLong(Mode, 3);
+    EXPECT_FALSE(OrrUtilRedoPerform());
+    EXPECT_EQ(3, readLong(Mode));
 }
 
 TEST_F(Undo, RevertTakesBackOnlyTheClosedBracket)
@@ -89,13 +70,4 @@ TEST_F(Undo, UnrecordedBracketKeepsWritesButLeavesNothingToUndo)
     EXPECT_EQ(2, readLong(Mode));
     OrrUtilUndoPerform(); // takes back the earlier, recorded write
     EXPECT_EQ(0, readLong(Mode));
-}
-
-TEST_F(Undo, NewWriteDropsTheRedoHistory)
-{
-    writeLong(Mode, 1);
-    OrrUtilUndoPerform();
-    writeLong(Mode, 3);
-    EXPECT_FALSE(OrrUtilRedoPerform());
-    EXPECT_EQ(3, readLong(Mode));
 }

@@ -1,4 +1,4 @@
-// The widget observables and the host spin boxes, driven by keyboard and focus.
+// The widget observables and the scientific spin box, driven by the keyboard.
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,7 +11,6 @@
 #include "platform/qwidgetobservable/QButtonObservable.h"
 #include "platform/qwidgetobservable/QComboBoxObservable.h"
 #include "platform/qwidgetobservable/QTextFieldObservable.h"
-#include "platform/ui/IntegralSpinBox.h"
 #include "platform/ui/QScientificSpinBox.h"
 
 using namespace qwidgetobservable;
@@ -21,9 +20,8 @@ namespace {
 class WidgetObservablesTest : public ::testing::Test
 {
 protected:
-    WidgetObservablesTest() : field(&dialog), other(&dialog), ok(QStringLiteral("OK"), &dialog)
+    WidgetObservablesTest() : field(&dialog), ok(QStringLiteral("OK"), &dialog)
     {
-        other.move(0, 40);
         ok.move(0, 80);
         ok.setDefault(true);
         QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
@@ -37,7 +35,6 @@ protected:
 
     QDialog dialog;
     QLineEdit field;
-    QLineEdit other;
     QPushButton ok;
 };
 
@@ -55,12 +52,12 @@ struct ButtonListener : QButtonListenerInterface
 
 } // namespace
 
-TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusalKeepsTheDialogOpen)
+TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTheDialogOpen)
 {
     ASSERT_TRUE(showDialog());
     int commits = 0;
     bool accept = false;
-    QTextFieldObservable observable(field, [&] {
+    auto observable = std::make_unique<QTextFieldObservable>(field, [&] {
         ++commits;
         return accept;
     });
@@ -74,33 +71,13 @@ TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusalKeepsTheDialogOpen)
     QTest::keyClick(&field, Qt::Key_Enter);
     EXPECT_EQ(commits, 2);
     EXPECT_EQ(accepted.count(), 1);
-}
 
-TEST_F(WidgetObservablesTest, LeavingCommitsOnlyAnEditedField)
-{
+    // A commit that throws is contained and counts as refused.
+    observable = std::make_unique<QTextFieldObservable>(field, []() -> bool { throw std::runtime_error("kernel gone"); });
     ASSERT_TRUE(showDialog());
-    int commits = 0;
-    QTextFieldObservable observable(field, [&] { return ++commits > 0; });
-    field.setFocus();
-    other.setFocus();
-    EXPECT_EQ(commits, 0);
-    field.setFocus();
-    QTest::keyClicks(&field, QStringLiteral("x"));
-    other.setFocus();
-    EXPECT_EQ(commits, 1);
-    field.setFocus();
-    other.setFocus();
-    EXPECT_EQ(commits, 1);
-}
-
-TEST_F(WidgetObservablesTest, AFailingCommitIsContainedAndCountsAsRefused)
-{
-    ASSERT_TRUE(showDialog());
-    QTextFieldObservable observable(field, []() -> bool { throw std::runtime_error("kernel gone"); });
-    QSignalSpy accepted(&dialog, &QDialog::accepted);
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Return);
-    EXPECT_EQ(accepted.count(), 0);
+    EXPECT_EQ(accepted.count(), 1);
 }
 
 TEST_F(WidgetObservablesTest, ComboAndButtonObservablesTellTheirListenersUntilRemoved)
@@ -150,28 +127,4 @@ TEST(HostSpinBoxesTest, ScientificSpinBoxShowsAndAcceptsExponents)
     text = QStringLiteral("2");
     EXPECT_EQ(spin.validate(text, position), QValidator::Intermediate);
     EXPECT_DOUBLE_EQ(spin.value(), 0.1);
-}
-
-TEST(HostSpinBoxesTest, ScientificSpinBoxTypedWithKeyboardTrackingOff)
-{
-    orrery::ui::QScientificSpinBox spin;
-    spin.setKeyboardTracking(false);
-    QSignalSpy changes(&spin, &orrery::ui::QScientificSpinBox::valueChanged);
-    QTest::keyClick(&spin, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(&spin, QStringLiteral("3e2"));
-    EXPECT_EQ(changes.count(), 0);
-    QTest::keyClick(&spin, Qt::Key_Return);
-    ASSERT_EQ(changes.count(), 1);
-    EXPECT_DOUBLE_EQ(spin.value(), 300.0);
-    QTest::keyClick(&spin, Qt::Key_Down);
-    EXPECT_DOUBLE_EQ(spin.value(), 299.0);
-}
-
-TEST(HostSpinBoxesTest, IntegralSpinBoxStartsWithTheWidestRange)
-{
-    orrery::ui::IntegralSpinBox spin;
-    EXPECT_EQ(spin.minimum(), -2147483646);
-    EXPECT_EQ(spin.maximum(), 2147483646);
-    spin.setValue(-2000000000);
-    EXPECT_EQ(spin.value(), -2000000000);
 }

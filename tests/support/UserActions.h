@@ -1,6 +1,7 @@
 #pragma once
-// What a user does to a dialog, for tests that drive dialogs offscreen.
+// What a user does to dialogs and widgets, for tests that drive them offscreen.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -38,8 +39,8 @@ inline void open(QWidget& dialog)
     QApplication::setActiveWindow(&dialog);
 }
 
-// Puts the focus into a field, replaces its whole text by typing, and leaves it.
-inline void retype(QWidget& field, const QString& text, QWidget& next)
+// Puts the focus into a field and replaces its whole text by typing.
+inline void type(QWidget& field, const QString& text)
 {
     field.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
@@ -47,7 +48,26 @@ inline void retype(QWidget& field, const QString& text, QWidget& next)
         QTest::keyClick(&field, Qt::Key_Delete);
     else
         QTest::keyClicks(&field, text);
+}
+
+// Types into a field, then leaves it for the next one.
+inline void retype(QWidget& field, const QString& text, QWidget& next)
+{
+    type(field, text);
     next.setFocus(Qt::TabFocusReason);
+}
+
+// Types into a field, then presses Return.
+inline void typeAndReturn(QWidget& field, const QString& text)
+{
+    type(field, text);
+    QTest::keyClick(&field, Qt::Key_Return);
+}
+
+inline void clickRow(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    const QRect rect = view.visualRect(view.model()->index(row, 0));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, rect.center());
 }
 
 } // namespace user

@@ -1,0 +1,92 @@
+#pragma once
+// Shared by every test folder: a clean kernel per case, and recorders of what
+// properties, relevances and the kernel announce.
+#include <string>
+#include <utility>
+#include <vector>
+#include <gtest/gtest.h>
+#include "platform/kernel/KernelTestSupport.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+#include "propertymanager/RelevanceInterface.h"
+
+namespace testsupport {
+
+typedef orrery::kernel::testing::KernelTestSupport Kernel;
+
+template <typename T>
+T styleValue(const orrery::toolbox::StringList& path, long member = -1)
+{
+    return std::get<T>(Kernel::styleValue(path, member));
+}
+
+// Every value a property announces.
+template <typename T>
+struct Emissions
+{
+    template <typename P>
+    explicit Emissions(const P& property)
+        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); }))
+    {
+    }
+    size_t count() const { return values.size(); }
+    std::vector<T> values;
+    boost::signals2::scoped_connection connection;
+};
+
+// How often a relevance announced a change.
+struct RelevanceChanges
+{
+    explicit RelevanceChanges(const orrery::sdk::ui::propertymanager::RelevanceInterface& relevance)
+        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; }))
+    {
+    }
+    int count = 0;
+    boost::signals2::scoped_connection connection;
+};
+
+// Every state change the kernel announces while it lives: code and style path.
+struct StateChangeRecorder
+{
+    StateChangeRecorder()
+        : connection(orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
+              [this](const orrery::sdk::integration::StateChangeEventInterface& e) {
+                  events.emplace_back(e.code(), e.stylePath().join("/"));
+              }))
+    {
+    }
+    std::vector<StateChange_e> codes() const
+    {
+        std::vector<StateChange_e> all;
+        for (const auto& e : events)
+            all.push_back(e.first);
+        return all;
+    }
+    std::vector<std::string> stylePaths() const
+    {
+        std::vector<std::string> paths;
+        for (const auto& e : events)
+            if (e.first == StateChange_Style)
+                paths.push_back(e.second);
+        return paths;
+    }
+    std::vector<std::pair<StateChange_e, std::string>> events;
+    boost::signals2::scoped_connection connection;
+};
+
+// A clean kernel holding the sample data set (zones Inlet, Channel, Outlet;
+// variables X, Y, Z, Pressure, Temperature), message boxes recorded, and the
+// state changes announced from then on.
+class SampleKernelTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        Kernel::resetKernel();
+        Kernel::loadSampleDataSet();
+        Kernel::captureMessageBoxes();
+        changes.events.clear();
+    }
+    StateChangeRecorder changes;
+};
+
+} // namespace testsupport
