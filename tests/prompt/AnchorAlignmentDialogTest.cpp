@@ -1,15 +1,8 @@
-#include <QDialogButtonBox>
 #include <QFrame>
-#include <QGridLayout>
-#include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-#include <gtest/gtest.h>
-#include "support/UserActions.h"
-#include "WidgetContract.h"
+#include "DialogTestSupport.h"
 #include "prompt/AnchorAlignmentDialog.h"
 
+using namespace dialogtest;
 using orrery::dialogs::prompt::AnchorAlignmentDialog;
 
 namespace {
@@ -22,7 +15,7 @@ const char* const ButtonNames[] = {
     "anchorAlignment_BottomLeft_RadioButton",  "anchorAlignment_BottomCenter_RadioButton",
     "anchorAlignment_BottomRight_RadioButton"};
 
-class AnchorAlignmentDialogTest : public ::testing::Test
+class AnchorAlignmentDialogTest : public DialogTest
 {
 protected:
     static QRadioButton* button(AnchorAlignmentDialog& d, int alignment)
@@ -37,12 +30,6 @@ protected:
                 return a;
         return -1;
     }
-    static QPushButton* standard(AnchorAlignmentDialog& d, QDialogButtonBox::StandardButton which)
-    {
-        return d.findChild<QDialogButtonBox*>("buttonBox")->button(which);
-    }
-
-    QWidget parent;
 };
 
 TEST_F(AnchorAlignmentDialogTest, LayoutContract)
@@ -90,79 +77,52 @@ TEST_F(AnchorAlignmentDialogTest, LayoutContract)
     ASSERT_NE(dialog->helpAction(), nullptr);
 }
 
-TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedAndIsTheAnswer)
+TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedOrTopLeftWhenOutOfRangeAndIsTheAnswerUntilAClick)
 {
-    for (int initial : {0, 1, 4, 8})
-    {
-        AnchorAlignmentDialog dialog(AnchorAlignment_e(initial), parent);
-        EXPECT_EQ(checked(dialog), initial);
-        EXPECT_EQ(dialog.selectedAlignment(), initial);
-    }
-}
-
-TEST_F(AnchorAlignmentDialogTest, AnOutOfRangeAlignmentShowsTopLeftButKeepsItsValueUntilAClick)
-{
-    for (int initial : {9, 12, -1})
+    for (int initial : {0, 1, 4, 8, 9, 12, -1})
     {
         SCOPED_TRACE(initial);
         AnchorAlignmentDialog dialog(AnchorAlignment_e(initial), parent);
         dialog.show();
-        EXPECT_EQ(checked(dialog), 0);
+        EXPECT_EQ(checked(dialog), initial >= 0 && initial < 9 ? initial : 0);
         EXPECT_EQ(dialog.selectedAlignment(), initial);
         user::click(button(dialog, 5));
         EXPECT_EQ(dialog.selectedAlignment(), 5);
     }
 }
 
-TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndOkKeepsIt)
+TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndALaterGetInstanceOnlyReplacesWhatCancelRestores)
 {
     AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
     for (int a : {8, 0, 1, 2, 3, 4, 5, 6, 7})
     {
         dialog->show();
         user::click(button(*dialog, a));
-        user::click(standard(*dialog, QDialogButtonBox::Ok));
+        user::press(*dialog, QDialogButtonBox::Ok);
         EXPECT_FALSE(dialog->isVisible());
         EXPECT_EQ(dialog->result(), QDialog::Accepted);
         EXPECT_EQ(dialog->selectedAlignment(), a);
     }
-}
 
-TEST_F(AnchorAlignmentDialogTest, CancelRestoresTheInitialAlignment)
-{
-    AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomRight, parent);
+    QWidget otherParent;
+    EXPECT_EQ(AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomRight, otherParent), dialog);
+    EXPECT_EQ(dialog->parentWidget(), &parent);
+    EXPECT_EQ(checked(*dialog), AnchorAlignment_BottomCenter);
+    EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomCenter);
+
     dialog->show();
     user::click(button(*dialog, AnchorAlignment_MiddleCenter));
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_MiddleCenter);
-    user::click(standard(*dialog, QDialogButtonBox::Cancel));
+    user::press(*dialog, QDialogButtonBox::Cancel);
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
+    EXPECT_EQ(checked(*dialog), AnchorAlignment_MiddleCenter); // the buttons are not reset
 
     dialog->show();
     user::click(button(*dialog, AnchorAlignment_TopCenter));
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
-}
-
-TEST_F(AnchorAlignmentDialogTest, ALaterGetInstanceOnlyReplacesWhatCancelRestores)
-{
-    AnchorAlignmentDialog* first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
-    first->show();
-    user::click(button(*first, AnchorAlignment_BottomLeft));
-    user::click(standard(*first, QDialogButtonBox::Ok));
-
-    QWidget otherParent;
-    AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopRight, otherParent);
-    EXPECT_EQ(second, first);
-    EXPECT_EQ(second->parentWidget(), &parent);
-    EXPECT_EQ(checked(*second), AnchorAlignment_BottomLeft);
-    EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_BottomLeft);
-
-    second->show();
-    user::click(standard(*second, QDialogButtonBox::Cancel));
-    EXPECT_EQ(second->selectedAlignment(), AnchorAlignment_TopRight);
-    EXPECT_EQ(checked(*second), AnchorAlignment_BottomLeft); // the buttons are not reset
 }
 
 TEST_F(AnchorAlignmentDialogTest, AFreshDialogIsBuiltAfterTheLiveOneIsDestroyed)

@@ -1,24 +1,17 @@
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QListView>
-#include <QPushButton>
-#include <QTest>
 #include <boost/make_shared.hpp>
-#include <gtest/gtest.h>
-#include "support/UserActions.h"
-#include "WidgetContract.h"
-#include "platform/common/IdleQueue.h"
+#include "DialogTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/settings/ApplicationSettings.h"
 #include "prompt/ChooseLoaderDialog.h"
 
+using namespace dialogtest;
 using orrery::dialogs::prompt::ChooseLoaderDialog;
 using orrery::sdk::ApplicationSettings;
 using orrery::sdk::DataLoaderInterface;
 using orrery::sdk::DataLoaderRepository;
-using orrery::sdk::ui::common::IdleQueue;
 using LoaderPtr = ChooseLoaderDialog::LoaderPtr;
 using Rows = std::vector<std::string>;
 
@@ -44,11 +37,12 @@ const char* const Multiple =
 const char* const NoneFound =
     "A loader could not be found for this file type.\nPlease choose which loader you would like to use.";
 
-class ChooseLoaderDialogTest : public ::testing::Test
+class ChooseLoaderDialogTest : public DialogTest
 {
 protected:
     void SetUp() override
     {
+        DialogTest::SetUp();
         // Installed besides the built-in "CSV table", "Text table" and "Zone blocks".
         pointCloud = boost::make_shared<NamedLoader>("Point cloud", "dat");
         binaryGrid = boost::make_shared<NamedLoader>("Binary grid", "bgr");
@@ -60,17 +54,14 @@ protected:
 
     ChooseLoaderDialog* chooser(std::vector<LoaderPtr> suggested, std::set<std::string> extensions)
     {
-        ChooseLoaderDialog* dialog = ChooseLoaderDialog::getInstance(*parent, suggested, extensions);
-        IdleQueue::instance().flush();
+        ChooseLoaderDialog* dialog = ChooseLoaderDialog::getInstance(*window, suggested, extensions);
+        runIdle();
         return dialog;
     }
     std::vector<LoaderPtr> datSuggestions() const { return {textTable, pointCloud}; }
 
     static QListView* list(QWidget& d) { return d.findChild<QListView*>("LoadersList"); }
-    static QPushButton* ok(QWidget& d)
-    {
-        return d.findChild<QDialogButtonBox*>("buttonBox")->button(QDialogButtonBox::Ok);
-    }
+    static QPushButton* ok(QWidget& d) { return standard(d, QDialogButtonBox::Ok); }
     // Rows as shown, header rows in brackets.
     static Rows shownRows(QWidget& d)
     {
@@ -89,43 +80,32 @@ protected:
         const QModelIndexList selected = list(d)->selectionModel()->selectedRows();
         return selected.size() == 1 ? selected.front().data().toString().toStdString() : "<none>";
     }
-    static QModelIndex rowNamed(QWidget& d, const std::string& name)
+    // Clicks (or double-clicks) the row of that text.
+    static void clickRow(QWidget& d, const std::string& name, bool twice = false)
     {
         QAbstractItemModel* model = list(d)->model();
-        const QModelIndexList found =
-            model->match(model->index(0, 0), Qt::DisplayRole, QString::fromStdString(name), 1, Qt::MatchExactly);
-        return found.value(0);
-    }
-    static void clickRow(QWidget& d, const std::string& name)
-    {
-        const QModelIndex index = rowNamed(d, name);
+        const QModelIndex index = model->match(model->index(0, 0), Qt::DisplayRole, QString::fromStdString(name), 1,
+                                               Qt::MatchExactly).value(0);
         ASSERT_TRUE(index.isValid()) << name;
-        QTest::mouseClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier, list(d)->visualRect(index).center());
-        IdleQueue::instance().flush();
-    }
-    static void doubleClickRow(QWidget& d, const std::string& name)
-    {
-        const QModelIndex index = rowNamed(d, name);
-        ASSERT_TRUE(index.isValid()) << name;
-        const QPoint at = list(d)->visualRect(index).center();
-        QTest::mouseClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier, at);
-        QTest::mouseDClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier, at);
-        IdleQueue::instance().flush();
+        user::clickRow(*list(d), index.row());
+        if (twice)
+            QTest::mouseDClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier, list(d)->visualRect(index).center());
+        runIdle();
     }
     // A new run of the application: the settings come from the file, the dialog is new.
     void restart()
     {
-        parent.reset(new QWidget);
+        window.reset(new QWidget);
         ApplicationSettings::getInstance().reload();
     }
 
-    std::unique_ptr<QWidget> parent{new QWidget};
+    std::unique_ptr<QWidget> window{new QWidget};
     LoaderPtr pointCloud, binaryGrid, textTable;
 };
 
 TEST_F(ChooseLoaderDialogTest, LayoutContract)
 {
-    ChooseLoaderDialog dialog(*parent);
+    ChooseLoaderDialog dialog(*window);
     contract::expectWidgets(dialog, {
         {"ChooseLoader", "orrery::dialogs::prompt::ChooseLoaderDialog", "Choose Loader"},
         {"verticalLayout_2", "QVBoxLayout", nullptr},
@@ -161,11 +141,9 @@ TEST_F(ChooseLoaderDialogTest, SuggestedLoadersComeFirstUnderHeadersThenTheOther
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), Multiple);
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader (*.dat *.plt)");
     EXPECT_EQ(shownRows(*dialog).size(), 8u);
-}
 
-TEST_F(ChooseLoaderDialogTest, WithoutSuggestionsAllLoadersAreListedByNameWithoutHeaders)
-{
-    ChooseLoaderDialog* dialog = chooser({}, {});
+    // Without suggestions all loaders are listed by name, without headers.
+    chooser({}, {});
     EXPECT_EQ(shownRows(*dialog), (Rows{"Binary grid", "CSV table", "Point cloud", "Text table", "Zone blocks"}));
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader ");
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), NoneFound);
@@ -173,20 +151,38 @@ TEST_F(ChooseLoaderDialogTest, WithoutSuggestionsAllLoadersAreListedByNameWithou
     EXPECT_FALSE(ok(*dialog)->isEnabled());
 }
 
-TEST_F(ChooseLoaderDialogTest, OkNeedsASelectedLoaderAndReturnsIt)
+TEST_F(ChooseLoaderDialogTest, OkNeedsASelectedLoaderAndADoubleClickAcceptsLikeOk)
 {
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat"});
+    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".xyz"});
     user::open(*dialog);
     EXPECT_FALSE(ok(*dialog)->isEnabled());
     EXPECT_FALSE(dialog->selectedLoader());
     clickRow(*dialog, "Suggested Loaders"); // a caption, not a choice
     EXPECT_FALSE(ok(*dialog)->isEnabled());
-    clickRow(*dialog, "Zone blocks");
+    clickRow(*dialog, "Text table");
     EXPECT_TRUE(ok(*dialog)->isEnabled());
+    // A selection does not survive a rebuild of the list.
+    dialog = chooser({}, {".xyz"});
+    EXPECT_EQ(selectedText(*dialog), "<none>");
+    EXPECT_FALSE(dialog->selectedLoader());
+    EXPECT_FALSE(ok(*dialog)->isEnabled());
+
+    user::open(*dialog);
+    clickRow(*dialog, "Zone blocks");
     user::press(*dialog, QDialogButtonBox::Ok);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     ASSERT_TRUE(dialog->selectedLoader());
     EXPECT_EQ(dialog->selectedLoader()->properties().name, "Zone blocks");
+
+    dialog = chooser(datSuggestions(), {".dat"});
+    user::open(*dialog);
+    clickRow(*dialog, "Other Available Loaders", true);
+    EXPECT_TRUE(dialog->isVisible());
+    clickRow(*dialog, "Binary grid", true);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedLoader(), binaryGrid);
+    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Binary grid");
 }
 
 TEST_F(ChooseLoaderDialogTest, TheChoiceForAnExtensionIsPreselectedAfterARestart)
@@ -213,7 +209,7 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForAnExtensionIsPreselectedAfterARestart
     EXPECT_EQ(selectedText(*dialog), "<none>");
 }
 
-TEST_F(ChooseLoaderDialogTest, CancelAndSeveralOrNoExtensionsLeaveTheHistoryAlone)
+TEST_F(ChooseLoaderDialogTest, CancelAndSeveralExtensionsLeaveTheHistoryAloneAndAGoneLoaderFallsBack)
 {
     ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.dat", "Point cloud");
     ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat", ".txt"});
@@ -230,40 +226,14 @@ TEST_F(ChooseLoaderDialogTest, CancelAndSeveralOrNoExtensionsLeaveTheHistoryAlon
     user::press(*dialog, QDialogButtonBox::Cancel);
     EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Point cloud");
     EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.txt"), "");
-}
 
-TEST_F(ChooseLoaderDialogTest, AStoredLoaderThatIsGoneFallsBackToTheFirstSelectableRow)
-{
+    // A stored loader that is gone falls back to the first selectable row.
     ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.dat", "Uninstalled reader");
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat"});
+    dialog = chooser(datSuggestions(), {".dat"});
     EXPECT_EQ(selectedText(*dialog), "Point cloud"); // row 1, under the header
     dialog = chooser({}, {".dat"});
     EXPECT_EQ(selectedText(*dialog), "Binary grid"); // row 0
     EXPECT_TRUE(ok(*dialog)->isEnabled());
-}
-
-TEST_F(ChooseLoaderDialogTest, DoubleClickAcceptsAndRemembersLikeOk)
-{
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat"});
-    user::open(*dialog);
-    doubleClickRow(*dialog, "Other Available Loaders");
-    EXPECT_TRUE(dialog->isVisible());
-    doubleClickRow(*dialog, "Binary grid");
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedLoader(), binaryGrid);
-    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Binary grid");
-}
-
-TEST_F(ChooseLoaderDialogTest, ASelectionDoesNotSurviveARebuildOfTheList)
-{
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".xyz"});
-    user::open(*dialog);
-    clickRow(*dialog, "Text table");
-    dialog = chooser({}, {".xyz"});
-    EXPECT_EQ(selectedText(*dialog), "<none>");
-    EXPECT_FALSE(dialog->selectedLoader());
-    EXPECT_FALSE(ok(*dialog)->isEnabled());
 }
 
 TEST_F(ChooseLoaderDialogTest, AnUnusableSettingsFileIsReportedAndTheDialogWorksWithoutHistory)

@@ -1,21 +1,8 @@
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QTest>
-#include <gtest/gtest.h>
-#include "support/UserActions.h"
-#include "WidgetContract.h"
-#include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "DialogTestSupport.h"
 #include "prompt/EnterASCIICharacterDialog.h"
-#include "prompt/EnterASCIICharacterPropertiesManager.h"
-#include "property/InvalidPropertyValueException.h"
 
+using namespace dialogtest;
 using orrery::dialogs::prompt::EnterASCIICharacterDialog;
-using orrery::dialogs::prompt::EnterASCIICharacterPropertiesManager;
-using orrery::kernel::testing::KernelTestSupport;
-using orrery::sdk::ui::common::IdleQueue;
 
 namespace {
 
@@ -24,15 +11,9 @@ const char* const GreekButton = "useGreekFont_RadioButton";
 const char* const MathButton = "useMathFont_RadioButton";
 const char* const UserButton = "useUserDefFont_RadioButton";
 
-class EnterASCIICharacterDialogTest : public ::testing::Test
+class EnterASCIICharacterDialogTest : public DialogTest
 {
 protected:
-    void SetUp() override
-    {
-        KernelTestSupport::resetKernel();
-        KernelTestSupport::loadSampleDataSet();
-        KernelTestSupport::captureMessageBoxes();
-    }
     static QLineEdit* field(QWidget& d) { return d.findChild<QLineEdit*>("selectedCharacter_lineEdit"); }
     static QRadioButton* radio(QWidget& d, const char* name) { return d.findChild<QRadioButton*>(name); }
     static std::vector<std::string> checkedButtons(QWidget& d)
@@ -43,8 +24,6 @@ protected:
                 names.push_back(name);
         return names;
     }
-
-    QWidget parent;
 };
 
 TEST_F(EnterASCIICharacterDialogTest, LayoutContract)
@@ -107,13 +86,13 @@ TEST_F(EnterASCIICharacterDialogTest, TheInitialFontIsCheckedAndTheBaseFontIsEnc
     }
 }
 
-TEST_F(EnterASCIICharacterDialogTest, TypedCharacterAndClickedFontAreTheAnswers)
+TEST_F(EnterASCIICharacterDialogTest, TypedCharacterAndClickedFontAreTheAnswersAndALiveDialogIsReturnedAsLeft)
 {
     EnterASCIICharacterDialog* dialog = EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
     user::open(*dialog);
     user::retype(*field(*dialog), "q", *radio(*dialog, BaseButton));
     user::click(radio(*dialog, GreekButton));
-    IdleQueue::instance().flush();
+    runIdle();
     EXPECT_EQ(checkedButtons(*dialog), std::vector<std::string>{GreekButton});
     user::press(*dialog, QDialogButtonBox::Ok);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
@@ -125,7 +104,16 @@ TEST_F(EnterASCIICharacterDialogTest, TypedCharacterAndClickedFontAreTheAnswers)
     user::click(radio(*dialog, BaseButton));
     user::press(*dialog, QDialogButtonBox::Ok);
     EXPECT_TRUE(dialog->useBaseFont());
-    EXPECT_TRUE(KernelTestSupport::capturedMessageBoxes().empty());
+    EXPECT_TRUE(Kernel::capturedMessageBoxes().empty());
+
+    user::open(*dialog);
+    user::click(radio(*dialog, UserButton));
+    user::press(*dialog, QDialogButtonBox::Cancel);
+    EXPECT_EQ(EnterASCIICharacterDialog::getInstance(parent, "Z", false, Font_Greek), dialog);
+    runIdle();
+    EXPECT_EQ(field(*dialog)->text(), "q");
+    EXPECT_EQ(checkedButtons(*dialog), std::vector<std::string>{UserButton});
+    EXPECT_EQ(dialog->typeFaceOverride(), Font_UserDefined);
 }
 
 TEST_F(EnterASCIICharacterDialogTest, AnEmptyCharacterIsRefusedOnceAndThePreviousOneKept)
@@ -133,7 +121,7 @@ TEST_F(EnterASCIICharacterDialogTest, AnEmptyCharacterIsRefusedOnceAndThePreviou
     EnterASCIICharacterDialog* dialog = EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
     user::open(*dialog);
     user::retype(*field(*dialog), "", *radio(*dialog, MathButton));
-    const auto boxes = KernelTestSupport::capturedMessageBoxes();
+    const auto boxes = Kernel::capturedMessageBoxes();
     ASSERT_EQ(boxes.size(), 1u);
     EXPECT_EQ(boxes[0].text, "Selected character cannot be empty.");
     EXPECT_EQ(boxes[0].type, 0);
@@ -147,42 +135,9 @@ TEST_F(EnterASCIICharacterDialogTest, AnEmptyCharacterIsRefusedOnceAndThePreviou
     QTest::keyClick(field(*dialog), Qt::Key_Backspace);
     QTest::keyClick(field(*dialog), Qt::Key_Return);
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(KernelTestSupport::capturedMessageBoxes().size(), 2u);
+    EXPECT_EQ(Kernel::capturedMessageBoxes().size(), 2u);
     EXPECT_EQ(dialog->selectedChar(), "A");
     EXPECT_EQ(field(*dialog)->text(), "A");
-}
-
-TEST_F(EnterASCIICharacterDialogTest, TheManagerRefusesTheEmptyCharacterWithItsMessage)
-{
-    EnterASCIICharacterPropertiesManager manager("x", Font_Greek);
-    try
-    {
-        manager.selectedChar()->setValue("");
-        FAIL() << "the empty character was taken";
-    }
-    catch (const orrery::InvalidPropertyValueException& e)
-    {
-        EXPECT_STREQ(e.what(), "Selected character cannot be empty.");
-    }
-    EXPECT_EQ(manager.selectedChar()->getValue(), "x");
-    manager.selectedChar()->setValue("#");
-    EXPECT_EQ(manager.selectedChar()->getValue(), "#");
-    EXPECT_EQ(manager.typeFaceOverride()->getValue(), Font_Greek);
-}
-
-TEST_F(EnterASCIICharacterDialogTest, ALiveDialogIsReturnedAsTheUserLeftIt)
-{
-    EnterASCIICharacterDialog* first = EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
-    user::open(*first);
-    user::click(radio(*first, UserButton));
-    user::press(*first, QDialogButtonBox::Cancel);
-
-    EnterASCIICharacterDialog* second = EnterASCIICharacterDialog::getInstance(parent, "Z", false, Font_Greek);
-    EXPECT_EQ(second, first);
-    IdleQueue::instance().flush();
-    EXPECT_EQ(field(*second)->text(), "A");
-    EXPECT_EQ(checkedButtons(*second), std::vector<std::string>{UserButton});
-    EXPECT_EQ(second->typeFaceOverride(), Font_UserDefined);
 }
 
 } // namespace

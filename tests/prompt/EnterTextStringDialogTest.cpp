@@ -1,28 +1,16 @@
-#include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-#include <gtest/gtest.h>
-#include "WidgetContract.h"
+#include "DialogTestSupport.h"
 #include "prompt/EnterTextStringDialog.h"
 
+using namespace dialogtest;
 using orrery::dialogs::prompt::EnterTextStringDialog;
 
 namespace {
 
-class EnterTextStringDialogTest : public ::testing::Test
+class EnterTextStringDialogTest : public DialogTest
 {
 protected:
-    QLineEdit* edit(EnterTextStringDialog& d) { return d.findChild<QLineEdit*>("EnterTextString_lineEdit"); }
-    QDialogButtonBox* box(EnterTextStringDialog& d)
-    {
-        return d.findChild<QDialogButtonBox*>("EnterTextString_buttonBox");
-    }
-    QPushButton* ok(EnterTextStringDialog& d) { return box(d)->button(QDialogButtonBox::Ok); }
-
-    QWidget parent;
+    static QLineEdit* edit(QWidget& d) { return d.findChild<QLineEdit*>("EnterTextString_lineEdit"); }
+    static QDialogButtonBox* box(QWidget& d) { return d.findChild<QDialogButtonBox*>("EnterTextString_buttonBox"); }
 };
 
 TEST_F(EnterTextStringDialogTest, LayoutContract)
@@ -61,7 +49,7 @@ TEST_F(EnterTextStringDialogTest, LayoutContract)
     EXPECT_FALSE(dialog.isModal());
 }
 
-TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextAndOkAccepts)
+TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextOkAcceptsAndCancelRejects)
 {
     EnterTextStringDialog dialog(parent, "Name of the new frame:", "Frame 001", "", false);
     EXPECT_EQ(dialog.findChild<QLabel*>("EnterTextString_Label")->text(), "Name of the new frame:");
@@ -69,44 +57,37 @@ TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextAndOkAccep
     dialog.show();
     QTest::keyClicks(edit(dialog), "Pressure map");
     EXPECT_EQ(dialog.text(), "Pressure map");
-    QTest::mouseClick(ok(dialog), Qt::LeftButton);
+    user::press(dialog, QDialogButtonBox::Ok);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.text(), "Pressure map");
-}
 
-TEST_F(EnterTextStringDialogTest, CancelRejects)
-{
-    EnterTextStringDialog dialog(parent, "", "keep", "", false);
     dialog.show();
     QTest::keyClicks(edit(dialog), "x");
-    QTest::mouseClick(box(dialog)->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    user::press(dialog, QDialogButtonBox::Cancel);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextAndIsDisabledOnceTheUserEmptiesTheField)
+TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextIsDisabledOnceTheUserEmptiesTheFieldAndCanBeRenamed)
 {
     EnterTextStringDialog dialog(parent, "", "", "", false);
-    dialog.show();
-    EXPECT_TRUE(ok(dialog)->isEnabled());
-    QTest::keyClicks(edit(dialog), "a");
-    EXPECT_TRUE(ok(dialog)->isEnabled());
-    QTest::keyClick(edit(dialog), Qt::Key_Backspace);
-    EXPECT_FALSE(ok(dialog)->isEnabled());
-    QTest::keyClicks(edit(dialog), "b");
-    EXPECT_TRUE(ok(dialog)->isEnabled());
-    QTest::mouseClick(ok(dialog), Qt::LeftButton);
-    EXPECT_EQ(dialog.text(), "b");
-}
-
-TEST_F(EnterTextStringDialogTest, OkButtonTextChangesOnlyOk)
-{
-    EnterTextStringDialog dialog(parent, "", "", "", false);
-    const QString cancelText = box(dialog)->button(QDialogButtonBox::Cancel)->text();
+    QPushButton* ok = standard(dialog, QDialogButtonBox::Ok);
+    const QString cancelText = standard(dialog, QDialogButtonBox::Cancel)->text();
     dialog.setOkButtonText("&Rename");
-    EXPECT_EQ(ok(dialog)->text(), "&Rename");
-    EXPECT_EQ(box(dialog)->button(QDialogButtonBox::Cancel)->text(), cancelText);
+    EXPECT_EQ(ok->text(), "&Rename");
+    EXPECT_EQ(standard(dialog, QDialogButtonBox::Cancel)->text(), cancelText);
+
+    dialog.show();
+    EXPECT_TRUE(ok->isEnabled());
+    QTest::keyClicks(edit(dialog), "a");
+    EXPECT_TRUE(ok->isEnabled());
+    QTest::keyClick(edit(dialog), Qt::Key_Backspace);
+    EXPECT_FALSE(ok->isEnabled());
+    QTest::keyClicks(edit(dialog), "b");
+    EXPECT_TRUE(ok->isEnabled());
+    user::click(ok);
+    EXPECT_EQ(dialog.text(), "b");
 }
 
 TEST_F(EnterTextStringDialogTest, HelpActionOnlyForANonEmptyPage)
@@ -114,12 +95,12 @@ TEST_F(EnterTextStringDialogTest, HelpActionOnlyForANonEmptyPage)
     EnterTextStringDialog without(parent, "", "", "", true);
     EXPECT_EQ(without.helpAction(), nullptr);
     without.show();
-    EXPECT_EQ(without.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), nullptr);
+    EXPECT_EQ(standard(without, QDialogButtonBox::Help), nullptr);
 
     EnterTextStringDialog with(parent, "", "", "anchor_alignment.html", false);
     ASSERT_NE(with.helpAction(), nullptr);
     with.show();
-    EXPECT_NE(with.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Help), nullptr);
+    EXPECT_NE(standard(with, QDialogButtonBox::Help), nullptr);
 }
 
 } // namespace

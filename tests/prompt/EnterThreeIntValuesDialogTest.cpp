@@ -1,31 +1,15 @@
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
 #include <QSpinBox>
-#include <QTest>
-#include <gtest/gtest.h>
-#include "support/UserActions.h"
-#include "WidgetContract.h"
-#include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "DialogTestSupport.h"
 #include "prompt/EnterThreeIntValuesDialog.h"
 
+using namespace dialogtest;
 using orrery::dialogs::prompt::EnterThreeIntValuesDialog;
-using orrery::kernel::testing::KernelTestSupport;
-using orrery::sdk::ui::common::IdleQueue;
 
 namespace {
 
-class EnterThreeIntValuesDialogTest : public ::testing::Test
+class EnterThreeIntValuesDialogTest : public DialogTest
 {
 protected:
-    void SetUp() override
-    {
-        KernelTestSupport::resetKernel();
-        KernelTestSupport::loadSampleDataSet();
-    }
-
     // The default range prompt: begin, end and skip, all at least 1.
     EnterThreeIntValuesDialog* rangePrompt(long begin = 1, long end = 10, long skip = 1, QWidget* owner = nullptr)
     {
@@ -33,8 +17,6 @@ protected:
                                                       "select_variable.html", "&Begin", "&End", "&Skip", 1, 1, 1);
     }
     static QSpinBox* spin(QWidget& d, int i) { return d.findChild<QSpinBox*>(QString("value%1").arg(i)); }
-
-    QWidget parent;
 };
 
 TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
@@ -82,7 +64,7 @@ TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
     ASSERT_NE(dialog->helpAction(), nullptr);
 }
 
-TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOk)
+TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOkOrReturnAndStayAfterCancel)
 {
     EnterThreeIntValuesDialog* dialog = rangePrompt();
     user::open(*dialog);
@@ -94,28 +76,17 @@ TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOk)
     EXPECT_EQ(dialog->value1(), 5);
     EXPECT_EQ(dialog->value2(), 250);
     EXPECT_EQ(dialog->value3(), 5);
-}
 
-TEST_F(EnterThreeIntValuesDialogTest, ReturnInASpinBoxCommitsTheValueAndAccepts)
-{
-    EnterThreeIntValuesDialog* dialog = rangePrompt();
-    user::open(*dialog);
-    spin(*dialog, 2)->setFocus();
-    QTest::keyClick(spin(*dialog, 2), Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(spin(*dialog, 2), "42");
-    QTest::keyClick(spin(*dialog, 2), Qt::Key_Return);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->value2(), 42);
-}
-
-TEST_F(EnterThreeIntValuesDialogTest, CancelledEditsStayInTheDialogForTheNextRun)
-{
-    EnterThreeIntValuesDialog* dialog = rangePrompt(1, 10, 1);
     user::open(*dialog);
     user::retype(*spin(*dialog, 1), "3", *spin(*dialog, 2));
     user::press(*dialog, QDialogButtonBox::Cancel);
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
     EXPECT_EQ(dialog->value1(), 3); // nothing is reset: the caller looks at the result
+
+    user::open(*dialog);
+    user::typeAndReturn(*spin(*dialog, 2), "42"); // commits the value and accepts
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->value2(), 42);
 }
 
 TEST_F(EnterThreeIntValuesDialogTest, PositiveLowerLimitsHoldSmallerValuesBack)
@@ -142,46 +113,29 @@ TEST_F(EnterThreeIntValuesDialogTest, PositiveLowerLimitsHoldSmallerValuesBack)
     EXPECT_EQ(spin(*dialog, 3)->value(), dialog->value3());
 }
 
-TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndAnEmptyCaption)
+TEST_F(EnterThreeIntValuesDialogTest, CaptionsAndTitleOfTheFirstCallStayInTheLiveDialog)
 {
     EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
-        parent, 1, 2, 3, "Zone Range", "", "&First", "", "S&tep", 0, 0, 0);
+        parent, 1, 2, 3, "Zone Range", "", "&First", "", "S&tep", 1, 0, 0);
     EXPECT_EQ(dialog->windowTitle(), "Zone Range");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel2")->text(), "");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel3")->text(), "S&tep");
     EXPECT_EQ(spin(*dialog, 3)->value(), 3);
     EXPECT_NE(dialog->helpAction(), nullptr); // installed even for an empty page
-}
-
-TEST_F(EnterThreeIntValuesDialogTest, ALiveDialogIsReturnedAsTheUserLeftIt)
-{
-    EnterThreeIntValuesDialog* first = rangePrompt(1, 10, 1);
-    user::open(*first);
-    user::retype(*spin(*first, 2), "20", *spin(*first, 3));
-    user::press(*first, QDialogButtonBox::Ok);
+    user::open(*dialog);
+    user::retype(*spin(*dialog, 2), "20", *spin(*dialog, 3));
+    user::press(*dialog, QDialogButtonBox::Ok);
 
     QWidget otherParent;
-    EnterThreeIntValuesDialog* second = EnterThreeIntValuesDialog::getInstance(
-        otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50);
-    EXPECT_EQ(second, first);
-    EXPECT_EQ(second->windowTitle(), "Index Range");
-    EXPECT_EQ(second->findChild<QLabel*>("valueLabel1")->text(), "&Begin");
-    EXPECT_EQ(second->value1(), 1);
-    EXPECT_EQ(second->value2(), 20);
-    EXPECT_EQ(spin(*second, 2)->value(), 20);
-    EXPECT_EQ(spin(*second, 1)->minimum(), 1);
-}
-
-TEST_F(EnterThreeIntValuesDialogTest, AFreshDialogFollowsTheDestructionOfTheLiveOne)
-{
-    auto* owner = new QWidget;
-    QPointer<EnterThreeIntValuesDialog> first = rangePrompt(1, 10, 1, owner);
-    delete owner;
-    ASSERT_TRUE(first.isNull());
-    EnterThreeIntValuesDialog* second = rangePrompt(4, 5, 6);
-    EXPECT_EQ(second->value1(), 4);
-    EXPECT_EQ(spin(*second, 3)->value(), 6);
+    EXPECT_EQ(EnterThreeIntValuesDialog::getInstance(otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50),
+              dialog);
+    EXPECT_EQ(dialog->windowTitle(), "Zone Range");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
+    EXPECT_EQ(dialog->value1(), 1);
+    EXPECT_EQ(dialog->value2(), 20);
+    EXPECT_EQ(spin(*dialog, 2)->value(), 20);
+    EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);
 }
 
 TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)
@@ -189,16 +143,16 @@ TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)
     EnterThreeIntValuesDialog* dialog = rangePrompt();
     dialog->show();
     EXPECT_TRUE(dialog->isEnabled());
-    KernelTestSupport::clearDataSet();
-    IdleQueue::instance().flush();
+    Kernel::clearDataSet();
+    runIdle();
     EXPECT_FALSE(dialog->isEnabled());
     dialog->hide();
     dialog->launch(); // refused, so it returns at once
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
 
-    KernelTestSupport::loadSampleDataSet("Small");
-    IdleQueue::instance().flush();
+    Kernel::loadSampleDataSet("Small");
+    runIdle();
     EXPECT_TRUE(EnterThreeIntValuesDialog::relevance()->isRelevant());
 }
 

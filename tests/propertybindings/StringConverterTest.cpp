@@ -1,4 +1,6 @@
 // Text to value: what converts, what fails and with which message.
+#include <iomanip>
+#include <sstream>
 #include <string>
 #include <gtest/gtest.h>
 
@@ -14,7 +16,16 @@ using orrery::sdk::ui::dialogs::propertybindings::intern::StringMassager;
 namespace {
 
 template <typename T>
-std::string failureOf(const std::string& text)
+std::string shown(const T& value)
+{
+    std::ostringstream out;
+    out << std::setprecision(17) << value;
+    return out.str();
+}
+
+// The converted value as text, or the failure's message.
+template <typename T>
+std::string conversionOf(const std::string& text)
 {
     T value{};
     try {
@@ -22,56 +33,33 @@ std::string failureOf(const std::string& text)
     } catch (const InvalidArgumentException& e) {
         return e.what();
     }
-    return "converted";
+    return shown(value);
 }
 
 } // namespace
 
-TEST(StringConverterTest, NumbersConvertInTheClassicFormLeavingTrailingCharacters)
+TEST(StringConverterTest, ClassicNumbersAndTextConvertOthersFailNamingTheTextAndTheType)
 {
-    int i = 0;
-    long l = 0;
-    short s = 0;
-    double d = 0;
-    StringConverter("12abc").convert(i);
-    StringConverter("2147483648").convert(l);
-    StringConverter("-32768").convert(s);
-    StringConverter("1.5e-07").convert(d);
-    EXPECT_EQ(i, 12);
-    EXPECT_EQ(l, 2147483648L);
-    EXPECT_EQ(s, -32768);
-    EXPECT_DOUBLE_EQ(d, 1.5e-07);
-    StringConverter("3.5 ").convert(d);
-    EXPECT_DOUBLE_EQ(d, 3.5);
-}
-
-TEST(StringConverterTest, FailuresNameTheTextAndTheType)
-{
-    const struct
-    {
-        std::string failure;
-        std::string expected;
-    } cases[] = {
-        {failureOf<int>("abc"), "Cannot convert \"abc\" to i"},
-        {failureOf<int>(""), "Cannot convert \"\" to i"},
-        {failureOf<short>(""), "Cannot convert \"\" to s"},
-        {failureOf<long>("x"), "Cannot convert \"x\" to l"},
-        {failureOf<double>(""), "Cannot convert \"\" to d"},
-        {failureOf<int>(" 5"), "Cannot convert \" 5\" to i"},
-        {failureOf<int>("2147483648"), "Cannot convert \"2147483648\" to i"},
-        {failureOf<short>("40000"), "Cannot convert \"40000\" to s"},
-        {failureOf<double>("1,5"), "converted"},
-        {failureOf<RGBMode_e>("1"), "Unsupported type for conversion: 9RGBMode_e"},
+    const std::pair<std::string, std::string> cases[] = {
+        {conversionOf<int>("12abc"), "12"}, // trailing characters are left
+        {conversionOf<long>("2147483648"), "2147483648"},
+        {conversionOf<short>("-32768"), "-32768"},
+        {conversionOf<double>("1.5e-07"), shown(1.5e-07)},
+        {conversionOf<double>("3.5 "), shown(3.5)},
+        {conversionOf<double>("1,5"), shown(1.0)},
+        {conversionOf<std::string>("  a b\xc3\xa9 "), "  a b\xc3\xa9 "}, // byte for byte
+        {conversionOf<int>("abc"), "Cannot convert \"abc\" to i"},
+        {conversionOf<int>(""), "Cannot convert \"\" to i"},
+        {conversionOf<short>(""), "Cannot convert \"\" to s"},
+        {conversionOf<long>("x"), "Cannot convert \"x\" to l"},
+        {conversionOf<double>(""), "Cannot convert \"\" to d"},
+        {conversionOf<int>(" 5"), "Cannot convert \" 5\" to i"},
+        {conversionOf<int>("2147483648"), "Cannot convert \"2147483648\" to i"},
+        {conversionOf<short>("40000"), "Cannot convert \"40000\" to s"},
+        {conversionOf<RGBMode_e>("1"), "Unsupported type for conversion: 9RGBMode_e"},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(c.failure, c.expected);
-}
-
-TEST(StringConverterTest, TextIsTakenByteForByte)
-{
-    std::string value;
-    StringConverter("  a b\xc3\xa9 ").convert(value);
-    EXPECT_EQ(value, "  a b\xc3\xa9 ");
+        EXPECT_EQ(c.first, c.second);
 }
 
 TEST(StringMassagerTest, NumbersLoseSurroundingBlanksTextKeepsThem)

@@ -23,12 +23,12 @@ public:
 
 } // namespace
 
-TEST(QListModelTest, OffersTextValueAndEditTextByRole)
+TEST(QListModelTest, OffersTextValueAndEditTextByRoleOnlyForEditableRows)
 {
-    TestListModel rows({{7, "seven"}, {9, "nine"}});
+    TestListModel rows({{7, "seven"}, {9, "nine"}, {7, "again"}});
     QListModel<int> model(rows);
     const QModelIndex second = model.index(1, 0);
-    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.rowCount(), 3);
     EXPECT_EQ(model.data(second, Qt::DisplayRole).toString(), QStringLiteral("nine"));
     EXPECT_EQ(model.data(second, Qt::ToolTipRole).toString(), QStringLiteral("nine"));
     EXPECT_EQ(model.data(second, QListModel<int>::ValueRole).toInt(), 9);
@@ -37,18 +37,22 @@ TEST(QListModelTest, OffersTextValueAndEditTextByRole)
     EXPECT_FALSE(model.data(model.index(5, 0), Qt::DisplayRole).isValid());
     EXPECT_FALSE(second.parent().isValid());
     EXPECT_FALSE(model.setData(second, QStringLiteral("x")));
-}
+    // The list model's defaults: the first row of a value, the text for editing, not editable.
+    const ListModelAbstract<int>& plain = rows;
+    EXPECT_EQ(plain.indexOf(7), 0);
+    EXPECT_EQ(plain.indexOf(9), 1);
+    EXPECT_EQ(plain.indexOf(6), -1);
+    EXPECT_EQ(plain.getStrForEdit(2), "again");
+    EXPECT_FALSE(plain.isEditable());
 
-TEST(QListModelTest, EditableRowsOfferAndTakeEditText)
-{
-    EditableModel rows({{1, "a"}, {2, "b"}}, {1});
-    QListModel<int> model(rows);
-    EXPECT_EQ(model.data(model.index(0, 0), Qt::EditRole).toString(), QStringLiteral("edit a"));
-    EXPECT_TRUE(model.flags(model.index(0, 0)) & Qt::ItemIsEditable);
-    EXPECT_FALSE(model.flags(model.index(1, 0)) & Qt::ItemIsEditable);
-    EXPECT_TRUE(model.setData(model.index(0, 0), QStringLiteral("changed")));
-    ASSERT_EQ(rows.edits.size(), 1u);
-    EXPECT_EQ(rows.edits[0], std::make_pair(0, std::string("changed")));
+    EditableModel editableRows({{1, "a"}, {2, "b"}}, {1});
+    QListModel<int> editable(editableRows);
+    EXPECT_EQ(editable.data(editable.index(0, 0), Qt::EditRole).toString(), QStringLiteral("edit a"));
+    EXPECT_TRUE(editable.flags(editable.index(0, 0)) & Qt::ItemIsEditable);
+    EXPECT_FALSE(editable.flags(editable.index(1, 0)) & Qt::ItemIsEditable);
+    EXPECT_TRUE(editable.setData(editable.index(0, 0), QStringLiteral("changed")));
+    ASSERT_EQ(editableRows.edits.size(), 1u);
+    EXPECT_EQ(editableRows.edits[0], std::make_pair(0, std::string("changed")));
 }
 
 TEST(QListModelTest, HeaderRowsAreDisabledAndCannotBeClickedIntoTheSelection)
@@ -63,9 +67,9 @@ TEST(QListModelTest, HeaderRowsAreDisabledAndCannotBeClickedIntoTheSelection)
     view.resize(200, 200);
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(model.index(2, 0)).center());
+    user::clickRow(view, 2);
     EXPECT_FALSE(view.selectionModel()->isSelected(model.index(2, 0)));
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(model.index(3, 0)).center());
+    user::clickRow(view, 3);
     EXPECT_TRUE(view.selectionModel()->isSelected(model.index(3, 0)));
 }
 
@@ -96,15 +100,4 @@ TEST(QListModelTest, RelaysTheFourKindsOfChange)
     rows.replaceAll(TestListModel::numbered(2));
     EXPECT_EQ(reset.count(), 1);
     EXPECT_EQ(model.rowCount(), 2);
-}
-
-TEST(QListModelTest, ListModelDefaultsFindTheFirstRowOfAValue)
-{
-    TestListModel rows({{4, "a"}, {5, "b"}, {4, "c"}});
-    const ListModelAbstract<int>& model = rows;
-    EXPECT_EQ(model.indexOf(4), 0);
-    EXPECT_EQ(model.indexOf(5), 1);
-    EXPECT_EQ(model.indexOf(6), -1);
-    EXPECT_EQ(model.getStrForEdit(2), "c");
-    EXPECT_FALSE(model.isEditable());
 }

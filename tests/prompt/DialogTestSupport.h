@@ -1,16 +1,22 @@
 #pragma once
-// Table-driven checks of a layout's contract: object names, classes, texts,
-// grid positions and tab order, as host code and translations rely on them.
-#include <QAbstractButton>
+// Shared by the dialog tests: table-driven checks of a layout's contract (object
+// names, classes, texts, grid positions and tab order, as host code and
+// translations rely on them), and a fixture for driving dialogs as a user would.
+#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QString>
-#include <QWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
 #include <gtest/gtest.h>
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
+#include "platform/common/IdleQueue.h"
+#include "support/Recorders.h"
+#include "support/UserActions.h"
 
 namespace contract {
 
@@ -109,3 +115,23 @@ inline void expectTabOrder(const QWidget& root, std::initializer_list<const char
 }
 
 } // namespace contract
+
+namespace dialogtest {
+
+using testsupport::Kernel;
+
+inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+
+inline QPushButton* standard(QWidget& dialog, QDialogButtonBox::StandardButton which)
+{
+    return dialog.findChild<QDialogButtonBox*>()->button(which);
+}
+
+// A clean kernel holding the sample data set, and a parent window for the dialogs.
+class DialogTest : public testsupport::SampleKernelTest
+{
+protected:
+    QWidget parent;
+};
+
+} // namespace dialogtest
