@@ -17,19 +17,12 @@ using Rows = std::vector<std::string>;
 
 namespace {
 
-class NamedLoader : public DataLoaderInterface
+struct NamedLoader : DataLoaderInterface
 {
-public:
-    NamedLoader(std::string name, std::string extension) : m_name(std::move(name)), m_extension(std::move(extension)) {}
-    Properties properties() const override { return {m_name, "test loader", {m_extension}}; }
-    bool load(const std::string&, std::string& error) override
-    {
-        error = "not a real loader";
-        return false;
-    }
-
-private:
-    std::string m_name, m_extension;
+    NamedLoader(std::string name, std::string extension) : name(std::move(name)), extension(std::move(extension)) {}
+    Properties properties() const override { return {name, "test loader", {extension}}; }
+    bool load(const std::string&, std::string&) override { return false; }
+    std::string name, extension;
 };
 
 const char* const Multiple =

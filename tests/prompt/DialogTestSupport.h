@@ -46,25 +46,16 @@ inline QString textOf(const QObject& object)
     return widget && widget->isWindow() ? widget->windowTitle() : QString();
 }
 
-inline const QObject* find(const QWidget& root, const char* name)
-{
-    if (root.objectName() == name)
-        return &root;
-    return root.findChild<QObject*>(name);
-}
-
 inline void expectWidgets(const QWidget& root, std::initializer_list<WidgetRow> rows)
 {
     for (const WidgetRow& row : rows)
     {
         SCOPED_TRACE(row.name);
-        const QObject* object = find(root, row.name);
+        const QObject* object = root.objectName() == row.name ? &root : root.findChild<QObject*>(row.name);
         ASSERT_NE(object, nullptr);
         EXPECT_STREQ(object->metaObject()->className(), row.className);
         if (row.text)
-        {
             EXPECT_EQ(textOf(*object), QString::fromUtf8(row.text));
-        }
     }
 }
 

@@ -128,7 +128,7 @@ TEST_F(KernelPropertyTest, FollowsOutsideChangesOnlyWhileListenedTo)
     EXPECT_FALSE(max.isFollowingKernel());
 }
 
-TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndAnnounceItsValue)
+TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndMovingDiscardsUnsubmittedEdits)
 {
     Kernel::setStyle(show, true, 2);
     KernelProperty<bool> prop{StyleValue(show)};
@@ -138,9 +138,18 @@ TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndAnnounceItsValue)
     prop.setOffsets(2, -1);
     EXPECT_TRUE(prop.getValue());
     EXPECT_EQ(std::vector<bool>{true}, emitted.values);
-
     prop.setValue(false);
     EXPECT_FALSE(styleValue<bool>(show, 2));
+
+    Kernel::setStyle(show, true, 1);
+    KernelPropertyDeferred<bool> deferred{StyleValue(show)};
+    deferred.setOffsets(1, -1);
+    Emissions<bool> deferredEmitted(deferred);
+    deferred.setValue(false);
+    deferred.setOffsets(1, -1);
+    EXPECT_TRUE(deferred.getValue());
+    EXPECT_EQ((std::vector<bool>{false, true}), deferredEmitted.values);
+    EXPECT_TRUE(styleValue<bool>(show, 1));
 }
 
 TEST_F(KernelPropertyTest, UndoOfABracketedWriteIsAnnouncedToListeners)
@@ -177,18 +186,4 @@ TEST_F(KernelPropertyTest, DeferredEditsReachTheKernelOnlyOnApplyWhichReportsARe
     min.setValue(before + 3.0);
     EXPECT_THROW(min.apply(), InvalidPropertyValueException);
     EXPECT_EQ(oldMin, styleValue<double>(rangeMin));
-}
-
-TEST_F(KernelPropertyTest, DeferredMoveToAnotherMemberDiscardsUnsubmittedEdits)
-{
-    Kernel::setStyle(show, true, 1);
-    Kernel::setStyle(show, false, 2);
-    KernelPropertyDeferred<bool> prop{StyleValue(show)};
-    prop.setOffsets(1, -1);
-    Emissions<bool> emitted(prop);
-    prop.setValue(false);
-    prop.setOffsets(1, -1);
-    EXPECT_TRUE(prop.getValue());
-    EXPECT_EQ((std::vector<bool>{false, true}), emitted.values);
-    EXPECT_TRUE(styleValue<bool>(show, 1));
 }

@@ -1,7 +1,5 @@
-// The host's list models: rows that follow the kernel's data set, and a list
-// with header rows.
+// The host's list models: rows that follow the kernel's data set.
 #include "framework/models/EnabledVariablesListModel.h"
-#include "framework/models/StringListWithHeadersModel.h"
 #include "framework/models/ZoneListModel.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "propertybindings/BindingTestSupport.h"
@@ -12,9 +10,11 @@ using namespace orrery::sdk::ui::dialogs::propertybindings::models;
 
 namespace {
 
-std::vector<std::pair<int, std::string>> rowsOf(const ListModelInterface<int>& model)
+typedef std::vector<std::pair<int, std::string>> Rows;
+
+Rows rowsOf(const ListModelInterface<int>& model)
 {
-    std::vector<std::pair<int, std::string>> rows;
+    Rows rows;
     for (int row = 0; row < model.size(); ++row)
         rows.emplace_back(model.get(row), model.getStr(row));
     return rows;
@@ -30,7 +30,6 @@ struct ChangeCounter
     SignalConnectionCollection connections;
 };
 
-typedef std::vector<std::pair<int, std::string>> Rows;
 typedef BindingFixture HostListModelsTest;
 
 } // namespace
@@ -72,28 +71,4 @@ TEST_F(HostListModelsTest, VariablesFollowTheEnabledVariablesButNotStyleOrUnchan
     EXPECT_EQ(changes.count, 1);
     Kernel::loadSampleDataSet("Small");
     EXPECT_EQ(rowsOf(vars).size(), 2u);
-}
-
-TEST_F(HostListModelsTest, HeaderListAppendsRowsAndHeadersAndClears)
-{
-    StringListWithHeadersModel list;
-    std::vector<std::pair<int, int>> inserted, removed;
-    SignalConnectionCollection connections;
-    connections.add(list.connectToItemsInserted([&](int f, int l) { inserted.emplace_back(f, l); }));
-    connections.add(list.connectToItemsRemoved([&](int f, int l) { removed.emplace_back(f, l); }));
-    list.appendHeaderRow("Suggested Loaders");
-    list.appendRow("CSV");
-    list.appendHeaderRow("");
-    list.appendRow("Text table");
-    EXPECT_EQ(rowsOf(list), (Rows{{0, "Suggested Loaders"}, {1, "CSV"}, {2, ""}, {3, "Text table"}}));
-    EXPECT_TRUE(list.isHeader(0));
-    EXPECT_FALSE(list.isHeader(1));
-    EXPECT_TRUE(list.isHeader(2));
-    EXPECT_FALSE(list.isHeader(9));
-    EXPECT_EQ(list.indexOf(3), 3);
-    EXPECT_EQ(inserted, (std::vector<std::pair<int, int>>{{0, 0}, {1, 1}, {2, 2}, {3, 3}}));
-    list.clear();
-    list.clear();
-    EXPECT_EQ(list.size(), 0);
-    EXPECT_EQ(removed, (std::vector<std::pair<int, int>>{{0, 3}}));
 }

@@ -1,21 +1,19 @@
 #include <QAction>
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QPointer>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
-#include <boost/make_shared.hpp>
-#include <gtest/gtest.h>
 #include "framework/HelpViewer.h"
 #include "framework/LaunchHelpAction.h"
 #include "framework/QtDialogAbstract.h"
+#include "property/Property.h"
+#include "propertymanager/PropertyDependentRelevance.h"
+#include "support/UserActions.h"
+#include <gtest/gtest.h>
 
+using orrery::Property;
 using orrery::dialogs::common::HelpViewer;
 using orrery::dialogs::common::LaunchHelpAction;
 using orrery::dialogs::common::QtDialogAbstract;
-using orrery::sdk::ui::propertymanager::RelevanceInterface;
+using orrery::sdk::ui::propertymanager::PropertyDependentRelevance;
 
 // The pages ship with the prompt library, which this program otherwise does not need.
 static void loadHelpPages()
@@ -24,20 +22,6 @@ static void loadHelpPages()
 }
 
 namespace {
-
-class SwitchableRelevance : public RelevanceInterface
-{
-public:
-    bool isRelevant() const override { return m_relevant; }
-    void set(bool relevant)
-    {
-        m_relevant = relevant;
-        emitRelevanceChanged();
-    }
-
-private:
-    bool m_relevant = true;
-};
 
 // A dialog with a button box that the layout either connects itself or not.
 class ProbeDialog : public QtDialogAbstract
@@ -48,6 +32,7 @@ public:
     {
         box->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
         (new QVBoxLayout(this))->addWidget(box);
+        setModal(false);
         if (layoutConnectsButtons)
         {
             connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -70,7 +55,6 @@ class QtDialogAbstractTest : public ::testing::Test
 {
 protected:
     QWidget parent;
-    boost::shared_ptr<SwitchableRelevance> relevance = boost::make_shared<SwitchableRelevance>();
 };
 
 TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutConnectedThem)
@@ -81,52 +65,50 @@ TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutCon
         ProbeDialog dialog(parent, nullptr, layoutConnects);
         QSignalSpy accepted(&dialog, &QDialog::accepted);
         dialog.show();
-        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        user::press(dialog, QDialogButtonBox::Ok);
         EXPECT_EQ(dialog.acceptCalls, 1); // the dialog's own accept() is reached, once
         EXPECT_EQ(accepted.count(), 1);
         EXPECT_EQ(dialog.result(), QDialog::Accepted);
         EXPECT_FALSE(dialog.isVisible());
 
         dialog.show(); // wiring is not repeated on a second show
-        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+        user::press(dialog, QDialogButtonBox::Cancel);
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
         EXPECT_FALSE(dialog.isVisible());
         dialog.show();
-        QTest::mouseClick(dialog.box->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        user::press(dialog, QDialogButtonBox::Ok);
         EXPECT_EQ(accepted.count(), 2);
     }
 }
 
 TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneIsDisabledUntilRelevantAgain)
 {
+    auto relevant = boost::make_shared<Property<bool>>(false);
     {
-        ProbeDialog dialog(parent, relevance, false);
-        dialog.setModal(false);
-        relevance->set(false);
+        ProbeDialog dialog(parent, boost::make_shared<PropertyDependentRelevance<bool>>(relevant, true), false);
         dialog.launch();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
 
-        relevance->set(true);
+        relevant->setValue(true);
         dialog.launch();
         ASSERT_TRUE(dialog.isVisible());
         EXPECT_TRUE(dialog.isEnabled());
 
-        relevance->set(false);
+        relevant->setValue(false);
         EXPECT_FALSE(dialog.isEnabled());
         dialog.accept(); // e.g. a keyboard accept racing the change: not taken as an answer
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
 
         dialog.show();
-        relevance->set(true);
+        relevant->setValue(true);
         EXPECT_TRUE(dialog.isEnabled());
     }
-    relevance->set(false); // the relevance outlives the dialog and must not reach it
+    relevant->setValue(false); // the relevance outlives the dialog and must not reach it
 
     // An empty relevance means always relevant.
     ProbeDialog always(parent, nullptr, false);
     EXPECT_TRUE(always.isRelevant());
-    always.setModal(false);
     always.launch();
     EXPECT_TRUE(always.isVisible());
 }
@@ -135,13 +117,16 @@ TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
 {
     loadHelpPages();
     ProbeDialog dialog(parent, nullptr, false);
-    dialog.setHelpAction(new LaunchHelpAction("anchor_alignment.html", dialog));
     dialog.show();
-    QPushButton* help = dialog.box->button(QDialogButtonBox::Help);
-    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(dialog.box->button(QDialogButtonBox::Help), nullptr); // none without a help action
+    dialog.setHelpAction(new LaunchHelpAction("scatter_size_font.html", dialog));
+    QPointer<QAction> first = dialog.helpAction();
+    dialog.setHelpAction(new LaunchHelpAction("anchor_alignment.html", dialog)); // replaces the first
+    EXPECT_TRUE(first.isNull());
+    EXPECT_EQ(dialog.box->buttons().size(), 3);
     EXPECT_EQ(HelpViewer::of(dialog), nullptr);
 
-    QTest::mouseClick(help, Qt::LeftButton);
+    user::press(dialog, QDialogButtonBox::Help);
     HelpViewer* viewer = HelpViewer::of(dialog);
     ASSERT_NE(viewer, nullptr);
     EXPECT_TRUE(viewer->isVisible());
@@ -158,27 +143,9 @@ TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
 
     dialog.reject(); // help belongs to the run of the dialog
     EXPECT_FALSE(viewer->isVisible());
-}
-
-TEST_F(QtDialogAbstractTest, HelpButtonOnlyWithAHelpActionAndReplacingTheActionRedirectsIt)
-{
-    ProbeDialog without(parent, nullptr, false);
-    without.show();
-    EXPECT_EQ(without.box->button(QDialogButtonBox::Help), nullptr);
-
-    ProbeDialog dialog(parent, nullptr, false);
-    dialog.setHelpAction(new LaunchHelpAction("scatter_size_font.html", dialog));
-    dialog.show();
-    QPointer<QAction> first = dialog.helpAction();
-    dialog.setHelpAction(new LaunchHelpAction("symbol_font.html", dialog));
-    EXPECT_TRUE(first.isNull());
-    QTest::mouseClick(dialog.box->button(QDialogButtonBox::Help), Qt::LeftButton);
-    ASSERT_NE(HelpViewer::of(dialog), nullptr);
-    EXPECT_EQ(HelpViewer::of(dialog)->page(), "symbol_font.html");
-    EXPECT_EQ(dialog.box->buttons().size(), 3);
 
     // An unknown page shows a notice instead of failing.
-    HelpViewer* viewer = HelpViewer::showPage("no_such_page.html", &parent);
+    viewer = HelpViewer::showPage("no_such_page.html", &parent);
     EXPECT_FALSE(viewer->pageFound());
     EXPECT_TRUE(viewer->text().contains("no_such_page.html"));
     EXPECT_EQ(HelpViewer::showPage("", &parent), viewer);
@@ -188,7 +155,6 @@ TEST_F(QtDialogAbstractTest, HelpButtonOnlyWithAHelpActionAndReplacingTheActionR
 TEST_F(QtDialogAbstractTest, DropClosesTheDialogAsRejectedAndDestroysIt)
 {
     QPointer<ProbeDialog> dialog = new ProbeDialog(parent, nullptr, false);
-    dialog->setModal(false);
     dialog->launch();
     QSignalSpy rejected(dialog.data(), &QDialog::rejected);
     dialog->drop();

@@ -121,27 +121,3 @@ TEST_F(StyleWrite, FramePrefixAddressesAnotherFrameAndWithoutFramesThereIsNoStyl
     EXPECT_FALSE(readLong({"GlobalRGB", "RGBMode"}));
     EXPECT_EQ(PlotType_Sketch, OrrUtilFrameGetPlotType());
 }
-
-TEST_F(StyleWrite, OneStableIdentifierPerNameAndExtraNamesContinueThePath)
-{
-    const StyleValue a("GlobalRGB", "RangeMin");
-    const StyleValue b(StringList{"GlobalRGB", "RangeMax"});
-    ASSERT_EQ(2u, a.macroIDs().size());
-    EXPECT_EQ(a.macroIDs()[0], b.macroIDs()[0]);
-    EXPECT_NE(a.macroIDs()[1], b.macroIDs()[1]);
-    EXPECT_EQ((StringList{"GlobalRGB", "RangeMin"}), a.names());
-    EXPECT_EQ(a.macroIDs()[1], StyleValue(a).macroIDs()[1]);
-
-    const StyleValue group("GlobalRGB");
-    RawArray<long> ids;
-    ids.append(group.macroIDs());
-    group.initMacroIDsfromStyleValueNames("RGBMode", nullptr, "ignored", nullptr, nullptr, nullptr, nullptr, ids);
-    ids.push_back(-1);
-    EXPECT_EQ(3u, ids.size());
-    ArgList args;
-    group.setupGetValueArgList(ids, -1, -1, args);
-    long mode = -1;
-    args.appendArbParamPtr("IValue", &mode);
-    EXPECT_EQ(GetValue_Ok, CheckedStyleValue(group).styleGetLowLevel(args));
-    EXPECT_EQ(0, mode);
-}

@@ -1,15 +1,11 @@
-// The widget observables and the scientific spin box, driven by the keyboard.
+// The text field observable and the scientific spin box, driven by the keyboard.
 #include <QDialog>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QComboBox>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include "platform/qwidgetobservable/QButtonObservable.h"
-#include "platform/qwidgetobservable/QComboBoxObservable.h"
 #include "platform/qwidgetobservable/QTextFieldObservable.h"
 #include "platform/ui/QScientificSpinBox.h"
 
@@ -36,18 +32,6 @@ protected:
     QDialog dialog;
     QLineEdit field;
     QPushButton ok;
-};
-
-struct ComboListener : QComboBoxListenerInterface
-{
-    void currentIndexChanged(int index, QComboBoxObservable&) override { indexes.push_back(index); }
-    std::vector<int> indexes;
-};
-
-struct ButtonListener : QButtonListenerInterface
-{
-    void buttonToggled(QButtonObservable& source) override { states.push_back(source.button()->isChecked()); }
-    std::vector<bool> states;
 };
 
 } // namespace
@@ -78,28 +62,6 @@ TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTh
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(accepted.count(), 1);
-}
-
-TEST_F(WidgetObservablesTest, ComboAndButtonObservablesTellTheirListenersUntilRemoved)
-{
-    QComboBox combo(&dialog);
-    combo.addItems({QStringLiteral("a"), QStringLiteral("b")});
-    QComboBoxObservable comboObservable(&combo);
-    ComboListener comboListener;
-    comboObservable.addListener(&comboListener);
-    QTest::keyClick(&combo, Qt::Key_Down);
-    comboObservable.removeListener(&comboListener);
-    QTest::keyClick(&combo, Qt::Key_Up);
-    EXPECT_EQ(comboListener.indexes, std::vector<int>({1}));
-
-    QRadioButton radio(&dialog);
-    QButtonObservable buttonObservable(&radio);
-    ButtonListener buttonListener;
-    buttonObservable.addListener(&buttonListener);
-    radio.setChecked(true);
-    radio.setAutoExclusive(false);
-    radio.setChecked(false);
-    EXPECT_EQ(buttonListener.states, std::vector<bool>({true, false}));
 }
 
 TEST(HostSpinBoxesTest, ScientificSpinBoxShowsAndAcceptsExponents)

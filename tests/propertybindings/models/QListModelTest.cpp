@@ -1,5 +1,4 @@
-// A list model as Qt views see it: roles, header rows, and relayed changes.
-#include <QListView>
+// A list model as Qt views see it: roles, editable rows, and relayed changes.
 #include <QSignalSpy>
 
 #include "propertybindings/BindingTestSupport.h"
@@ -53,24 +52,6 @@ TEST(QListModelTest, OffersTextValueAndEditTextByRoleOnlyForEditableRows)
     EXPECT_TRUE(editable.setData(editable.index(0, 0), QStringLiteral("changed")));
     ASSERT_EQ(editableRows.edits.size(), 1u);
     EXPECT_EQ(editableRows.edits[0], std::make_pair(0, std::string("changed")));
-}
-
-TEST(QListModelTest, HeaderRowsAreDisabledAndCannotBeClickedIntoTheSelection)
-{
-    TestListModel rows({{0, "Suggested"}, {1, "csv"}, {2, "Others"}, {3, "text"}}, {0, 2});
-    QListModel<int> model(rows);
-    EXPECT_FALSE(model.flags(model.index(0, 0)) & Qt::ItemIsEnabled);
-    EXPECT_TRUE(model.flags(model.index(1, 0)) & Qt::ItemIsEnabled);
-
-    QListView view;
-    view.setModel(&model);
-    view.resize(200, 200);
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-    user::clickRow(view, 2);
-    EXPECT_FALSE(view.selectionModel()->isSelected(model.index(2, 0)));
-    user::clickRow(view, 3);
-    EXPECT_TRUE(view.selectionModel()->isSelected(model.index(3, 0)));
 }
 
 TEST(QListModelTest, RelaysTheFourKindsOfChange)
