@@ -37,11 +37,8 @@ protected:
     {
         DialogTest::SetUp();
         // Installed besides the built-in "CSV table", "Text table" and "Zone blocks".
-        pointCloud = boost::make_shared<NamedLoader>("Point cloud", "dat");
-        binaryGrid = boost::make_shared<NamedLoader>("Binary grid", "bgr");
         DataLoaderRepository::getInstance().registerLoader(pointCloud);
         DataLoaderRepository::getInstance().registerLoader(binaryGrid);
-        textTable = DataLoaderRepository::getInstance().loaderNamed("Text table");
         ASSERT_TRUE(textTable);
     }
 
@@ -62,9 +59,8 @@ protected:
         QAbstractItemModel* model = list(d)->model();
         for (int r = 0; r < model->rowCount(); ++r)
         {
-            const QModelIndex index = model->index(r, 0);
-            const std::string text = index.data().toString().toStdString();
-            rows.push_back(index.flags() & Qt::ItemIsEnabled ? text : "[" + text + "]");
+            const std::string text = model->index(r, 0).data().toString().toStdString();
+            rows.push_back(model->index(r, 0).flags() & Qt::ItemIsEnabled ? text : "[" + text + "]");
         }
         return rows;
     }
@@ -93,7 +89,9 @@ protected:
     }
 
     std::unique_ptr<QWidget> window{new QWidget};
-    LoaderPtr pointCloud, binaryGrid, textTable;
+    LoaderPtr pointCloud = boost::make_shared<NamedLoader>("Point cloud", "dat");
+    LoaderPtr binaryGrid = boost::make_shared<NamedLoader>("Binary grid", "bgr");
+    LoaderPtr textTable = DataLoaderRepository::getInstance().loaderNamed("Text table");
 };
 
 TEST_F(ChooseLoaderDialogTest, LayoutContract)

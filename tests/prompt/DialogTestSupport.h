@@ -14,8 +14,7 @@
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
-#include "platform/common/IdleQueue.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 #include "support/UserActions.h"
 
 namespace contract {
@@ -109,9 +108,7 @@ inline void expectTabOrder(const QWidget& root, std::initializer_list<const char
 
 namespace dialogtest {
 
-using testsupport::Kernel;
-
-inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+using namespace testsupport;
 
 inline QPushButton* standard(QWidget& dialog, QDialogButtonBox::StandardButton which)
 {

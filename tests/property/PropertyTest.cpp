@@ -3,11 +3,8 @@
 #include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
-#include <boost/make_shared.hpp>
-
-#include "property/Property.h"
 #include "property/PropertyProxy.h"
+#include "support/TestSupport.h"
 
 using namespace orrery;
 
@@ -132,18 +129,8 @@ TEST(PropertyEquality, NaNNeverEqualVectorOrderMattersSetsCompareByElements)
 TEST(PropertyProxy, ForwardsValuesAndValidatesWithBothValidators)
 {
     auto target = boost::make_shared<Property<long>>(1L, boost::make_shared<NonNegativeValidator>());
-    struct RefuseSeven : ValidatorInterface<long>
     {
-        ValidationResult validate(const long& v) const override
-        {
-            ValidationResult r;
-            if (v == 7)
-                r.setErrorString("seven");
-            return r;
-        }
-    };
-    {
-        PropertyProxy<long> proxy(target, boost::make_shared<RefuseSeven>());
+        PropertyProxy<long> proxy(target, boost::make_shared<testsupport::RefusingValidator<long>>(7, "seven"));
         Recorder<long> rec(proxy);
         proxy.setValue(2);
         EXPECT_EQ(2, target->getValue());

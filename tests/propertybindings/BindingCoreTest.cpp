@@ -5,7 +5,6 @@
 
 #include "platform/sdk/AppLock.h"
 #include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
 #include "propertybindings/QObjectPropertyBinding.h"
 #include "propertybindings/ScopedExitAction.h"
 #include "propertybindings/UIPropertyBindingAbstract.h"
@@ -143,24 +142,6 @@ TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefreshWhil
     ASSERT_FALSE(watched.expired());
     watched.lock()->setValue(11);
     EXPECT_EQ(live.shown, 11);
-}
-
-TEST_F(BindingCoreTest, PropertyChangePerformerRunsOnceOnIdleAndCanBeSwitchedOff)
-{
-    int runs = 0;
-    OnIdleAfterPropertyChangeActionPerformer performer(*property, [&runs] { ++runs; });
-    property->setValue(2);
-    property->setValue(3);
-    runIdle();
-    EXPECT_EQ(runs, 1);
-    performer.enable(false);
-    property->setValue(4);
-    runIdle();
-    EXPECT_EQ(runs, 1);
-    performer.enable(true);
-    property->setValue(5);
-    runIdle();
-    EXPECT_EQ(runs, 2);
 }
 
 TEST(ScopedExitActionTest, LowersTheFlagWhenTheScopeIsLeftByAnException)

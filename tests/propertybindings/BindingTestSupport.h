@@ -1,36 +1,15 @@
 #pragma once
 // Shared by the binding tests: a clean kernel without a data set whose message
-// boxes are recorded, the idle queue run on demand, a shown window to put
-// widgets in, a validator that refuses one value and a list model that tests can change.
-#include <string>
-#include <utility>
-#include <vector>
-#include <QApplication>
-#include <QTest>
+// boxes are recorded, a shown window to put widgets in, and a list model that
+// tests can change.
 #include <QWidget>
-#include <gtest/gtest.h>
-
-#include "platform/common/IdleQueue.h"
-#include "property/Property.h"
 #include "propertybindings/models/ListModelAbstract.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 #include "support/UserActions.h"
 
 namespace bindingtest {
 
-using testsupport::Emissions;
-using testsupport::Kernel;
-using testsupport::RelevanceChanges;
-
-inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
-
-inline std::vector<std::string> messageTexts()
-{
-    std::vector<std::string> texts;
-    for (const Kernel::CapturedMessageBox& box : Kernel::capturedMessageBoxes())
-        texts.push_back(box.text);
-    return texts;
-}
+using namespace testsupport;
 
 class BindingFixture : public ::testing::Test
 {
@@ -54,31 +33,6 @@ protected:
     QWidget window;
 };
 
-// A property whose validator refuses one value with a given text.
-template <typename T>
-class RefusingValidator : public orrery::ValidatorInterface<T>
-{
-public:
-    RefusingValidator(const T& refused, const std::string& text) : m_refused(refused), m_text(text) {}
-    orrery::ValidationResult validate(const T& value) const override
-    {
-        orrery::ValidationResult result;
-        if (value == m_refused)
-            result.setErrorString(m_text);
-        return result;
-    }
-
-private:
-    T m_refused;
-    std::string m_text;
-};
-
-template <typename T>
-boost::shared_ptr<orrery::Property<T>> refusingProperty(const T& initial, const T& refused, const std::string& text)
-{
-    return boost::make_shared<orrery::Property<T>>(initial, boost::make_shared<RefusingValidator<T>>(refused, text));
-}
-
 // Rows of (value, text) that a test replaces, extends or shrinks.
 class TestListModel : public orrery::sdk::ui::dialogs::propertybindings::models::ListModelAbstract<int>
 {
@@ -86,9 +40,7 @@ public:
     typedef std::pair<int, std::string> Row;
 
     explicit TestListModel(std::vector<Row> rows = {}, std::vector<int> headers = {})
-        : m_rows(std::move(rows)), m_headers(std::move(headers))
-    {
-    }
+        : m_rows(std::move(rows)), m_headers(std::move(headers)) {}
     static std::vector<Row> numbered(int count, int firstValue = 1)
     {
         std::vector<Row> rows;
@@ -100,10 +52,7 @@ public:
     int size() const override { return static_cast<int>(m_rows.size()); }
     int get(int row) const override { return m_rows.at(static_cast<size_t>(row)).first; }
     std::string getStr(int row) const override { return m_rows.at(static_cast<size_t>(row)).second; }
-    bool isHeader(int row) const override
-    {
-        return std::find(m_headers.begin(), m_headers.end(), row) != m_headers.end();
-    }
+    bool isHeader(int row) const override { return std::count(m_headers.begin(), m_headers.end(), row) > 0; }
 
     void replaceAll(std::vector<Row> rows)
     {

@@ -1,7 +1,7 @@
 #include "property/Property.h"
 #include "propertymanager/RGBColorOptsPropertiesGenerated.h"
 #include "propertymanager/ScatterSizeFontPropertiesGenerated.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;

@@ -1,6 +1,6 @@
 #include "platform/kernel/OrrUtil.h"
 #include "propertymanager/KernelPropertyDeferred.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::styleproperties;
@@ -119,9 +119,14 @@ TEST_F(KernelPropertyTest, FollowsOutsideChangesOnlyWhileListenedTo)
         EXPECT_EQ(std::vector<double>{42.0}, emitted.values);
         // Another path changing is no news for this property.
         Kernel::setStyle({"GlobalRGB", "RGBMode"}, long(RGBMode_SpecifyRB));
-        // An own write is announced once.
+        // An own write is announced once, and so is its undo.
+        OrrUtilUndoStateBegin(11);
         max.setValue(9.0);
+        OrrUtilUndoStateEnd(false, true);
         EXPECT_EQ((std::vector<double>{42.0, 9.0}), emitted.values);
+        ASSERT_TRUE(OrrUtilUndoPerform());
+        EXPECT_EQ(42.0, styleValue<double>(rangeMax));
+        EXPECT_EQ((std::vector<double>{42.0, 9.0, 42.0}), emitted.values);
     }
     // The first event after the last listener left drops the subscription.
     Kernel::setStyle(rangeMax, 43.0);
@@ -150,19 +155,6 @@ TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndMovingDiscardsUnsubm
     EXPECT_TRUE(deferred.getValue());
     EXPECT_EQ((std::vector<bool>{false, true}), deferredEmitted.values);
     EXPECT_TRUE(styleValue<bool>(show, 1));
-}
-
-TEST_F(KernelPropertyTest, UndoOfABracketedWriteIsAnnouncedToListeners)
-{
-    KernelProperty<double> max{StyleValue(rangeMax)};
-    const double before = max.getValue();
-    Emissions<double> emitted(max);
-    OrrUtilUndoStateBegin(11);
-    max.setValue(before + 5.0);
-    OrrUtilUndoStateEnd(false, true);
-    ASSERT_TRUE(OrrUtilUndoPerform());
-    EXPECT_EQ(before, styleValue<double>(rangeMax));
-    EXPECT_EQ((std::vector<double>{before + 5.0, before}), emitted.values);
 }
 
 TEST_F(KernelPropertyTest, DeferredEditsReachTheKernelOnlyOnApplyWhichReportsARefusal)

@@ -3,7 +3,7 @@
 #include "property/Property.h"
 #include "propertymanager/PropertyDependentRelevance.h"
 #include "propertymanager/PropertyPredicateDependentRelevance.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;

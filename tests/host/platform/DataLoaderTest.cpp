@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "support/Recorders.h"
+#include "support/TestSupport.h"
 
 using namespace orrery::sdk;
 using orrery::kernel::Kernel;

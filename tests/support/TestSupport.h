@@ -1,17 +1,53 @@
 #pragma once
-// Shared by every test folder: a clean kernel per case, and recorders of what
-// properties, relevances and the kernel announce.
+// Shared by every test folder: a clean kernel per case, the idle queue run on
+// demand, a validator that refuses one value, and recorders of what properties,
+// relevances, the kernel and its message boxes announce.
 #include <string>
 #include <utility>
 #include <vector>
+#include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+#include "platform/common/IdleQueue.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/sdk/StateChangeEventObservable.h"
+#include "property/Property.h"
 #include "propertymanager/RelevanceInterface.h"
 
 namespace testsupport {
 
 typedef orrery::kernel::testing::KernelTestSupport Kernel;
+
+inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+
+inline std::vector<std::string> messageTexts()
+{
+    std::vector<std::string> texts;
+    for (const Kernel::CapturedMessageBox& box : Kernel::capturedMessageBoxes())
+        texts.push_back(box.text);
+    return texts;
+}
+
+// Refuses one value with a given text.
+template <typename T>
+struct RefusingValidator : orrery::ValidatorInterface<T>
+{
+    RefusingValidator(const T& refused, const std::string& text) : refused(refused), text(text) {}
+    orrery::ValidationResult validate(const T& value) const override
+    {
+        orrery::ValidationResult result;
+        if (value == refused)
+            result.setErrorString(text);
+        return result;
+    }
+    T refused;
+    std::string text;
+};
+
+template <typename T>
+boost::shared_ptr<orrery::Property<T>> refusingProperty(const T& initial, const T& refused, const std::string& text)
+{
+    return boost::make_shared<orrery::Property<T>>(initial, boost::make_shared<RefusingValidator<T>>(refused, text));
+}
 
 template <typename T>
 T styleValue(const orrery::toolbox::StringList& path, long member = -1)
