@@ -242,15 +242,6 @@ TEST_F(ChooseLoaderDialogTest, AnUnusableSettingsFileIsReportedAndTheDialogWorks
     EXPECT_EQ(dialog->selectedLoader(), pointCloud);
     EXPECT_FALSE(ApplicationSettings::getInstance().lastError().empty());
     QDir(path).removeRecursively();
-
-    // A file with garbage in it: the readable entries are kept.
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("\x01\x02 no equals sign\n=\nLastLoaderUsedForExt_.dat=Text table\n");
-    file.close();
-    restart();
-    dialog = chooser(datSuggestions(), {".dat"});
-    EXPECT_EQ(selectedText(*dialog), "Text table");
 }
 
 } // namespace

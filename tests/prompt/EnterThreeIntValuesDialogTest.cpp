@@ -11,10 +11,10 @@ class EnterThreeIntValuesDialogTest : public DialogTest
 {
 protected:
     // The default range prompt: begin, end and skip, all at least 1.
-    EnterThreeIntValuesDialog* rangePrompt(long begin = 1, long end = 10, long skip = 1, QWidget* owner = nullptr)
+    EnterThreeIntValuesDialog* rangePrompt()
     {
-        return EnterThreeIntValuesDialog::getInstance(owner ? *owner : parent, begin, end, skip, "Index Range",
-                                                      "select_variable.html", "&Begin", "&End", "&Skip", 1, 1, 1);
+        return EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Index Range", "select_variable.html", "&Begin",
+                                                      "&End", "&Skip", 1, 1, 1);
     }
     static QSpinBox* spin(QWidget& d, int i) { return d.findChild<QSpinBox*>(QString("value%1").arg(i)); }
 };
@@ -89,10 +89,16 @@ TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOkOrReturnAnd
     EXPECT_EQ(dialog->value2(), 42);
 }
 
-TEST_F(EnterThreeIntValuesDialogTest, PositiveLowerLimitsHoldSmallerValuesBack)
+TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndPositiveLowerLimitsOfTheFirstCallStayInTheLiveDialog)
 {
     EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
-        parent, 0, 0, 0, "Limits", "", "a", "b", "c", 1, 0, -5);
+        parent, 0, 2, 3, "Zone Range", "", "&First", "", "S&tep", 1, 0, -5);
+    EXPECT_EQ(dialog->windowTitle(), "Zone Range");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel2")->text(), "");
+    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel3")->text(), "S&tep");
+    EXPECT_EQ(spin(*dialog, 3)->value(), 3);
+    EXPECT_NE(dialog->helpAction(), nullptr); // installed even for an empty page
     EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);
     EXPECT_EQ(spin(*dialog, 2)->minimum(), -2147483646);
     EXPECT_EQ(spin(*dialog, 3)->minimum(), -2147483646);
@@ -111,19 +117,6 @@ TEST_F(EnterThreeIntValuesDialogTest, PositiveLowerLimitsHoldSmallerValuesBack)
     user::retype(*spin(*dialog, 3), "99999999999", *spin(*dialog, 2));
     EXPECT_LE(dialog->value3(), 2147483646);
     EXPECT_EQ(spin(*dialog, 3)->value(), dialog->value3());
-}
-
-TEST_F(EnterThreeIntValuesDialogTest, CaptionsAndTitleOfTheFirstCallStayInTheLiveDialog)
-{
-    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
-        parent, 1, 2, 3, "Zone Range", "", "&First", "", "S&tep", 1, 0, 0);
-    EXPECT_EQ(dialog->windowTitle(), "Zone Range");
-    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
-    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel2")->text(), "");
-    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel3")->text(), "S&tep");
-    EXPECT_EQ(spin(*dialog, 3)->value(), 3);
-    EXPECT_NE(dialog->helpAction(), nullptr); // installed even for an empty page
-    user::open(*dialog);
     user::retype(*spin(*dialog, 2), "20", *spin(*dialog, 3));
     user::press(*dialog, QDialogButtonBox::Ok);
 
@@ -132,7 +125,7 @@ TEST_F(EnterThreeIntValuesDialogTest, CaptionsAndTitleOfTheFirstCallStayInTheLiv
               dialog);
     EXPECT_EQ(dialog->windowTitle(), "Zone Range");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
-    EXPECT_EQ(dialog->value1(), 1);
+    EXPECT_EQ(dialog->value1(), 7);
     EXPECT_EQ(dialog->value2(), 20);
     EXPECT_EQ(spin(*dialog, 2)->value(), 20);
     EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);

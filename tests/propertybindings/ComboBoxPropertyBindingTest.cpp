@@ -5,8 +5,6 @@
 #include "platform/sdk/AppLock.h"
 #include "propertybindings/BindingTestSupport.h"
 #include "propertybindings/ComboBoxPropertyBinding.h"
-#include "propertybindings/models/OptionTables.h"
-#include "propertybindings/models/PremappedListModel.h"
 #include "propertybindings/models/QListModel.h"
 
 using namespace bindingtest;
@@ -97,15 +95,4 @@ TEST_F(ComboBoxBindingTest, ARefusedChoiceIsReportedOnceAndUndoneOnIdle)
     EXPECT_EQ(refusing->getValue(), 20);
     runIdle();
     EXPECT_EQ(combo.currentText(), QStringLiteral("twenty"));
-}
-
-TEST_F(ComboBoxBindingTest, AnOptionTableOfAnEnumerationMapsRowsToValues)
-{
-    auto mode = boost::make_shared<Property<RGBMode_e>>(RGBMode_SpecifyGB);
-    auto table = boost::make_shared<models::PremappedListModel<RGBMode_e>>(models::rgbMode);
-    ComboBoxPropertyBinding<RGBMode_e> binding(combo, mode, table);
-    runIdle();
-    EXPECT_EQ(combo.currentText(), QStringLiteral("Specify G&B, calculate R"));
-    QTest::keyClick(&combo, Qt::Key_Home);
-    EXPECT_EQ(mode->getValue(), RGBMode_SpecifyRGB);
 }

@@ -83,18 +83,3 @@ TEST_F(RadioButtonBindingTest, ARefusedValueIsReportedOnceOnlyWithATextAndTheGro
     EXPECT_EQ(messageTexts().size(), 1u);
     EXPECT_EQ(silent->getValue(), Font_Greek);
 }
-
-TEST_F(RadioButtonBindingTest, TwoButtonsForABoolEditItBothWays)
-{
-    auto inGrid = boost::make_shared<Property<bool>>(true);
-    QRadioButton grid(&window), cm(&window);
-    cm.move(0, 30);
-    ASSERT_TRUE(showWindow());
-    RadioButtonPropertyBinding<bool> gridBinding(&grid, inGrid, true);
-    RadioButtonPropertyBinding<bool> cmBinding(&cm, inGrid, false);
-    EXPECT_TRUE(grid.isChecked());
-    user::click(&cm);
-    EXPECT_FALSE(inGrid->getValue());
-    user::click(&grid);
-    EXPECT_TRUE(inGrid->getValue());
-}

@@ -22,8 +22,10 @@ TEST_F(GeneratedStylePropertySetTest, ModalSetWritesOnlyChangedEntriesOnSubmitIn
     EXPECT_TRUE(changes.events.empty());
 
     set.submit();
-    EXPECT_EQ((std::vector<std::string>{"GlobalRGB/RGBMode", "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMax"}),
-              changes.stylePaths());
+    EXPECT_EQ((StateChangeRecorder::Events{{StateChange_Style, "GlobalRGB/RGBMode"},
+                                           {StateChange_Style, "GlobalRGB/BlueChannelVar"},
+                                           {StateChange_Style, "GlobalRGB/RangeMax"}}),
+              changes.events);
     EXPECT_EQ(max + 1.0, styleValue<double>({"GlobalRGB", "RangeMax"}));
 }
 
@@ -35,9 +37,10 @@ TEST_F(GeneratedStylePropertySetTest, NonModalSetWritesEachEditAtOnceUnderItsPat
     set.symbolFont()->setValue("Serif");
     EXPECT_EQ("Serif", styleValue<std::string>({"GlobalLinePlot", "BaseFontFamily"}));
     set.scatterSizeVariable()->setValue(4); // under the short name Var
-    EXPECT_EQ((std::vector<std::string>{"GlobalScatter/BaseFontIsItalic", "GlobalLinePlot/BaseFontFamily",
-                                        "GlobalScatter/Var"}),
-              changes.stylePaths());
+    EXPECT_EQ((StateChangeRecorder::Events{{StateChange_Style, "GlobalScatter/BaseFontIsItalic"},
+                                           {StateChange_Style, "GlobalLinePlot/BaseFontFamily"},
+                                           {StateChange_Style, "GlobalScatter/Var"}}),
+              changes.events);
     const int writes = Kernel::styleWriteCount();
     set.submitProperties();
     EXPECT_EQ(writes, Kernel::styleWriteCount());

@@ -61,9 +61,7 @@ struct Emissions
 {
     template <typename P>
     explicit Emissions(const P& property)
-        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); }))
-    {
-    }
+        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); })) {}
     size_t count() const { return values.size(); }
     std::vector<T> values;
     boost::signals2::scoped_connection connection;
@@ -73,9 +71,7 @@ struct Emissions
 struct RelevanceChanges
 {
     explicit RelevanceChanges(const orrery::sdk::ui::propertymanager::RelevanceInterface& relevance)
-        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; }))
-    {
-    }
+        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; })) {}
     int count = 0;
     boost::signals2::scoped_connection connection;
 };
@@ -87,9 +83,7 @@ struct StateChangeRecorder
         : connection(orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
               [this](const orrery::sdk::integration::StateChangeEventInterface& e) {
                   events.emplace_back(e.code(), e.stylePath().join("/"));
-              }))
-    {
-    }
+              })) {}
     std::vector<StateChange_e> codes() const
     {
         std::vector<StateChange_e> all;
@@ -97,15 +91,8 @@ struct StateChangeRecorder
             all.push_back(e.first);
         return all;
     }
-    std::vector<std::string> stylePaths() const
-    {
-        std::vector<std::string> paths;
-        for (const auto& e : events)
-            if (e.first == StateChange_Style)
-                paths.push_back(e.second);
-        return paths;
-    }
-    std::vector<std::pair<StateChange_e, std::string>> events;
+    typedef std::vector<std::pair<StateChange_e, std::string>> Events;
+    Events events;
     boost::signals2::scoped_connection connection;
 };
 

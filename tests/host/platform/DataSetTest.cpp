@@ -53,13 +53,11 @@ typedef SampleKernelTest KernelDataSet;
 TEST_F(KernelDataSet, NamesCountsAndRangesOfTheEnabledZones)
 {
     EXPECT_TRUE(OrrUtilDataSetIsAvailable());
-    EXPECT_EQ(3, OrrUtilDataSetGetNumZones());
-    EXPECT_EQ(5, OrrUtilDataSetGetNumVars());
-    EXPECT_EQ("Heated plate", owned(OrrUtilDataSetGetTitle()));
-    EXPECT_EQ("Channel", owned(OrrUtilZoneGetName(2)));
-    EXPECT_EQ("Temperature", owned(OrrUtilVarGetName(5)));
-    EXPECT_EQ("<null>", owned(OrrUtilVarGetName(6)));
-    EXPECT_EQ("<null>", owned(OrrUtilZoneGetName(0)));
+    EXPECT_EQ((std::vector<int>{3, 5}), (std::vector<int>{OrrUtilDataSetGetNumZones(), OrrUtilDataSetGetNumVars()}));
+    EXPECT_EQ((std::vector<std::string>{"Heated plate", "Channel", "Temperature", "<null>", "<null>"}),
+              (std::vector<std::string>{owned(OrrUtilDataSetGetTitle()), owned(OrrUtilZoneGetName(2)),
+                                        owned(OrrUtilVarGetName(5)), owned(OrrUtilVarGetName(6)),
+                                        owned(OrrUtilZoneGetName(0))}));
 
     EXPECT_EQ((std::vector<double>{0.0, 9.0}), minMax(1));
     const std::vector<double> pressure = minMax(4);
@@ -68,9 +66,8 @@ TEST_F(KernelDataSet, NamesCountsAndRangesOfTheEnabledZones)
     EXPECT_DOUBLE_EQ(101325.0 + 20.0, pressure[1]);
 
     Kernel::setEnabledZones({2, 7}); // zone 7 does not exist and is dropped
-    EXPECT_FALSE(OrrUtilZoneIsEnabled(1));
-    EXPECT_TRUE(OrrUtilZoneIsEnabled(2));
-    EXPECT_FALSE(OrrUtilZoneIsEnabled(7));
+    EXPECT_EQ((std::vector<bool>{false, true, false}),
+              (std::vector<bool>{OrrUtilZoneIsEnabled(1), OrrUtilZoneIsEnabled(2), OrrUtilZoneIsEnabled(7)}));
     EXPECT_EQ((std::vector<double>{3.0, 6.0}), minMax(1));
     EXPECT_TRUE(minMax(6).empty());
     Kernel::setEnabledZones({});
@@ -104,9 +101,10 @@ TEST_F(KernelDataSet, VariablesLeavingTheDataSetAreCleared)
     writeLong({"ThreeDAxis", "ZDetail", "VarNum"}, 5);
     writeLong({"GlobalRGB", "RedChannelVar"}, 2);
     Kernel::loadSampleDataSet("Small"); // X and Y only
-    EXPECT_EQ(0, readLong({"ThreeDAxis", "ZDetail", "VarNum"}));
-    EXPECT_EQ(2, readLong({"GlobalRGB", "RedChannelVar"}));
-    EXPECT_EQ(1, readLong({"TwoDAxis", "XDetail", "VarNum"}));
+    EXPECT_EQ((std::vector<std::optional<long>>{0, 2, 1}),
+              (std::vector<std::optional<long>>{readLong({"ThreeDAxis", "ZDetail", "VarNum"}),
+                                                readLong({"GlobalRGB", "RedChannelVar"}),
+                                                readLong({"TwoDAxis", "XDetail", "VarNum"})}));
 }
 
 TEST(ColorMap, BasicCustomAndOutOfRangeColours)

@@ -10,7 +10,7 @@ namespace {
 const StringList ScatterColor{"FieldMap", "Scatter", "Color"};
 const StringList Mode{"GlobalRGB", "RGBMode"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
-using Events = std::vector<std::pair<StateChange_e, std::string>>;
+using Events = StateChangeRecorder::Events;
 
 typedef SampleKernelTest StyleWrite; // five variables
 

@@ -3,37 +3,7 @@
 
 using orrery::RawArray;
 
-TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32AndAppendEnlargesToExactlyTheSum)
-{
-    RawArray<long> a;
-    a.push_back(1);
-    EXPECT_EQ(32u, a.capacity());
-    for (long i = 1; i < 64; ++i)
-        a.push_back(i);
-    EXPECT_EQ(64u, a.capacity());
-    a.push_back(64);
-    EXPECT_EQ(96u, a.capacity());
-
-    RawArray<long> b;
-    b.enlargeCapacity(100);
-    for (long i = 0; i < 100; ++i)
-        b.push_back(i);
-    EXPECT_EQ(100u, b.capacity());
-    b.push_back(100);
-    EXPECT_EQ(150u, b.capacity());
-    for (long i = 0; i <= 100; ++i)
-        ASSERT_EQ(i, b[i]);
-
-    RawArray<long> c;
-    c.push_back(-1);
-    c.append(b);
-    EXPECT_EQ(102u, c.size());
-    EXPECT_EQ(102u, c.capacity());
-    EXPECT_EQ(-1, c[0]);
-    EXPECT_EQ(100, c[101]);
-}
-
-TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullAndTheSlotFollowsReallocation)
+TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullTheSlotFollowsReallocationAndAppendKeepsBoth)
 {
     long storage[3];
     long* slot = nullptr;
@@ -49,4 +19,13 @@ TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullAndTheSlotFollowsReallocation)
     EXPECT_EQ(4u, a.size());
     EXPECT_EQ(7, a[0]);
     EXPECT_EQ(10, a[3]);
+
+    RawArray<long> b;
+    for (long i = 0; i < 40; ++i)
+        b.push_back(i);
+    a.append(b);
+    EXPECT_EQ(44u, a.size());
+    EXPECT_EQ(44u, a.capacity());
+    EXPECT_EQ(10, a[3]);
+    EXPECT_EQ(39, a[43]);
 }

@@ -54,30 +54,16 @@ TEST(QListModelTest, OffersTextValueAndEditTextByRoleOnlyForEditableRows)
     EXPECT_EQ(editableRows.edits[0], std::make_pair(0, std::string("changed")));
 }
 
-TEST(QListModelTest, RelaysTheFourKindsOfChange)
+TEST(QListModelTest, RelaysAChangedRowAndARebuiltList)
 {
     TestListModel rows(TestListModel::numbered(5));
     QListModel<int> model(rows);
     QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
     QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
-    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
-
-    rows.removeRows(1, 2);
-    ASSERT_EQ(removed.count(), 1);
-    EXPECT_EQ(removed.at(0).at(1).toInt(), 1);
-    EXPECT_EQ(removed.at(0).at(2).toInt(), 2);
-    EXPECT_EQ(model.rowCount(), 3);
-
-    rows.insertRow(0, {42, "answer"});
-    ASSERT_EQ(inserted.count(), 1);
-    EXPECT_EQ(inserted.at(0).at(1).toInt(), 0);
-    EXPECT_EQ(model.data(model.index(0, 0), Qt::DisplayRole).toString(), QStringLiteral("answer"));
-
     rows.renameRow(2, "renamed");
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed.at(0).at(0).value<QModelIndex>().row(), 2);
-
+    EXPECT_EQ(model.data(model.index(2, 0), Qt::DisplayRole).toString(), QStringLiteral("renamed"));
     rows.replaceAll(TestListModel::numbered(2));
     EXPECT_EQ(reset.count(), 1);
     EXPECT_EQ(model.rowCount(), 2);
