@@ -1,44 +1,23 @@
 // The text field observable and the scientific spin box, driven by the keyboard.
 #include <QDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <gtest/gtest.h>
 
 #include "platform/qwidgetobservable/QTextFieldObservable.h"
 #include "platform/ui/QScientificSpinBox.h"
+#include "support/UserActions.h"
 
 using namespace qwidgetobservable;
 
-namespace {
-
-class WidgetObservablesTest : public ::testing::Test
+TEST(QTextFieldObservableTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTheDialogOpen)
 {
-protected:
-    WidgetObservablesTest() : field(&dialog), ok(QStringLiteral("OK"), &dialog)
-    {
-        ok.move(0, 80);
-        ok.setDefault(true);
-        QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
-    }
-    bool showDialog()
-    {
-        dialog.show();
-        dialog.activateWindow();
-        return QTest::qWaitForWindowActive(&dialog);
-    }
-
     QDialog dialog;
-    QLineEdit field;
-    QPushButton ok;
-};
-
-} // namespace
-
-TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTheDialogOpen)
-{
-    ASSERT_TRUE(showDialog());
+    QLineEdit field(&dialog);
+    QPushButton ok(QStringLiteral("OK"), &dialog);
+    ok.move(0, 80);
+    ok.setDefault(true);
+    QObject::connect(&ok, &QPushButton::clicked, &dialog, &QDialog::accept);
     int commits = 0;
     bool accept = false;
     auto observable = std::make_unique<QTextFieldObservable>(field, [&] {
@@ -46,6 +25,7 @@ TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTh
         return accept;
     });
     QSignalSpy accepted(&dialog, &QDialog::accepted);
+    user::open(dialog);
     field.setFocus();
     QTest::keyClicks(&field, QStringLiteral("abc"));
     QTest::keyClick(&field, Qt::Key_Return);
@@ -58,7 +38,7 @@ TEST_F(WidgetObservablesTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsTh
 
     // A commit that throws is contained and counts as refused.
     observable = std::make_unique<QTextFieldObservable>(field, []() -> bool { throw std::runtime_error("kernel gone"); });
-    ASSERT_TRUE(showDialog());
+    user::open(dialog);
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(accepted.count(), 1);
