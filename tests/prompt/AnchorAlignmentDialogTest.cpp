@@ -3,7 +3,6 @@
 #include "prompt/AnchorAlignmentDialog.h"
 
 using namespace dialogtest;
-using orrery::dialogs::prompt::AnchorAlignmentDialog;
 
 namespace {
 

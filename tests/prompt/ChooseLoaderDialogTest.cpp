@@ -1,14 +1,10 @@
-#include <QDir>
-#include <QFile>
 #include <QListView>
-#include <boost/make_shared.hpp>
 #include "DialogTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/settings/ApplicationSettings.h"
 #include "prompt/ChooseLoaderDialog.h"
 
 using namespace dialogtest;
-using orrery::dialogs::prompt::ChooseLoaderDialog;
 using orrery::sdk::ApplicationSettings;
 using orrery::sdk::DataLoaderInterface;
 using orrery::sdk::DataLoaderRepository;
@@ -225,23 +221,6 @@ TEST_F(ChooseLoaderDialogTest, CancelAndSeveralExtensionsLeaveTheHistoryAloneAnd
     dialog = chooser({}, {".dat"});
     EXPECT_EQ(selectedText(*dialog), "Binary grid"); // row 0
     EXPECT_TRUE(ok(*dialog)->isEnabled());
-}
-
-TEST_F(ChooseLoaderDialogTest, AnUnusableSettingsFileIsReportedAndTheDialogWorksWithoutHistory)
-{
-    const QString path = QString::fromStdString(ApplicationSettings::getInstance().filePath());
-    QFile::remove(path);
-    ASSERT_TRUE(QDir().mkpath(path)); // a folder where the file should be: unreadable, unwritable
-    restart();
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat"});
-    EXPECT_EQ(selectedText(*dialog), "<none>");
-    user::open(*dialog);
-    clickRow(*dialog, "Point cloud");
-    user::press(*dialog, QDialogButtonBox::Ok);
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedLoader(), pointCloud);
-    EXPECT_FALSE(ApplicationSettings::getInstance().lastError().empty());
-    QDir(path).removeRecursively();
 }
 
 } // namespace

@@ -106,8 +106,12 @@ inline void expectTabOrder(const QWidget& root, std::initializer_list<const char
 
 } // namespace contract
 
+namespace orrery::dialogs::prompt {
+}
+
 namespace dialogtest {
 
+using namespace orrery::dialogs::prompt;
 using namespace testsupport;
 
 inline QPushButton* standard(QWidget& dialog, QDialogButtonBox::StandardButton which)

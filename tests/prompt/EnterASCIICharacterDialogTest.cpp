@@ -2,7 +2,6 @@
 #include "prompt/EnterASCIICharacterDialog.h"
 
 using namespace dialogtest;
-using orrery::dialogs::prompt::EnterASCIICharacterDialog;
 
 namespace {
 

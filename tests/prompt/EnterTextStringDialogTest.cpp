@@ -2,7 +2,6 @@
 #include "prompt/EnterTextStringDialog.h"
 
 using namespace dialogtest;
-using orrery::dialogs::prompt::EnterTextStringDialog;
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "prompt/EnterThreeIntValuesDialog.h"
 
 using namespace dialogtest;
-using orrery::dialogs::prompt::EnterThreeIntValuesDialog;
 
 namespace {
 

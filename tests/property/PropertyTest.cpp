@@ -1,7 +1,5 @@
 #include <limits>
 #include <set>
-#include <string>
-#include <vector>
 
 #include "property/PropertyProxy.h"
 #include "support/TestSupport.h"

@@ -1,8 +1,5 @@
 // The property side shared by every binding: when the widget is refreshed,
 // how often, and what a destroyed binding leaves behind.
-#include <memory>
-#include <stdexcept>
-
 #include "platform/sdk/AppLock.h"
 #include "propertybindings/BindingTestSupport.h"
 #include "propertybindings/QObjectPropertyBinding.h"
@@ -11,8 +8,6 @@
 #include "propertymanager/PropertyDependentRelevance.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 using orrery::sdk::ui::propertymanager::PropertyDependentRelevance;
 using orrery::sdk::ui::propertymanager::UIStylePropertyAbstract;
 

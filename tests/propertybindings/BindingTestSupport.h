@@ -9,6 +9,8 @@
 
 namespace bindingtest {
 
+using namespace orrery;
+using namespace orrery::sdk::ui::dialogs::propertybindings;
 using namespace testsupport;
 
 class BindingFixture : public ::testing::Test

@@ -1,15 +1,11 @@
 // A combo box and its property, driven through the keyboard as a user would.
 #include <QComboBox>
-#include <QLineEdit>
 
-#include "platform/sdk/AppLock.h"
 #include "propertybindings/BindingTestSupport.h"
 #include "propertybindings/ComboBoxPropertyBinding.h"
 #include "propertybindings/models/QListModel.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 
 namespace {
 

@@ -1,7 +1,6 @@
 // A list view's selection and a property of row values, in both directions,
 // including rows that come, go and change under a selection.
 #include <set>
-#include <vector>
 #include <QListView>
 #include <QSignalSpy>
 
@@ -9,8 +8,6 @@
 #include "propertybindings/ListViewPropertySynchronizer.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 
 namespace {
 

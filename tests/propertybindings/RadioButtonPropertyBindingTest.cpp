@@ -1,14 +1,8 @@
 // A group of radio buttons editing one property, clicked as a user would.
-#include <memory>
-#include <vector>
-
-#include "platform/kernel/OrrTypes.h"
 #include "propertybindings/BindingTestSupport.h"
 #include "propertybindings/RadioButtonPropertyBinding.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 
 namespace {
 

@@ -1,7 +1,6 @@
 // Text to value: what converts, what fails and with which message.
 #include <iomanip>
 #include <sstream>
-#include <string>
 #include <gtest/gtest.h>
 
 #include "platform/kernel/OrrTypes.h"

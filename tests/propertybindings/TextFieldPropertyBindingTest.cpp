@@ -6,8 +6,6 @@
 #include "propertybindings/TextFieldPropertyBinding.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 
 namespace {
 

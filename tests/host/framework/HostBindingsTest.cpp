@@ -16,8 +16,6 @@
 #include "propertybindings/BindingTestSupport.h"
 
 using namespace bindingtest;
-using namespace orrery;
-using namespace orrery::sdk::ui::dialogs::propertybindings;
 using orrery::ui::IntegralSpinBox;
 using orrery::ui::QScientificSpinBox;
 

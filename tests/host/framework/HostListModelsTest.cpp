@@ -5,7 +5,6 @@
 #include "propertybindings/BindingTestSupport.h"
 
 using namespace bindingtest;
-using namespace orrery;
 using namespace orrery::sdk::ui::dialogs::propertybindings::models;
 
 namespace {

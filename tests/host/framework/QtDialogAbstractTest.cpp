@@ -4,10 +4,9 @@
 #include "framework/HelpViewer.h"
 #include "framework/LaunchHelpAction.h"
 #include "framework/QtDialogAbstract.h"
-#include "property/Property.h"
 #include "propertymanager/PropertyDependentRelevance.h"
+#include "support/TestSupport.h"
 #include "support/UserActions.h"
-#include <gtest/gtest.h>
 
 using orrery::Property;
 using orrery::dialogs::common::HelpViewer;

@@ -11,10 +11,7 @@
 #include "propertymanager/PropertyDependentRelevance.h"
 
 using namespace bindingtest;
-using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;
-using orrery::sdk::ui::dialogs::propertybindings::BindingInterface;
-using orrery::sdk::ui::dialogs::propertybindings::RelevanceApplier;
 
 namespace {
 

@@ -59,7 +59,7 @@ TEST_F(Settings, CorruptFileKeepsItsReadableLinesAndIsReported)
     EXPECT_EQ("", settings().lastError()); // the rewrite dropped the bad lines
 }
 
-TEST_F(Settings, UnwritableLocationLeavesAWorkingStoreInMemory)
+TEST_F(Settings, UnwritableOrUnreadableLocationLeavesAWorkingStoreInMemory)
 {
     // A folder path running through a plain file can never be created.
     writeFile("");
@@ -68,6 +68,15 @@ TEST_F(Settings, UnwritableLocationLeavesAWorkingStoreInMemory)
     settings().depositValue("key", "kept");
     EXPECT_EQ("kept", settings().getStringValue("key"));
     EXPECT_NE(std::string::npos, settings().lastError().find("Cannot write the settings file"));
+
+    // A folder where the file should be is neither read nor written, and reported.
+    qputenv("ORRERY_SETTINGS_DIR", folder.path().toUtf8());
+    QFile::remove(QDir(folder.path()).filePath("settings.ini"));
+    ASSERT_TRUE(QDir(folder.path()).mkdir("settings.ini"));
+    settings().reload();
+    settings().depositValue("key", "kept");
+    EXPECT_EQ("kept", settings().getStringValue("key"));
+    EXPECT_FALSE(settings().lastError().empty());
 }
 
 TEST(SettingsLocation, FallsBackToTheUserConfigFolder)

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-#include <boost/make_shared.hpp>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,5 +1,4 @@
 // The stand-in kernel's data set and the queries the host makes on it.
-#include <gtest/gtest.h>
 #include "StyleCalls.h"
 #include "platform/kernel/DataSet.h"
 #include "platform/sdk/DataSetQueries.h"

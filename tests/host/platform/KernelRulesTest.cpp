@@ -1,6 +1,5 @@
 // The stand-in kernel's rules: refused writes and their texts, collection
 // members, undo and redo, and the state changes it announces.
-#include <gtest/gtest.h>
 #include "StyleCalls.h"
 
 using namespace stylecalls;

@@ -44,17 +44,12 @@ TEST(QTextFieldObservableTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsT
     EXPECT_EQ(accepted.count(), 1);
 }
 
-TEST(HostSpinBoxesTest, ScientificSpinBoxShowsAndAcceptsExponents)
+TEST(HostSpinBoxesTest, ScientificSpinBoxTellsFinishedUnfinishedAndImpossibleText)
 {
     orrery::ui::QScientificSpinBox spin;
     spin.setDecimals(15);
-    QSignalSpy changes(&spin, &orrery::ui::QScientificSpinBox::valueChanged);
-    spin.setValue(1.5e-07);
-    EXPECT_EQ(spin.text(), QStringLiteral("1.5e-07"));
     spin.setValue(0.1);
-    EXPECT_EQ(spin.text(), QStringLiteral("0.1"));
-    EXPECT_EQ(changes.count(), 2);
-
+    EXPECT_EQ(spin.text(), QStringLiteral("0.1")); // plain when it reads well, as 1.5e-07 otherwise
     int position = 0;
     QString text;
     const std::vector<std::pair<QString, QValidator::State>> cases = {

@@ -1,6 +1,4 @@
 // The option tables, row for row and letter for letter.
-#include <string>
-#include <vector>
 #include <gtest/gtest.h>
 
 #include "platform/kernel/OrrTypes.h"
