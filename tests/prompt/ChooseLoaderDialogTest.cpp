@@ -172,7 +172,7 @@ TEST_F(ChooseLoaderDialogTest, OkNeedsASelectedLoaderAndADoubleClickAcceptsLikeO
     EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Binary grid");
 }
 
-TEST_F(ChooseLoaderDialogTest, TheChoiceForAnExtensionIsPreselectedAfterARestart)
+TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestartCancelKeepsTheHistory)
 {
     ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat"});
     user::open(*dialog);
@@ -194,12 +194,10 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForAnExtensionIsPreselectedAfterARestart
     EXPECT_EQ(selectedText(*dialog), "Text table");
     dialog = chooser({}, {".csv"}); // other extensions have their own history
     EXPECT_EQ(selectedText(*dialog), "<none>");
-}
 
-TEST_F(ChooseLoaderDialogTest, CancelAndSeveralExtensionsLeaveTheHistoryAloneAndAGoneLoaderFallsBack)
-{
+    // Cancel and several extensions leave the history alone; a gone loader falls back.
     ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.dat", "Point cloud");
-    ChooseLoaderDialog* dialog = chooser(datSuggestions(), {".dat", ".txt"});
+    dialog = chooser(datSuggestions(), {".dat", ".txt"});
     EXPECT_EQ(selectedText(*dialog), "<none>");
     user::open(*dialog);
     clickRow(*dialog, "CSV table");

@@ -30,9 +30,6 @@ TEST_F(EnterASCIICharacterDialogTest, LayoutContract)
     EnterASCIICharacterDialog* dialog = EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
     contract::expectWidgets(*dialog, {
         {"EnterASCIICharacter", "orrery::dialogs::prompt::EnterASCIICharacterDialog", "Enter ASCII Character"},
-        {"gridLayout_3", "QGridLayout", nullptr},
-        {"gridLayout_2", "QGridLayout", nullptr},
-        {"gridLayout", "QGridLayout", nullptr},
         {"label", "QLabel", "Enter &character to use as a symbol:"},
         {"selectedCharacter_lineEdit", "QLineEdit", "A"},
         {BaseButton, "QRadioButton", "&Base"},

@@ -17,7 +17,6 @@ TEST_F(EnterTextStringDialogTest, LayoutContract)
     EnterTextStringDialog dialog(parent, "", "", "", false);
     contract::expectWidgets(dialog, {
         {"EnterTextString", "orrery::dialogs::prompt::EnterTextStringDialog", "Prompt for text string"},
-        {"_2", "QGridLayout", nullptr},
         {"EnterTextString_Label", "QLabel", "&Enter your input string:"},
         {"EnterTextString_lineEdit", "QLineEdit", ""},
         {"EnterTextString_buttonBox", "QDialogButtonBox", nullptr},
@@ -68,7 +67,7 @@ TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextOkAcceptsA
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextIsDisabledOnceTheUserEmptiesTheFieldAndCanBeRenamed)
+TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextIsDisabledOnceEmptiedCanBeRenamedAndHelpNeedsAPage)
 {
     EnterTextStringDialog dialog(parent, "", "", "", false);
     QPushButton* ok = standard(dialog, QDialogButtonBox::Ok);
@@ -87,10 +86,8 @@ TEST_F(EnterTextStringDialogTest, OkStartsEnabledOnEmptyTextIsDisabledOnceTheUse
     EXPECT_TRUE(ok->isEnabled());
     user::click(ok);
     EXPECT_EQ(dialog.text(), "b");
-}
 
-TEST_F(EnterTextStringDialogTest, HelpActionOnlyForANonEmptyPage)
-{
+    // A help action only for a non-empty page.
     EnterTextStringDialog without(parent, "", "", "", true);
     EXPECT_EQ(without.helpAction(), nullptr);
     without.show();

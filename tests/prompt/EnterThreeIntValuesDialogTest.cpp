@@ -24,8 +24,6 @@ TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
     contract::expectWidgets(*dialog, {
         {"EnterThreeIntValues", "orrery::dialogs::prompt::EnterThreeIntValuesDialog", "Index Range"},
         {"verticalLayout", "QVBoxLayout", nullptr},
-        {"gridLayout_2", "QGridLayout", nullptr},
-        {"gridLayout", "QGridLayout", nullptr},
         {"topLabel", "QLabel", "TextLabel"},
         {"valueLabel1", "QLabel", "&Begin"},
         {"valueLabel2", "QLabel", "&End"},

@@ -50,7 +50,7 @@ public:
 
 } // namespace
 
-TEST(PropertySetValue, OnlyAValidChangeIsStoredAndAnnouncedOnBothSignals)
+TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnBothSignals)
 {
     auto validator = boost::make_shared<NonNegativeValidator>();
     Property<long> p(5L, validator);
@@ -81,18 +81,16 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndAnnouncedOnBothSignals)
     c.disconnect();
     s.setValue("c");
     EXPECT_EQ(1, calls);
-}
 
-TEST(PropertySetValue, AnnouncesTheValueReadBackNotTheArgument)
-{
-    StoredProperty<long> p;
-    p.clamp = true;
-    Recorder<long> rec(p);
-    p.setValue(250);
-    EXPECT_EQ(std::vector<long>{100}, rec.values);
+    // A store that adjusts the value, as a kernel would: the value read back is announced.
+    StoredProperty<long> clamped;
+    clamped.clamp = true;
+    Recorder<long> crec(clamped);
+    clamped.setValue(250);
+    EXPECT_EQ(std::vector<long>{100}, crec.values);
     // 250 again is not equal to the 100 held, so it is stored and announced again.
-    p.setValue(250);
-    EXPECT_EQ(2u, rec.values.size());
+    clamped.setValue(250);
+    EXPECT_EQ(2u, crec.values.size());
 }
 
 TEST(PropertyEquality, NaNNeverEqualVectorOrderMattersSetsCompareByElements)

@@ -10,7 +10,7 @@ using orrery::toolbox::StringList;
 
 typedef SampleKernelTest GeneratedStylePropertySetTest;
 
-TEST_F(GeneratedStylePropertySetTest, ModalSetWritesOnlyChangedEntriesOnSubmitInTableOrder)
+TEST_F(GeneratedStylePropertySetTest, ModalSetWritesOnlyChangedEntriesOnSubmitInTableOrderEvenWhenReplaced)
 {
     RGBColorOptsPropertiesGenerated set(true, StringList());
     EXPECT_TRUE(set.isModal());
@@ -27,6 +27,16 @@ TEST_F(GeneratedStylePropertySetTest, ModalSetWritesOnlyChangedEntriesOnSubmitIn
                                            {StateChange_Style, "GlobalRGB/RangeMax"}}),
               changes.events);
     EXPECT_EQ(max + 1.0, styleValue<double>({"GlobalRGB", "RangeMax"}));
+
+    // A replaced property is handed out while submit still applies the kernel one.
+    auto kernelSide = set.redVar();
+    auto own = boost::make_shared<Property<int>>(0);
+    set.setRedVar(own);
+    EXPECT_EQ(own, set.redVar());
+
+    kernelSide->setValue(3);
+    set.submitProperties();
+    EXPECT_EQ(3, styleValue<long>({"GlobalRGB", "RedChannelVar"}));
 }
 
 TEST_F(GeneratedStylePropertySetTest, NonModalSetWritesEachEditAtOnceUnderItsPath)
@@ -50,19 +60,6 @@ TEST_F(GeneratedStylePropertySetTest, NonModalSetWritesEachEditAtOnceUnderItsPat
     EXPECT_EQ(StringList{"Elsewhere"}, elsewhere.prefix());
     EXPECT_THROW(elsewhere.rangeMin()->setValue(0.25), InvalidPropertyValueException);
     EXPECT_EQ(3u, changes.events.size());
-}
-
-TEST_F(GeneratedStylePropertySetTest, ReplacedPropertyIsHandedOutWhileSubmitStillAppliesTheKernelOne)
-{
-    RGBColorOptsPropertiesGenerated set(true, StringList());
-    auto kernelSide = set.redVar();
-    auto own = boost::make_shared<Property<int>>(0);
-    set.setRedVar(own);
-    EXPECT_EQ(own, set.redVar());
-
-    kernelSide->setValue(3);
-    set.submitProperties();
-    EXPECT_EQ(3, styleValue<long>({"GlobalRGB", "RedChannelVar"}));
 }
 
 TEST_F(GeneratedStylePropertySetTest, SetWithAParentTakesTheParentsModality)

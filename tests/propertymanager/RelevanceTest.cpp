@@ -9,7 +9,7 @@ using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;
 using testsupport::RelevanceChanges;
 
-TEST(PropertyDependentRelevance, FollowsTheValueAndFiresOncePerRealChange)
+TEST(PropertyDependentRelevance, FollowsTheValueAndFiresOncePerRealChangeEvenWhenTheAnswerStays)
 {
     auto flag = boost::make_shared<Property<bool>>(false);
     {
@@ -27,10 +27,7 @@ TEST(PropertyDependentRelevance, FollowsTheValueAndFiresOncePerRealChange)
     }
     // An outlived property calls nothing stale.
     EXPECT_NO_THROW(flag->setValue(true));
-}
 
-TEST(PropertyDependentRelevance, RelevantForExactlyOneEnumValueButFiresOnEveryChange)
-{
     auto mode = boost::make_shared<Property<RGBMode_e>>(static_cast<RGBMode_e>(0));
     PropertyDependentRelevance<RGBMode_e> relevance(mode, static_cast<RGBMode_e>(2));
     RelevanceChanges changes(relevance);

@@ -33,7 +33,7 @@ typedef BindingFixture HostListModelsTest;
 
 } // namespace
 
-TEST_F(HostListModelsTest, ZonesFollowTheDataSetAndTheEnabledZones)
+TEST_F(HostListModelsTest, ZonesAndVariablesFollowTheDataSetAndWhatIsEnabled)
 {
     ZoneListModel zones(sdk::getEnabledZonesForFrame, false);
     ZoneListModel numbered(sdk::getEnabledZonesForFrame, true);
@@ -50,16 +50,14 @@ TEST_F(HostListModelsTest, ZonesFollowTheDataSetAndTheEnabledZones)
     EXPECT_EQ(changes.count, 2);
     Kernel::clearDataSet();
     EXPECT_EQ(zones.size(), 0);
-}
 
-TEST_F(HostListModelsTest, VariablesFollowTheEnabledVariablesButNotStyleOrUnchangedRows)
-{
+    // Variables follow the enabled variables, but not style changes or unchanged rows.
     Kernel::loadSampleDataSet();
     EnabledVariablesListModel vars;
-    ChangeCounter changes(vars);
+    ChangeCounter varChanges(vars);
     Kernel::fireStateChange(StateChange_Style, {"GlobalRGB", "RGBMode"});
     Kernel::fireStateChange(StateChange_VarsAltered);
-    EXPECT_EQ(changes.count, 0);
+    EXPECT_EQ(varChanges.count, 0);
     ASSERT_EQ(vars.size(), 5);
     EXPECT_EQ(vars.get(3), 4);
     EXPECT_EQ(vars.indexOf(5), 4);
@@ -67,7 +65,8 @@ TEST_F(HostListModelsTest, VariablesFollowTheEnabledVariablesButNotStyleOrUnchan
     EXPECT_EQ(vars.size(), 2);
     EXPECT_EQ(vars.get(1), 4);
     EXPECT_EQ(vars.indexOf(5), -1);
-    EXPECT_EQ(changes.count, 1);
+    EXPECT_EQ(varChanges.count, 1);
     Kernel::loadSampleDataSet("Small");
     EXPECT_EQ(rowsOf(vars).size(), 2u);
 }
+

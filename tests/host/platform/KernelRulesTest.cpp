@@ -130,7 +130,7 @@ TEST_F(StyleWrite, FramePrefixAddressesAnotherFrameAndWithoutFramesThereIsNoStyl
 
 typedef SampleKernelTest StyleCollection; // three zones, so three field maps
 
-TEST_F(StyleCollection, AnOffsetOrASetSelectsTheMembersWritten)
+TEST_F(StyleCollection, AnOffsetOrASetSelectsTheMembersWrittenOthersAreRefused)
 {
     EXPECT_EQ(SetValue_Ok, writeLong(ScatterColor, 1, 2));
     EXPECT_EQ((std::vector<std::optional<long>>{0, 1, 0}),
@@ -145,14 +145,12 @@ TEST_F(StyleCollection, AnOffsetOrASetSelectsTheMembersWritten)
     Kernel::loadSampleDataSet("Small");
     Kernel::loadSampleDataSet("Sample");
     EXPECT_EQ(0, readLong(ScatterColor, 3));
-}
 
-TEST_F(StyleCollection, MembersOutsideTheDataSetAndBadValuesAreRefused)
-{
+    // Members outside the data set and bad values are refused.
     EXPECT_EQ(SetValue_InvalidOffset, writeLong(ScatterColor, 1, 4));
     EXPECT_EQ("Member 4 of FieldMap/Scatter/Color is out of range (the data set has 3 zones).", lastError());
-    const Set members{2, 4};
-    EXPECT_EQ(SetValue_InvalidOffset, writeLong(ScatterColor, 1, -1, &members));
+    const Set badMembers{2, 4};
+    EXPECT_EQ(SetValue_InvalidOffset, writeLong(ScatterColor, 1, -1, &badMembers));
     EXPECT_EQ(0, readLong(ScatterColor, 2)); // nothing written when one member is bad
     EXPECT_FALSE(readLong(ScatterColor, -1));
     EXPECT_FALSE(readLong(ScatterColor, 4));
@@ -223,7 +221,7 @@ TEST_F(Undo, RevertTakesBackOnlyTheClosedBracketAndAnUnrecordedOneLeavesNothingT
 
 typedef SampleKernelTest StateChange;
 
-TEST_F(StateChange, StyleWritesAnnounceTheirPathOnlyWhenTheValueChanges)
+TEST_F(StateChange, StyleDataSetFrameAndPageChangesAreAnnouncedWithTheirCodes)
 {
     writeLong({"GlobalRGB", "BlueChannelVar"}, 3);
     writeLong({"GlobalRGB", "BlueChannelVar"}, 3);
@@ -232,10 +230,8 @@ TEST_F(StateChange, StyleWritesAnnounceTheirPathOnlyWhenTheValueChanges)
     EXPECT_EQ((Events{{StateChange_Style, "GlobalRGB/BlueChannelVar"}, {StateChange_Style, "FrameLayout/PlotType"}}),
               changes.events);
     EXPECT_EQ(PlotType_ThreeD, OrrUtilFrameGetPlotType());
-}
 
-TEST_F(StateChange, DataSetFrameAndPageChangesAreAnnouncedWithTheirCodes)
-{
+    changes.events.clear();
     Kernel::clearDataSet();
     Kernel::loadSampleDataSet("Small");
     Kernel::setEnabledVars({1});
