@@ -3,7 +3,6 @@
 #include "platform/sdk/AppLock.h"
 #include "propertybindings/BindingTestSupport.h"
 #include "propertybindings/QObjectPropertyBinding.h"
-#include "propertybindings/ScopedExitAction.h"
 #include "propertybindings/UIPropertyBindingAbstract.h"
 #include "propertymanager/PropertyDependentRelevance.h"
 
@@ -137,16 +136,4 @@ TEST_F(BindingCoreTest, ADestroyedBindingLeavesNoListenerAndNoPendingRefreshWhil
     ASSERT_FALSE(watched.expired());
     watched.lock()->setValue(11);
     EXPECT_EQ(live.shown, 11);
-}
-
-TEST(ScopedExitActionTest, LowersTheFlagWhenTheScopeIsLeftByAnException)
-{
-    bool flag = false;
-    try {
-        ScopedExitAction lower(ScopedExitAction::raiseUntilExit(flag));
-        EXPECT_TRUE(flag);
-        throw std::runtime_error("leave");
-    } catch (const std::runtime_error&) {
-    }
-    EXPECT_FALSE(flag);
 }

@@ -13,6 +13,11 @@ class TextFieldBindingTest : public BindingFixture
 {
 protected:
     TextFieldBindingTest() : field(&window), other(&window) { other.move(0, 40); }
+    void SetUp() override
+    {
+        BindingFixture::SetUp();
+        ASSERT_TRUE(showWindow());
+    }
 
     QLineEdit field;
     QLineEdit other;
@@ -26,7 +31,6 @@ const QString marker = QStringLiteral("OrreryBindingInstalledValidator");
 
 TEST_F(TextFieldBindingTest, ShowsTheValueInCanonicalFormAndRewritesItWithoutAStore)
 {
-    ASSERT_TRUE(showWindow());
     number->setValue(1234567);
     NumberBinding binding(&field, number, BindingInterface::WidgetUpdateMode_Immediate);
     EXPECT_EQ(field.text(), QStringLiteral("1.23457e+06"));
@@ -53,7 +57,6 @@ TEST_F(TextFieldBindingTest, ShowsTheValueInCanonicalFormAndRewritesItWithoutASt
 
 TEST_F(TextFieldBindingTest, ReturnOrLeavingAnEditedFieldCommitsTheTypedValueOnce)
 {
-    ASSERT_TRUE(showWindow());
     NumberBinding binding(&field, number);
     Emissions<double> emissions(*number);
     user::type(field, QStringLiteral("2.75"));
@@ -74,7 +77,6 @@ TEST_F(TextFieldBindingTest, ReturnOrLeavingAnEditedFieldCommitsTheTypedValueOnc
 
 TEST_F(TextFieldBindingTest, UnfinishedTextIsRestoredSilentlyAndKeepsTheFocus)
 {
-    ASSERT_TRUE(showWindow());
     NumberBinding binding(&field, number);
     Emissions<double> emissions(*number);
     for (const QString& unfinished : {QString(), QStringLiteral("-"), QStringLiteral("1e")}) {
@@ -90,7 +92,6 @@ TEST_F(TextFieldBindingTest, UnfinishedTextIsRestoredSilentlyAndKeepsTheFocus)
 
 TEST_F(TextFieldBindingTest, AValueTheValidatorRefusesIsReportedOnceAndRestored)
 {
-    ASSERT_TRUE(showWindow());
     auto refusing = refusingProperty<double>(0.5, 7.0, "The size must be below 7.");
     NumberBinding binding(&field, refusing);
     user::typeAndReturn(field, QStringLiteral("7"));
@@ -117,7 +118,6 @@ TEST_F(TextFieldBindingTest, ALaterBindingReplacesOnlyAValidatorABindingInstalle
     EXPECT_EQ(field.validator()->objectName(), marker);
 
     // The dialog's own validator is kept and screens the text.
-    ASSERT_TRUE(showWindow());
     QDoubleValidator* dialogs = new QDoubleValidator(0.0, 1.0, 3, &other);
     other.setValidator(dialogs);
     NumberBinding onOwn(&other, number);

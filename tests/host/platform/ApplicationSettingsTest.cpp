@@ -59,7 +59,7 @@ TEST_F(Settings, CorruptFileKeepsItsReadableLinesAndIsReported)
     EXPECT_EQ("", settings().lastError()); // the rewrite dropped the bad lines
 }
 
-TEST_F(Settings, UnwritableOrUnreadableLocationLeavesAWorkingStoreInMemory)
+TEST_F(Settings, UnusableLocationsLeaveAWorkingStoreInMemoryAndTheDefaultIsTheConfigFolder)
 {
     // A folder path running through a plain file can never be created.
     writeFile("");
@@ -77,12 +77,10 @@ TEST_F(Settings, UnwritableOrUnreadableLocationLeavesAWorkingStoreInMemory)
     settings().depositValue("key", "kept");
     EXPECT_EQ("kept", settings().getStringValue("key"));
     EXPECT_FALSE(settings().lastError().empty());
-}
 
-TEST(SettingsLocation, FallsBackToTheUserConfigFolder)
-{
+    // Without a folder of its own the store falls back to the user's configuration folder.
     qunsetenv("ORRERY_SETTINGS_DIR");
     qputenv("XDG_CONFIG_HOME", "/nonexistent/config");
-    ApplicationSettings::getInstance().reload();
-    EXPECT_EQ("/nonexistent/config/orrery/settings.ini", ApplicationSettings::getInstance().filePath());
+    settings().reload();
+    EXPECT_EQ("/nonexistent/config/orrery/settings.ini", settings().filePath());
 }

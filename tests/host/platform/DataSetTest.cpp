@@ -106,20 +106,6 @@ TEST_F(KernelDataSet, VariablesLeavingTheDataSetAreCleared)
                                                 readLong({"TwoDAxis", "XDetail", "VarNum"})}));
 }
 
-TEST(ColorMap, BasicCustomAndOutOfRangeColours)
-{
-    auto rgb = [](int colour) {
-        unsigned char r, g, b;
-        OrrUtilColorMapGetBasicColorRGB(colour, &r, &g, &b);
-        return std::vector<int>{r, g, b};
-    };
-    EXPECT_EQ((std::vector<int>{255, 0, 0}), rgb(1));
-    EXPECT_EQ((std::vector<int>{255, 0, 255}), rgb(6));
-    EXPECT_NE(rgb(9), rgb(10));
-    EXPECT_NE((std::vector<int>{0, 0, 0}), rgb(9));
-    EXPECT_EQ((std::vector<int>{0, 0, 0}), rgb(64));
-}
-
 TEST(DataSetBuilding, ZonesNeedOneEqualRowPerVariable)
 {
     DataSet data("t", {"A", "B"});
