@@ -5,6 +5,7 @@
 #include "support/TestSupport.h"
 
 using namespace orrery;
+using testsupport::Emissions;
 
 namespace {
 
@@ -21,20 +22,6 @@ public:
         return r;
     }
     mutable int calls = 0;
-};
-
-// Both signals of a property: the typed values and the untyped calls.
-template <typename T>
-struct Recorder
-{
-    explicit Recorder(const PropertyAbstract<T>& p)
-    {
-        typed = p.connectToValueChangedSignal([this](const T& v) { values.push_back(v); });
-        untyped = p.connectToPropertyChangedSignal([this] { ++untypedCount; });
-    }
-    std::vector<T> values;
-    int untypedCount = 0;
-    boost::signals2::scoped_connection typed, untyped;
 };
 
 // A property whose store adjusts the value, as a kernel would.
@@ -54,7 +41,9 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnB
 {
     auto validator = boost::make_shared<NonNegativeValidator>();
     Property<long> p(5L, validator);
-    Recorder<long> rec(p);
+    Emissions<long> rec(p);
+    int untyped = 0;
+    boost::signals2::scoped_connection u = p.connectToPropertyChangedSignal([&] { ++untyped; });
     p.setValue(5);
     EXPECT_EQ(1, validator->calls); // even for the value already held
     try {
@@ -65,11 +54,11 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnB
     }
     EXPECT_EQ(5, p.getValue());
     EXPECT_TRUE(rec.values.empty());
-    EXPECT_EQ(0, rec.untypedCount);
+    EXPECT_EQ(0, untyped);
     p.setValue(7);
     EXPECT_EQ(7, p.getValue());
     EXPECT_EQ(std::vector<long>{7}, rec.values);
-    EXPECT_EQ(1, rec.untypedCount);
+    EXPECT_EQ(1, untyped);
 
     // The untyped signal alone, and nothing after disconnecting.
     Property<std::string> s("a");
@@ -85,7 +74,7 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnB
     // A store that adjusts the value, as a kernel would: the value read back is announced.
     StoredProperty<long> clamped;
     clamped.clamp = true;
-    Recorder<long> crec(clamped);
+    Emissions<long> crec(clamped);
     clamped.setValue(250);
     EXPECT_EQ(std::vector<long>{100}, crec.values);
     // 250 again is not equal to the 100 held, so it is stored and announced again.
@@ -96,7 +85,7 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnB
 TEST(PropertyEquality, NaNNeverEqualVectorOrderMattersSetsCompareByElements)
 {
     StoredProperty<double> d;
-    Recorder<double> drec(d);
+    Emissions<double> drec(d);
     const double nan = std::numeric_limits<double>::quiet_NaN();
     d.setValue(nan);
     d.setValue(nan);
@@ -106,7 +95,7 @@ TEST(PropertyEquality, NaNNeverEqualVectorOrderMattersSetsCompareByElements)
     EXPECT_EQ(3u, drec.values.size());
 
     Property<std::vector<int>> v(std::vector<int>{1, 2, 3});
-    Recorder<std::vector<int>> vrec(v);
+    Emissions<std::vector<int>> vrec(v);
     v.setValue({1, 2, 3});
     EXPECT_TRUE(vrec.values.empty());
     v.setValue({3, 2, 1});
@@ -115,7 +104,7 @@ TEST(PropertyEquality, NaNNeverEqualVectorOrderMattersSetsCompareByElements)
     EXPECT_EQ(2u, vrec.values.size());
 
     Property<std::set<int>> s(std::set<int>{1, 2});
-    Recorder<std::set<int>> srec(s);
+    Emissions<std::set<int>> srec(s);
     s.setValue({2, 1});
     EXPECT_TRUE(srec.values.empty());
     s.setValue({1, 2, 3});
@@ -127,7 +116,7 @@ TEST(PropertyProxy, ForwardsValuesAndValidatesWithBothValidators)
     auto target = boost::make_shared<Property<long>>(1L, boost::make_shared<NonNegativeValidator>());
     {
         PropertyProxy<long> proxy(target, boost::make_shared<testsupport::RefusingValidator<long>>(7, "seven"));
-        Recorder<long> rec(proxy);
+        Emissions<long> rec(proxy);
         proxy.setValue(2);
         EXPECT_EQ(2, target->getValue());
         EXPECT_EQ(std::vector<long>{2}, rec.values);
@@ -151,7 +140,7 @@ TEST(PropertyProxy, RetargetingAnnouncesOnlyAVisibleChange)
     auto b = boost::make_shared<Property<bool>>(true);
     auto c = boost::make_shared<Property<bool>>(false);
     PropertyProxy<bool> proxy(a);
-    Recorder<bool> rec(proxy);
+    Emissions<bool> rec(proxy);
 
     proxy.setProperty(b);
     EXPECT_TRUE(rec.values.empty());

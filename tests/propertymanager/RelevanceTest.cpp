@@ -1,8 +1,4 @@
-#include <boost/make_shared.hpp>
-
-#include "property/Property.h"
 #include "propertymanager/PropertyDependentRelevance.h"
-#include "propertymanager/PropertyPredicateDependentRelevance.h"
 #include "support/TestSupport.h"
 
 using namespace orrery;
@@ -39,21 +35,4 @@ TEST(PropertyDependentRelevance, FollowsTheValueAndFiresOncePerRealChangeEvenWhe
     EXPECT_EQ(1, relevantCount);
     // 0 -> 0 is no change; 1, 2 and 3 each fire, even when the answer stays false.
     EXPECT_EQ(3, changes.count);
-}
-
-TEST(PropertyPredicateDependentRelevance, AsksThePredicateAtCallTimeAndRelaysEveryChange)
-{
-    auto rows = boost::make_shared<Property<std::vector<int>>>();
-    PropertyPredicateDependentRelevance relevance(rows, [rows] { return rows->getValue().size() == 1; });
-    RelevanceChanges changes(relevance);
-    EXPECT_FALSE(relevance.isRelevant());
-    rows->setValue({4});
-    EXPECT_TRUE(relevance.isRelevant());
-    rows->setValue({4, 5});
-    EXPECT_FALSE(relevance.isRelevant());
-    rows->setValue({4, 5});
-    EXPECT_EQ(2, changes.count);
-
-    PropertyPredicateDependentRelevance empty(rows, boost::function<bool ()>());
-    EXPECT_THROW(empty.isRelevant(), boost::bad_function_call);
 }

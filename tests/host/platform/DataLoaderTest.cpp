@@ -39,7 +39,7 @@ public:
 
 } // namespace
 
-TEST_F(DataLoading, EachFormatBecomesItsZones)
+TEST_F(DataLoading, EachFormatBecomesItsZonesAndBadFilesAreRefusedWithTheLine)
 {
     ASSERT_TRUE(load("CSV table", "probe.csv", "\"x\", \"p\"\n0,1.5\n# comment\n\n2, -3e2\r\n"));
     EXPECT_EQ(1, data().numZones());
@@ -56,10 +56,8 @@ TEST_F(DataLoading, EachFormatBecomesItsZones)
     EXPECT_EQ(2, data().numZones());
     EXPECT_EQ("Left part", data().zoneName(1));
     EXPECT_EQ(1u, data().pointCount(2));
-}
 
-TEST_F(DataLoading, BadFilesAreRefusedWithTheLineAndChangeNothing)
-{
+    // Bad files are refused with the line and change nothing.
     EXPECT_FALSE(load("CSV table", "bad.csv", "a,b\n1,2\n3\n"));
     EXPECT_EQ("Line 3: 1 values where 2 were expected.", error);
     EXPECT_FALSE(load("Text table", "bad.txt", "a b\n1 two\n"));
@@ -70,7 +68,7 @@ TEST_F(DataLoading, BadFilesAreRefusedWithTheLineAndChangeNothing)
     error.clear();
     EXPECT_FALSE(DataLoaderRepository::getInstance().loaderNamed("CSV table")->load(
         folder.path().toStdString() + "/missing.csv", error));
-    EXPECT_EQ("Heated plate", data().title());
+    EXPECT_EQ("Two blocks", data().title());
 }
 
 TEST_F(DataLoading, RepositoryFindsLoadersByExtension)

@@ -95,17 +95,6 @@ TEST_F(KernelDataSet, GridRangeAndUnitsFollowTheAxisVariables)
     EXPECT_EQ((std::vector<double>{0, 0, 1, 1}), gridRange());
 }
 
-TEST_F(KernelDataSet, VariablesLeavingTheDataSetAreCleared)
-{
-    writeLong({"ThreeDAxis", "ZDetail", "VarNum"}, 5);
-    writeLong({"GlobalRGB", "RedChannelVar"}, 2);
-    Kernel::loadSampleDataSet("Small"); // X and Y only
-    EXPECT_EQ((std::vector<std::optional<long>>{0, 2, 1}),
-              (std::vector<std::optional<long>>{readLong({"ThreeDAxis", "ZDetail", "VarNum"}),
-                                                readLong({"GlobalRGB", "RedChannelVar"}),
-                                                readLong({"TwoDAxis", "XDetail", "VarNum"})}));
-}
-
 TEST(DataSetBuilding, ZonesNeedOneEqualRowPerVariable)
 {
     DataSet data("t", {"A", "B"});
@@ -171,7 +160,7 @@ TEST_F(KernelDataSet, VectorLayerAndRGBChannelsNeedEnabledVariables)
     EXPECT_FALSE(checkRGBChannelVars(3, 4, 5));
 }
 
-TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusable)
+TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusableAndLeavingVariablesAreCleared)
 {
     const StringList path{"GlobalScatter", "Var"};
     autoAssignScatterVariable();
@@ -185,4 +174,13 @@ TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusable)
     Kernel::setEnabledVars({1, 2, 4});
     autoAssignScatterVariable();
     EXPECT_EQ(4, readLong(path));
+
+    // Variables leaving the data set are cleared.
+    writeLong({"ThreeDAxis", "ZDetail", "VarNum"}, 5);
+    writeLong({"GlobalRGB", "RedChannelVar"}, 2);
+    Kernel::loadSampleDataSet("Small"); // X and Y only
+    EXPECT_EQ((std::vector<std::optional<long>>{0, 2, 1}),
+              (std::vector<std::optional<long>>{readLong({"ThreeDAxis", "ZDetail", "VarNum"}),
+                                                readLong({"GlobalRGB", "RedChannelVar"}),
+                                                readLong({"TwoDAxis", "XDetail", "VarNum"})}));
 }
