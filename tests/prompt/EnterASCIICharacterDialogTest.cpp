@@ -125,11 +125,7 @@ TEST_F(EnterASCIICharacterDialogTest, AnEmptyCharacterIsRefusedOnceAndThePreviou
     EXPECT_EQ(dialog->selectedChar(), "A");
 
     // Return on an empty field is refused the same way and does not close the dialog.
-    field(*dialog)->setFocus();
-    QTest::keyClick(field(*dialog), Qt::Key_Backspace);
-    QTest::keyClick(field(*dialog), Qt::Key_End);
-    QTest::keyClick(field(*dialog), Qt::Key_Backspace);
-    QTest::keyClick(field(*dialog), Qt::Key_Return);
+    user::typeAndReturn(*field(*dialog), "");
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(Kernel::capturedMessageBoxes().size(), 2u);
     EXPECT_EQ(dialog->selectedChar(), "A");

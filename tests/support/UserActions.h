@@ -64,10 +64,9 @@ inline void typeAndReturn(QWidget& field, const QString& text)
     QTest::keyClick(&field, Qt::Key_Return);
 }
 
-inline void clickRow(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+inline void clickRow(QAbstractItemView& view, int row)
 {
-    const QRect rect = view.visualRect(view.model()->index(row, 0));
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, rect.center());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(view.model()->index(row, 0)).center());
 }
 
 } // namespace user

@@ -13,38 +13,30 @@ using Events = StateChangeRecorder::Events;
 
 typedef SampleKernelTest StyleWrite; // five variables
 
-struct Refusal
-{
-    std::string name;
-    StringList path;
-    long value;
-    std::string text;
-};
-
-class StyleWriteRefused : public StyleWrite, public ::testing::WithParamInterface<Refusal>
-{
-};
-
 } // namespace
 
-TEST_P(StyleWriteRefused, LeavesTheOldValueAndExplainsWhy)
+TEST_F(StyleWrite, IntegerRulesRefuseLeavingTheOldValueAndExplainWhy)
 {
-    const Refusal& r = GetParam();
-    const auto before = readLong(r.path);
-    ASSERT_TRUE(before);
-    EXPECT_EQ(SetValue_InvalidValue, writeLong(r.path, r.value));
-    EXPECT_EQ(r.text, lastError());
-    EXPECT_EQ(before, readLong(r.path));
+    const struct
+    {
+        StringList path;
+        long value;
+        std::string text;
+    } refusals[] = {
+        {Red, 9, "Variable number 9 is out of range (1 to 5)."},
+        {{"TwoDAxis", "XDetail", "VarNum"}, -1, "Variable number -1 is out of range (1 to 5)."},
+        {Mode, 4, "RGB mode 4 is not valid (0 to 3)."},
+        {{"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}};
+    for (const auto& r : refusals)
+    {
+        SCOPED_TRACE(r.text);
+        const auto before = readLong(r.path);
+        ASSERT_TRUE(before);
+        EXPECT_EQ(SetValue_InvalidValue, writeLong(r.path, r.value));
+        EXPECT_EQ(r.text, lastError());
+        EXPECT_EQ(before, readLong(r.path));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    IntegerRules, StyleWriteRefused,
-    ::testing::Values(
-        Refusal{"ChannelVariable", {"GlobalRGB", "RedChannelVar"}, 9, "Variable number 9 is out of range (1 to 5)."},
-        Refusal{"AxisVariable", {"TwoDAxis", "XDetail", "VarNum"}, -1, "Variable number -1 is out of range (1 to 5)."},
-        Refusal{"RGBMode", {"GlobalRGB", "RGBMode"}, 4, "RGB mode 4 is not valid (0 to 3)."},
-        Refusal{"PlotType", {"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}),
-    [](const ::testing::TestParamInfo<Refusal>& info) { return info.param.name; });
 
 TEST_F(StyleWrite, RangeTextAndSizeRules)
 {

@@ -21,63 +21,59 @@ using orrery::toolbox::Set;
 using orrery::toolbox::StringList;
 using orrery::toolbox::StyleValue;
 
-inline void fillIDs(const StyleValue& value, RawArray<long>& ids)
+// Runs call on the argument list of a read (or a write) of style, prepared from its
+// identifier list: its own names, those the library adds, then -1.
+template <typename Style, typename Call>
+auto access(const Style& style, bool write, long first, const Set* set, AssignOp_e op, Call call)
 {
-    ids.append(value.macroIDs());
-    value.initMacroIDsfromStyleValueNames(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, ids);
+    RawArray<long> ids;
+    ids.append(style.macroIDs());
+    style.initMacroIDsfromStyleValueNames(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, ids);
     ids.push_back(-1);
+    ArgList args;
+    if (write)
+        style.setupSetValueArgList(ids, set, first, -1, op, args);
+    else
+        style.setupGetValueArgList(ids, first, -1, args);
+    return call(args);
 }
 
 inline SetValueReturnCode_e writeLong(const StringList& path, long value, long first = -1,
                                       const Set* set = nullptr, AssignOp_e op = AssignOp_Equals)
 {
     const CheckedStyleValue style{StyleValue(path)};
-    RawArray<long> ids;
-    fillIDs(style, ids);
-    ArgList args;
-    style.setupSetValueArgList(ids, set, first, -1, op, args);
-    args.appendArbParam("IValue", value);
-    args.appendDouble("DValue", static_cast<double>(value));
-    return style.styleSetLowLevel(args);
+    return access(style, true, first, set, op, [&](ArgList& args) {
+        args.appendArbParam("IValue", value);
+        args.appendDouble("DValue", static_cast<double>(value));
+        return style.styleSetLowLevel(args);
+    });
 }
 
 inline std::optional<long> readLong(const StringList& path, long first = -1)
 {
     const CheckedStyleValue style{StyleValue(path)};
-    RawArray<long> ids;
-    fillIDs(style, ids);
-    ArgList args;
-    style.setupGetValueArgList(ids, first, -1, args);
     long value = 0;
-    args.appendArbParamPtr("IValue", &value);
-    if (!StyleValue::returnCodeOk(style.styleGetLowLevel(args)))
-        return std::nullopt;
-    return value;
+    return access(style, false, first, nullptr, AssignOp_Equals, [&](ArgList& args) {
+        args.appendArbParamPtr("IValue", &value);
+        return StyleValue::returnCodeOk(style.styleGetLowLevel(args)) ? std::optional<long>(value) : std::nullopt;
+    });
 }
 
 template <typename T>
 SetValueReturnCode_e writeFinal(const StringList& path, const T& value, AssignOp_e op = AssignOp_Equals)
 {
     const StyleValue style(path);
-    RawArray<long> ids;
-    fillIDs(style, ids);
-    ArgList args;
-    style.setupSetValueArgList(ids, nullptr, -1, -1, op, args);
-    return style.setFinalValue(value, args);
+    return access(style, true, -1, nullptr, op, [&](ArgList& args) { return style.setFinalValue(value, args); });
 }
 
 template <typename T>
 std::optional<T> readFinal(const StringList& path)
 {
     const StyleValue style(path);
-    RawArray<long> ids;
-    fillIDs(style, ids);
-    ArgList args;
-    style.setupGetValueArgList(ids, -1, -1, args);
     T value{};
-    if (!StyleValue::returnCodeOk(style.getFinalValue(&value, args)))
-        return std::nullopt;
-    return value;
+    return access(style, false, -1, nullptr, AssignOp_Equals, [&](ArgList& args) {
+        return StyleValue::returnCodeOk(style.getFinalValue(&value, args)) ? std::optional<T>(value) : std::nullopt;
+    });
 }
 
 // The kernel's text for the last refused write, empty when there is none.
