@@ -120,7 +120,7 @@ TEST_F(KernelPropertyTest, FollowsOutsideChangesOnlyWhileListenedTo)
     EXPECT_FALSE(max.isFollowingKernel());
 }
 
-TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndMovingDiscardsUnsubmittedEdits)
+TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndAnnounceItsValue)
 {
     Kernel::setStyle(show, true, 2);
     KernelProperty<bool> prop{StyleValue(show)};
@@ -132,19 +132,9 @@ TEST_F(KernelPropertyTest, OffsetsSelectACollectionMemberAndMovingDiscardsUnsubm
     EXPECT_EQ(std::vector<bool>{true}, emitted.values);
     prop.setValue(false);
     EXPECT_FALSE(styleValue<bool>(show, 2));
-
-    Kernel::setStyle(show, true, 1);
-    KernelPropertyDeferred<bool> deferred{StyleValue(show)};
-    deferred.setOffsets(1, -1);
-    Emissions<bool> deferredEmitted(deferred);
-    deferred.setValue(false);
-    deferred.setOffsets(1, -1);
-    EXPECT_TRUE(deferred.getValue());
-    EXPECT_EQ((std::vector<bool>{false, true}), deferredEmitted.values);
-    EXPECT_TRUE(styleValue<bool>(show, 1));
 }
 
-TEST_F(KernelPropertyTest, DeferredEditsReachTheKernelOnlyOnApplyWhichReportsARefusal)
+TEST_F(KernelPropertyTest, DeferredEditsReachTheKernelOnlyOnApplyWhichReportsARefusalOrAreDiscardedByAMove)
 {
     KernelPropertyDeferred<double> max{StyleValue(rangeMax)};
     const double before = styleValue<double>(rangeMax);
@@ -165,4 +155,15 @@ TEST_F(KernelPropertyTest, DeferredEditsReachTheKernelOnlyOnApplyWhichReportsARe
     min.setValue(before + 3.0);
     EXPECT_THROW(min.apply(), InvalidPropertyValueException);
     EXPECT_EQ(oldMin, styleValue<double>(rangeMin));
+
+    // Moving to another member discards unsubmitted edits.
+    Kernel::setStyle(show, true, 1);
+    KernelPropertyDeferred<bool> deferred{StyleValue(show)};
+    deferred.setOffsets(1, -1);
+    Emissions<bool> deferredEmitted(deferred);
+    deferred.setValue(false);
+    deferred.setOffsets(1, -1);
+    EXPECT_TRUE(deferred.getValue());
+    EXPECT_EQ((std::vector<bool>{false, true}), deferredEmitted.values);
+    EXPECT_TRUE(styleValue<bool>(show, 1));
 }

@@ -16,8 +16,7 @@
 #include "propertybindings/BindingTestSupport.h"
 
 using namespace bindingtest;
-using orrery::ui::IntegralSpinBox;
-using orrery::ui::QScientificSpinBox;
+using namespace orrery::ui;
 
 namespace {
 
