@@ -29,3 +29,20 @@ TEST(RawArrayGrowth, InPlaceStorageIsUsedUntilFullTheSlotFollowsReallocationAndA
     EXPECT_EQ(10, a[3]);
     EXPECT_EQ(39, a[43]);
 }
+
+TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32)
+{
+    RawArray<long> a;
+    a.push_back(0);
+    EXPECT_EQ(32u, a.capacity());
+    for (long i = 1; i <= 64; ++i)
+        a.push_back(i);
+    EXPECT_EQ(96u, a.capacity());
+
+    RawArray<long> b;
+    b.enlargeCapacity(100);
+    for (long i = 0; i <= 100; ++i)
+        b.push_back(i);
+    EXPECT_EQ(150u, b.capacity());
+    EXPECT_EQ(100, b[100]);
+}
