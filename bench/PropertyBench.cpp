@@ -18,15 +18,16 @@ struct Base
 };
 struct Derived : Base
 {
-    long get() const override { return value; }
+    // Not inlined, so that the call really goes through the table.
+    __attribute__((noinline)) long get() const override { return value; }
     long value = 1;
 };
 
 void BaselineVirtualCall(benchmark::State& state)
 {
     Derived d;
-    const Base* b = &d;
-    benchmark::DoNotOptimize(b);
+    // Read through a volatile pointer so that the call cannot be devirtualized.
+    const Base* volatile b = &d;
     for (auto _ : state)
         benchmark::DoNotOptimize(b->get());
 }
