@@ -53,8 +53,9 @@ inline void expectWidgets(const QWidget& root, std::initializer_list<WidgetRow> 
         const QObject* object = root.objectName() == row.name ? &root : root.findChild<QObject*>(row.name);
         ASSERT_NE(object, nullptr);
         EXPECT_STREQ(object->metaObject()->className(), row.className);
-        if (row.text)
+        if (row.text) {
             EXPECT_EQ(textOf(*object), QString::fromUtf8(row.text));
+        }
     }
 }
 
