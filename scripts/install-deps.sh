@@ -3,10 +3,10 @@
 # Usage: scripts/install-deps.sh [5|6]...   (Qt major versions wanted; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
-pkgs=(cmake g++ make libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev)
+pkgs=(cmake g++ make libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core)
 for m in "${majors[@]}"; do
   case "$m" in
-    6) pkgs+=(qt6-base-dev qt6-base-dev-tools) ;;
+    6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins) ;;
     5) pkgs+=(qtbase5-dev qtbase5-dev-tools) ;;
     *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
   esac
