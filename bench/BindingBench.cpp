@@ -12,13 +12,13 @@
 #include <benchmark/benchmark.h>
 
 #include "platform/common/IdleQueue.h"
-#include "property/Property.h"
-#include "propertybindings/ComboBoxPropertyBinding.h"
-#include "propertybindings/ListViewPropertySynchronizer.h"
-#include "propertybindings/TextFieldPropertyBinding.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
-#include "propertybindings/models/ListModelAbstract.h"
-#include "propertybindings/models/QListModel.h"
+#include "core/property/Property.h"
+#include "core/propertybindings/ComboBoxPropertyBinding.h"
+#include "core/propertybindings/ListViewPropertySynchronizer.h"
+#include "core/propertybindings/TextFieldPropertyBinding.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/models/ListModelAbstract.h"
+#include "core/propertybindings/models/QListModel.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::dialogs::propertybindings;

@@ -17,11 +17,11 @@
 #include "platform/common/IdleQueue.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "prompt/AnchorAlignmentDialog.h"
-#include "prompt/ChooseLoaderDialog.h"
-#include "prompt/EnterASCIICharacterDialog.h"
-#include "prompt/EnterTextStringDialog.h"
-#include "prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 using namespace orrery::dialogs::prompt;
 

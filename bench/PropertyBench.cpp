@@ -4,8 +4,8 @@
 #include <boost/signals2/signal.hpp>
 
 #include "platform/kernel/KernelTestSupport.h"
-#include "property/Property.h"
-#include "propertymanager/KernelProperty.h"
+#include "core/property/Property.h"
+#include "core/propertymanager/KernelProperty.h"
 
 using namespace orrery;
 

@@ -1,4 +1,4 @@
-#include "DemoUser.h"
+#include "demo/DemoUser.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,16 +1,16 @@
-#include "DialogCatalog.h"
+#include "demo/DialogCatalog.h"
 
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
 #include <QSpinBox>
-#include "DemoUser.h"
+#include "demo/DemoUser.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "prompt/AnchorAlignmentDialog.h"
-#include "prompt/ChooseLoaderDialog.h"
-#include "prompt/EnterASCIICharacterDialog.h"
-#include "prompt/EnterTextStringDialog.h"
-#include "prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 using namespace orrery::dialogs::prompt;
 

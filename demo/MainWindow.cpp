@@ -1,4 +1,4 @@
-#include "MainWindow.h"
+#include "demo/MainWindow.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -9,11 +9,11 @@
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTimer>
-#include "StateView.h"
+#include "demo/StateView.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
 
 using orrery::dialogs::prompt::ChooseLoaderDialog;
 using orrery::sdk::DataLoaderRepository;

@@ -1,6 +1,6 @@
 #pragma once
 #include <QMainWindow>
-#include "DialogCatalog.h"
+#include "demo/DialogCatalog.h"
 
 class QPlainTextEdit;
 class StateView;

@@ -1,4 +1,4 @@
-#include "StateView.h"
+#include "demo/StateView.h"
 
 #include <QListWidget>
 #include <QSplitter>

@@ -1,4 +1,4 @@
-#include "Tour.h"
+#include "demo/Tour.h"
 
 #include <cstdio>
 #include <QCoreApplication>
@@ -6,10 +6,10 @@
 #include <QListView>
 #include <QPixmap>
 #include <QTimer>
-#include "DemoUser.h"
-#include "MainWindow.h"
+#include "demo/DemoUser.h"
+#include "demo/MainWindow.h"
 #include "platform/common/IdleQueue.h"
-#include "prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
 
 using orrery::dialogs::prompt::ChooseLoaderDialog;
 

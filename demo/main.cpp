@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include "MainWindow.h"
-#include "Tour.h"
+#include "demo/MainWindow.h"
+#include "demo/Tour.h"
 #include "platform/kernel/KernelTestSupport.h"
 
 int main(int argc, char** argv)

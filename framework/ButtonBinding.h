@@ -2,7 +2,7 @@
 #include <boost/function.hpp>
 #include <QMetaObject>
 
-#include "propertybindings/BindingInterface.h"
+#include "core/propertybindings/BindingInterface.h"
 
 class QAbstractButton;
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/qwidgetobservable/QComboBoxObservable.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
 
 class QFontComboBox;
 

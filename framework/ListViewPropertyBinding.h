@@ -4,8 +4,8 @@
 #include <QAbstractItemView>
 
 #include "platform/ui/WidgetUpdateDeferrerOnBusy.h"
-#include "propertybindings/ListViewPropertySynchronizer.h"
-#include "propertybindings/PropertyBindingInterface.h"
+#include "core/propertybindings/ListViewPropertySynchronizer.h"
+#include "core/propertybindings/PropertyBindingInterface.h"
 
 class QListView;
 

@@ -3,7 +3,7 @@
 #include <boost/shared_ptr.hpp>
 #include <boost/signals2/connection.hpp>
 #include "framework/DialogInterface.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 class QAction;
 

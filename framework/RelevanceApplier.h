@@ -6,8 +6,8 @@
 #include <QWidget>
 
 #include "platform/common/OnIdleActionPerformerSingleShot.h"
-#include "propertybindings/BindingInterface.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertybindings/BindingInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

@@ -2,7 +2,7 @@
 #include <vector>
 #include <boost/shared_ptr.hpp>
 #include "platform/common/SignalConnectionCollection.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery::sdk::ui::propertymanager {
 

@@ -2,8 +2,8 @@
 #include <QMetaObject>
 #include <QObject>
 
-#include "propertybindings/ScopedExitAction.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/ScopedExitAction.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

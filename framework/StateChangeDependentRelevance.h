@@ -1,7 +1,7 @@
 #pragma once
 #include <boost/function.hpp>
 #include <boost/signals2/connection.hpp>
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery::sdk::ui::propertymanager {
 

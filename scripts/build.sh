@@ -5,5 +5,6 @@ cd "$(dirname "$0")/.."
 major="${1:-6}"
 bash scripts/install-deps.sh "$major"
 dir="build/qt$major"
-cmake -S . -B "$dir" -DORRERY_QT_MAJOR="$major" -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+launcher=(); command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+cmake -S . -B "$dir" -DORRERY_QT_MAJOR="$major" -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}" >/dev/null
 cmake --build "$dir" -j "${ORRERY_JOBS:-2}"

@@ -3,5 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 major="${1:-6}"
+bash scripts/check-layers.sh
 bash scripts/build.sh "$major"
 QT_QPA_PLATFORM=offscreen ctest --test-dir "build/qt$major" -j 2 --output-on-failure
+bash scripts/check-package.sh "$major"

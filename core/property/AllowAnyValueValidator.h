@@ -1,5 +1,5 @@
 #pragma once
-#include "property/ValidatorInterface.h"
+#include "core/property/ValidatorInterface.h"
 
 namespace orrery {
 

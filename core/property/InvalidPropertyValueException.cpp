@@ -1,4 +1,4 @@
-#include "property/InvalidPropertyValueException.h"
+#include "core/property/InvalidPropertyValueException.h"
 
 namespace orrery {
 

@@ -4,9 +4,9 @@
 #include <boost/signals2/signal.hpp>
 
 #include "platform/common/PropertyItemInterface.h"
-#include "property/AllowAnyValueValidator.h"
-#include "property/InvalidPropertyValueException.h"
-#include "property/ValueEquality.h"
+#include "core/property/AllowAnyValueValidator.h"
+#include "core/property/InvalidPropertyValueException.h"
+#include "core/property/ValueEquality.h"
 
 namespace orrery {
 

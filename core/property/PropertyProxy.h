@@ -1,6 +1,6 @@
 #pragma once
 #include <boost/signals2/shared_connection_block.hpp>
-#include "property/PropertyAbstract.h"
+#include "core/property/PropertyAbstract.h"
 
 namespace orrery {
 

@@ -1,11 +1,11 @@
-#include "propertybindings/ComboBoxPropertyBinding.h"
+#include "core/propertybindings/ComboBoxPropertyBinding.h"
 
 #include <sstream>
 #include <QComboBox>
 #include <QListView>
 
 #include "platform/kernel/OrrTypes.h"
-#include "propertybindings/ScopedExitAction.h"
+#include "core/propertybindings/ScopedExitAction.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

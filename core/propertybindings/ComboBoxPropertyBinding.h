@@ -4,9 +4,9 @@
 
 #include "platform/qwidgetobservable/QComboBoxObservable.h"
 #include "platform/ui/WidgetUpdateDeferrerOnBusy.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
-#include "propertybindings/models/ListModelInterface.h"
-#include "propertybindings/models/QListModel.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/models/ListModelInterface.h"
+#include "core/propertybindings/models/QListModel.h"
 
 class QComboBox;
 

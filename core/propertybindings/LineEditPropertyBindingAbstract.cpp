@@ -1,4 +1,4 @@
-#include "propertybindings/LineEditPropertyBindingAbstract.h"
+#include "core/propertybindings/LineEditPropertyBindingAbstract.h"
 
 #include <string>
 #include <type_traits>
@@ -9,8 +9,8 @@
 #include "platform/common/InvalidArgumentException.h"
 #include "platform/kernel/OrrTypes.h"
 #include "platform/sdk/AppLock.h"
-#include "propertybindings/intern/StringConverter.h"
-#include "propertybindings/intern/StringMassager.h"
+#include "core/propertybindings/intern/StringConverter.h"
+#include "core/propertybindings/intern/StringMassager.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

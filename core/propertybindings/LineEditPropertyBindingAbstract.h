@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "platform/qwidgetobservable/QTextFieldObservable.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
 
 class QLineEdit;
 

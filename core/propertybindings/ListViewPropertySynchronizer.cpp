@@ -1,4 +1,4 @@
-#include "propertybindings/ListViewPropertySynchronizer.h"
+#include "core/propertybindings/ListViewPropertySynchronizer.h"
 
 #include <algorithm>
 #include <iterator>
@@ -8,9 +8,9 @@
 #include <QListView>
 #include <QSignalBlocker>
 
-#include "propertybindings/ScopedExitAction.h"
-#include "propertybindings/intern/PropertyWrite.h"
-#include "propertybindings/intern/RejectedValueMessage.h"
+#include "core/propertybindings/ScopedExitAction.h"
+#include "core/propertybindings/intern/PropertyWrite.h"
+#include "core/propertybindings/intern/RejectedValueMessage.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

@@ -6,12 +6,12 @@
 
 #include "platform/common/OnIdleActionPerformerSingleShot.h"
 #include "platform/common/SignalConnectionCollection.h"
-#include "property/PropertyAbstract.h"
-#include "propertybindings/BindingInterface.h"
-#include "propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
-#include "propertybindings/WidgetPropertySynchronizerInterface.h"
-#include "propertybindings/models/ListModelInterface.h"
-#include "propertybindings/models/QListModel.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertybindings/BindingInterface.h"
+#include "core/propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
+#include "core/propertybindings/WidgetPropertySynchronizerInterface.h"
+#include "core/propertybindings/models/ListModelInterface.h"
+#include "core/propertybindings/models/QListModel.h"
 
 class QItemSelection;
 class QListView;

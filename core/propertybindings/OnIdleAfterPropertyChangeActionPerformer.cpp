@@ -1,4 +1,4 @@
-#include "propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
+#include "core/propertybindings/OnIdleAfterPropertyChangeActionPerformer.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

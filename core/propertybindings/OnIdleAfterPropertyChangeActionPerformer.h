@@ -3,7 +3,7 @@
 
 #include "platform/common/OnIdleActionPerformerSingleShot.h"
 #include "platform/common/SignalConnectionCollection.h"
-#include "property/PropertyAbstract.h"
+#include "core/property/PropertyAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

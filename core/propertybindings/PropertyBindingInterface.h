@@ -1,5 +1,5 @@
 #pragma once
-#include "propertybindings/BindingInterface.h"
+#include "core/propertybindings/BindingInterface.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

@@ -2,7 +2,7 @@
 #include <memory>
 #include <QObject>
 
-#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

@@ -1,4 +1,4 @@
-#include "propertybindings/RadioButtonPropertyBinding.h"
+#include "core/propertybindings/RadioButtonPropertyBinding.h"
 
 #include <QAbstractButton>
 #include "platform/kernel/OrrTypes.h"

@@ -3,7 +3,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include "platform/qwidgetobservable/QButtonObservable.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
 
 class QAbstractButton;
 

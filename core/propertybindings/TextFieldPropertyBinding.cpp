@@ -1,4 +1,4 @@
-#include "propertybindings/TextFieldPropertyBinding.h"
+#include "core/propertybindings/TextFieldPropertyBinding.h"
 
 #include <boost/format.hpp>
 #include <QLineEdit>

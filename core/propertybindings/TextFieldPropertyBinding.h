@@ -1,6 +1,6 @@
 #pragma once
 #include <string>
-#include "propertybindings/LineEditPropertyBindingAbstract.h"
+#include "core/propertybindings/LineEditPropertyBindingAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

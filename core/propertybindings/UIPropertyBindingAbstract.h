@@ -4,11 +4,11 @@
 
 #include "platform/common/OnIdleActionPerformerSingleShot.h"
 #include "platform/common/SignalConnectionCollection.h"
-#include "property/PropertyAbstract.h"
-#include "propertybindings/PropertyBindingInterface.h"
-#include "propertybindings/intern/PropertyWrite.h"
-#include "propertybindings/intern/RejectedValueMessage.h"
-#include "propertymanager/UIStylePropertyAbstract.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertybindings/PropertyBindingInterface.h"
+#include "core/propertybindings/intern/PropertyWrite.h"
+#include "core/propertybindings/intern/RejectedValueMessage.h"
+#include "core/propertymanager/UIStylePropertyAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 

@@ -3,8 +3,8 @@
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 #include "platform/toolbox/StyleValue.h"
-#include "propertymanager/KernelPropertyAbstract.h"
-#include "propertymanager/KernelStyleAccess.h"
+#include "core/propertymanager/KernelPropertyAbstract.h"
+#include "core/propertymanager/KernelStyleAccess.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,6 +1,6 @@
 #pragma once
-#include "property/PropertyAbstract.h"
-#include "propertymanager/KernelPropertyHandle.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertymanager/KernelPropertyHandle.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,5 +1,5 @@
 #pragma once
-#include "propertymanager/KernelProperty.h"
+#include "core/propertymanager/KernelProperty.h"
 
 namespace orrery {
 namespace sdk {

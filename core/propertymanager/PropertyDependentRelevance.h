@@ -1,6 +1,6 @@
 #pragma once
 #include <set>
-#include "propertymanager/PropertyDependentRelevanceAbstract.h"
+#include "core/propertymanager/PropertyDependentRelevanceAbstract.h"
 
 namespace orrery {
 namespace sdk {

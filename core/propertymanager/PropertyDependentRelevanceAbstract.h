@@ -1,7 +1,7 @@
 #pragma once
 #include <boost/shared_ptr.hpp>
-#include "property/PropertyAbstract.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace sdk {

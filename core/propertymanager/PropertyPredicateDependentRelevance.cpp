@@ -1,4 +1,4 @@
-#include "propertymanager/PropertyPredicateDependentRelevance.h"
+#include "core/propertymanager/PropertyPredicateDependentRelevance.h"
 
 namespace orrery {
 namespace sdk {

@@ -3,7 +3,7 @@
 #include <boost/shared_ptr.hpp>
 #include "platform/common/PropertyItemInterface.h"
 #include "platform/common/SignalConnectionCollection.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace sdk {

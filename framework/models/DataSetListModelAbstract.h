@@ -3,7 +3,7 @@
 #include <vector>
 #include <boost/signals2/connection.hpp>
 
-#include "propertybindings/models/ListModelAbstract.h"
+#include "core/propertybindings/models/ListModelAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 #include <vector>
-#include "propertybindings/models/ListModelAbstract.h"
+#include "core/propertybindings/models/ListModelAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

@@ -1,4 +1,4 @@
-#include "prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
 
 #include <iterator>
 #include <vector>

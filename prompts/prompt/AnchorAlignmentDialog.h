@@ -2,7 +2,7 @@
 #include <memory>
 #include "framework/QtDialogAbstract.h"
 #include "platform/kernel/OrrTypes.h"
-#include "prompt/SingleInstanceDialog.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
 
 class Ui_AnchorAlignment;
 

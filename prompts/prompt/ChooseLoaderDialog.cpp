@@ -1,4 +1,4 @@
-#include "prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
 
 #include <boost/ptr_container/ptr_vector.hpp>
 #include <QCoreApplication>
@@ -8,7 +8,7 @@
 #include "framework/ListViewPropertyBinding.h"
 #include "framework/RelevanceApplier.h"
 #include "framework/models/StringListWithHeadersModel.h"
-#include "prompt/ChooseLoaderPropertiesManager.h"
+#include "prompts/prompt/ChooseLoaderPropertiesManager.h"
 #include "ui_ChooseLoader.h"
 
 namespace orrery {

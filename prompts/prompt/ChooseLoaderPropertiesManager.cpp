@@ -1,12 +1,12 @@
-#include "prompt/ChooseLoaderPropertiesManager.h"
+#include "prompts/prompt/ChooseLoaderPropertiesManager.h"
 
 #include <boost/make_shared.hpp>
 #include <QCoreApplication>
 #include "framework/models/StringListWithHeadersModel.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/settings/ApplicationSettings.h"
-#include "property/Property.h"
-#include "propertymanager/PropertyPredicateDependentRelevance.h"
+#include "core/property/Property.h"
+#include "core/propertymanager/PropertyPredicateDependentRelevance.h"
 
 namespace orrery {
 namespace dialogs {

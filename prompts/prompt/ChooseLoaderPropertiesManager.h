@@ -5,8 +5,8 @@
 #include <vector>
 #include <boost/shared_ptr.hpp>
 #include "platform/loaders/DataLoaderInterface.h"
-#include "property/PropertyAbstract.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,10 +1,10 @@
-#include "prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
 
 #include <boost/ptr_container/ptr_vector.hpp>
 #include "framework/LaunchHelpAction.h"
-#include "prompt/EnterASCIICharacterPropertiesManager.h"
-#include "propertybindings/RadioButtonPropertyBinding.h"
-#include "propertybindings/TextFieldPropertyBinding.h"
+#include "prompts/prompt/EnterASCIICharacterPropertiesManager.h"
+#include "core/propertybindings/RadioButtonPropertyBinding.h"
+#include "core/propertybindings/TextFieldPropertyBinding.h"
 #include "ui_EnterASCIICharacter.h"
 
 namespace orrery {

@@ -3,7 +3,7 @@
 #include <string>
 #include "framework/QtDialogAbstract.h"
 #include "platform/kernel/OrrTypes.h"
-#include "prompt/SingleInstanceDialog.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

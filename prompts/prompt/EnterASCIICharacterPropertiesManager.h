@@ -3,8 +3,8 @@
 #include <string>
 #include <boost/shared_ptr.hpp>
 #include "platform/kernel/OrrTypes.h"
-#include "property/PropertyAbstract.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace dialogs {

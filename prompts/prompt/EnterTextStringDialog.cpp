@@ -1,4 +1,4 @@
-#include "prompt/EnterTextStringDialog.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>

@@ -1,10 +1,10 @@
-#include "prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 #include <algorithm>
 #include <boost/ptr_container/ptr_vector.hpp>
 #include "framework/LaunchHelpAction.h"
 #include "framework/SpinBoxLgIndexPropertyBinding.h"
-#include "prompt/EnterThreeIntValuesPropertiesManager.h"
+#include "prompts/prompt/EnterThreeIntValuesPropertiesManager.h"
 #include "ui_EnterThreeIntValues.h"
 
 namespace orrery {

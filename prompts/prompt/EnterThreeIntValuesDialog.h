@@ -2,7 +2,7 @@
 #include <memory>
 #include <string>
 #include "framework/QtDialogAbstract.h"
-#include "prompt/SingleInstanceDialog.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

@@ -1,9 +1,9 @@
-#include "prompt/EnterThreeIntValuesPropertiesManager.h"
+#include "prompts/prompt/EnterThreeIntValuesPropertiesManager.h"
 
 #include <boost/make_shared.hpp>
 #include "framework/DataSetExistsRelevance.h"
-#include "property/Property.h"
-#include "prompt/SharedRelevance.h"
+#include "core/property/Property.h"
+#include "prompts/prompt/SharedRelevance.h"
 
 namespace orrery {
 namespace dialogs {

@@ -1,8 +1,8 @@
 #pragma once
 #include <memory>
 #include <boost/shared_ptr.hpp>
-#include "property/PropertyAbstract.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/property/PropertyAbstract.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace dialogs {

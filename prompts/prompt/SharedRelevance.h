@@ -1,7 +1,7 @@
 #pragma once
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
-#include "propertymanager/RelevanceInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace orrery {
 namespace dialogs {

@@ -6,7 +6,7 @@
 #include "framework/UIKernelStylePropertiesAbstract.h"
 #include "platform/toolbox/StringList.h"
 #include "platform/toolbox/StyleValue.h"
-#include "propertymanager/KernelPropertyDeferred.h"
+#include "core/propertymanager/KernelPropertyDeferred.h"
 
 namespace orrery {
 namespace sdk {

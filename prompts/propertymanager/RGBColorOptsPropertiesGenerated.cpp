@@ -1,4 +1,4 @@
-#include "propertymanager/RGBColorOptsPropertiesGenerated.h"
+#include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,5 +1,5 @@
 #pragma once
-#include "propertymanager/GeneratedStylePropertySet.h"
+#include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "propertymanager/ScatterSizeFontPropertiesGenerated.h"
+#include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
 
 namespace orrery {
 namespace sdk {

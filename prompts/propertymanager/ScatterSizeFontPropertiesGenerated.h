@@ -1,6 +1,6 @@
 #pragma once
 #include <string>
-#include "propertymanager/GeneratedStylePropertySet.h"
+#include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
 namespace orrery {
 namespace sdk {

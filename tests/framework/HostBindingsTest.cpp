@@ -13,7 +13,7 @@
 #include "platform/ui/IntegralSpinBox.h"
 #include "platform/ui/QScientificSpinBox.h"
 #include "platform/ui/WidgetUpdateDeferrerOnBusy.h"
-#include "propertybindings/BindingTestSupport.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
 
 using namespace bindingtest;
 using namespace orrery::ui;

@@ -2,7 +2,7 @@
 #include "framework/models/EnabledVariablesListModel.h"
 #include "framework/models/ZoneListModel.h"
 #include "platform/sdk/DataSetQueries.h"
-#include "propertybindings/BindingTestSupport.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
 
 using namespace bindingtest;
 using namespace orrery::sdk::ui::dialogs::propertybindings::models;

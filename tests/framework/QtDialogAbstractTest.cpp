@@ -4,9 +4,9 @@
 #include "framework/HelpViewer.h"
 #include "framework/LaunchHelpAction.h"
 #include "framework/QtDialogAbstract.h"
-#include "propertymanager/PropertyDependentRelevance.h"
-#include "support/TestSupport.h"
-#include "support/UserActions.h"
+#include "core/propertymanager/PropertyDependentRelevance.h"
+#include "tests/support/TestSupport.h"
+#include "tests/support/UserActions.h"
 
 using orrery::Property;
 using orrery::dialogs::common::HelpViewer;

@@ -7,8 +7,8 @@
 #include "framework/LinePlotTypeDependentRelevance.h"
 #include "framework/RelevanceApplier.h"
 #include "framework/RelevanceExpression.h"
-#include "propertybindings/BindingTestSupport.h"
-#include "propertymanager/PropertyDependentRelevance.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertymanager/PropertyDependentRelevance.h"
 
 using namespace bindingtest;
 using namespace orrery::sdk::ui::propertymanager;

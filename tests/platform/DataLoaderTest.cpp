@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "support/TestSupport.h"
+#include "tests/support/TestSupport.h"
 
 using namespace orrery::sdk;
 using orrery::kernel::Kernel;

@@ -1,5 +1,5 @@
 // The stand-in kernel's data set and the queries the host makes on it.
-#include "StyleCalls.h"
+#include "tests/platform/StyleCalls.h"
 #include "platform/kernel/DataSet.h"
 #include "platform/sdk/DataSetQueries.h"
 

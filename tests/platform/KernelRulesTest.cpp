@@ -1,6 +1,6 @@
 // The stand-in kernel's rules: refused writes and their texts, collection
 // members, undo and redo, and the state changes it announces.
-#include "StyleCalls.h"
+#include "tests/platform/StyleCalls.h"
 
 using namespace stylecalls;
 

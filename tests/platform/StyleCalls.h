@@ -7,7 +7,7 @@
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/CheckedStyleValue.h"
 #include "platform/toolbox/Set.h"
-#include "support/TestSupport.h"
+#include "tests/support/TestSupport.h"
 
 // Style reads and writes made the way the library makes them: identifier list,
 // prepared argument list, low-level or final call.

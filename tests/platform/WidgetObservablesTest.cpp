@@ -6,7 +6,7 @@
 
 #include "platform/qwidgetobservable/QTextFieldObservable.h"
 #include "platform/ui/QScientificSpinBox.h"
-#include "support/UserActions.h"
+#include "tests/support/UserActions.h"
 
 using namespace qwidgetobservable;
 

@@ -10,8 +10,8 @@
 #include "platform/common/IdleQueue.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/sdk/StateChangeEventObservable.h"
-#include "property/Property.h"
-#include "propertymanager/RelevanceInterface.h"
+#include "core/property/Property.h"
+#include "core/propertymanager/RelevanceInterface.h"
 
 namespace testsupport {
 

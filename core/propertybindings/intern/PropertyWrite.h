@@ -1,5 +1,5 @@
 #pragma once
-#include "property/PropertyAbstract.h"
+#include "core/property/PropertyAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 

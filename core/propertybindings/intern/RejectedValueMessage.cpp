@@ -1,4 +1,4 @@
-#include "propertybindings/intern/RejectedValueMessage.h"
+#include "core/propertybindings/intern/RejectedValueMessage.h"
 
 #include <cstring>
 #include "platform/kernel/OrrUtil.h"

@@ -1,5 +1,5 @@
 #pragma once
-#include "property/InvalidPropertyValueException.h"
+#include "core/property/InvalidPropertyValueException.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 

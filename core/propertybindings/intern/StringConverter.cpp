@@ -1,4 +1,4 @@
-#include "propertybindings/intern/StringConverter.h"
+#include "core/propertybindings/intern/StringConverter.h"
 
 #include <locale>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "propertybindings/intern/StringMassager.h"
+#include "core/propertybindings/intern/StringMassager.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 

@@ -2,7 +2,7 @@
 #include <type_traits>
 #include <QString>
 
-#include "property/PropertyAbstract.h"
+#include "core/property/PropertyAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 

@@ -1,5 +1,5 @@
 #pragma once
-#include "propertybindings/models/ListModelInterface.h"
+#include "core/propertybindings/models/ListModelInterface.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

@@ -1,4 +1,4 @@
-#include "propertybindings/models/OptionTables.h"
+#include "core/propertybindings/models/OptionTables.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

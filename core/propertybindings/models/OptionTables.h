@@ -1,5 +1,5 @@
 #pragma once
-#include "propertybindings/models/OptionRow.h"
+#include "core/propertybindings/models/OptionRow.h"
 
 // The option rows offered for the host's enumerated style settings, in the
 // order a combo box shows them (not sorted by value). Values of host

@@ -1,7 +1,7 @@
 #pragma once
 #include <cstddef>
-#include "propertybindings/models/ListModelAbstract.h"
-#include "propertybindings/models/OptionRow.h"
+#include "core/propertybindings/models/ListModelAbstract.h"
+#include "core/propertybindings/models/OptionRow.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

@@ -3,7 +3,7 @@
 #include <QAbstractListModel>
 
 #include "platform/common/SignalConnectionCollection.h"
-#include "propertybindings/models/ListModelInterface.h"
+#include "core/propertybindings/models/ListModelInterface.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 

@@ -1,8 +1,8 @@
 #include <limits>
 #include <set>
 
-#include "property/PropertyProxy.h"
-#include "support/TestSupport.h"
+#include "core/property/PropertyProxy.h"
+#include "tests/support/TestSupport.h"
 
 using namespace orrery;
 using testsupport::Emissions;

@@ -1,10 +1,10 @@
 // The property side shared by every binding: when the widget is refreshed,
 // how often, and what a destroyed binding leaves behind.
 #include "platform/sdk/AppLock.h"
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/QObjectPropertyBinding.h"
-#include "propertybindings/UIPropertyBindingAbstract.h"
-#include "propertymanager/PropertyDependentRelevance.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/QObjectPropertyBinding.h"
+#include "core/propertybindings/UIPropertyBindingAbstract.h"
+#include "core/propertymanager/PropertyDependentRelevance.h"
 
 using namespace bindingtest;
 using orrery::sdk::ui::propertymanager::PropertyDependentRelevance;

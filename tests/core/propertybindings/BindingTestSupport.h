@@ -3,9 +3,9 @@
 // boxes are recorded, a shown window to put widgets in, and a list model that
 // tests can change.
 #include <QWidget>
-#include "propertybindings/models/ListModelAbstract.h"
-#include "support/TestSupport.h"
-#include "support/UserActions.h"
+#include "core/propertybindings/models/ListModelAbstract.h"
+#include "tests/support/TestSupport.h"
+#include "tests/support/UserActions.h"
 
 namespace bindingtest {
 

@@ -1,9 +1,9 @@
 // A combo box and its property, driven through the keyboard as a user would.
 #include <QComboBox>
 
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/ComboBoxPropertyBinding.h"
-#include "propertybindings/models/QListModel.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/ComboBoxPropertyBinding.h"
+#include "core/propertybindings/models/QListModel.h"
 
 using namespace bindingtest;
 

@@ -4,8 +4,8 @@
 #include <QListView>
 #include <QSignalSpy>
 
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/ListViewPropertySynchronizer.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/ListViewPropertySynchronizer.h"
 
 using namespace bindingtest;
 

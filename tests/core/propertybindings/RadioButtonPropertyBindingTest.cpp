@@ -1,6 +1,6 @@
 // A group of radio buttons editing one property, clicked as a user would.
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/RadioButtonPropertyBinding.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/RadioButtonPropertyBinding.h"
 
 using namespace bindingtest;
 

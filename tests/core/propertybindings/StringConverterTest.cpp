@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "platform/kernel/OrrTypes.h"
-#include "property/Property.h"
-#include "propertybindings/intern/StringConverter.h"
-#include "propertybindings/intern/StringMassager.h"
+#include "core/property/Property.h"
+#include "core/propertybindings/intern/StringConverter.h"
+#include "core/propertybindings/intern/StringMassager.h"
 
 using orrery::InvalidArgumentException;
 using orrery::sdk::ui::dialogs::propertybindings::intern::StringConverter;

@@ -2,8 +2,8 @@
 #include <QDoubleValidator>
 #include <QLineEdit>
 
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/TextFieldPropertyBinding.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/TextFieldPropertyBinding.h"
 
 using namespace bindingtest;
 

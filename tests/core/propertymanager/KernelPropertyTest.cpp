@@ -1,6 +1,6 @@
 #include "platform/kernel/OrrUtil.h"
-#include "propertymanager/KernelPropertyDeferred.h"
-#include "support/TestSupport.h"
+#include "core/propertymanager/KernelPropertyDeferred.h"
+#include "tests/support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::styleproperties;

@@ -1,5 +1,5 @@
-#include "propertymanager/PropertyDependentRelevance.h"
-#include "support/TestSupport.h"
+#include "core/propertymanager/PropertyDependentRelevance.h"
+#include "tests/support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;

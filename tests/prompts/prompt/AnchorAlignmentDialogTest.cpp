@@ -1,6 +1,6 @@
 #include <QFrame>
-#include "DialogTestSupport.h"
-#include "prompt/AnchorAlignmentDialog.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
 
 using namespace dialogtest;
 

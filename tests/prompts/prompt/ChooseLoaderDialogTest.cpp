@@ -1,8 +1,8 @@
 #include <QListView>
-#include "DialogTestSupport.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/settings/ApplicationSettings.h"
-#include "prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
 
 using namespace dialogtest;
 using orrery::sdk::ApplicationSettings;

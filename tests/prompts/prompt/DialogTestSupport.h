@@ -14,8 +14,8 @@
 #include <algorithm>
 #include <initializer_list>
 #include <vector>
-#include "support/TestSupport.h"
-#include "support/UserActions.h"
+#include "tests/support/TestSupport.h"
+#include "tests/support/UserActions.h"
 
 namespace contract {
 

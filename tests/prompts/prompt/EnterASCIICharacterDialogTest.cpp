@@ -1,5 +1,5 @@
-#include "DialogTestSupport.h"
-#include "prompt/EnterASCIICharacterDialog.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
 
 using namespace dialogtest;
 

@@ -1,5 +1,5 @@
-#include "DialogTestSupport.h"
-#include "prompt/EnterTextStringDialog.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
 
 using namespace dialogtest;
 

@@ -1,6 +1,6 @@
 #include <QSpinBox>
-#include "DialogTestSupport.h"
-#include "prompt/EnterThreeIntValuesDialog.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 using namespace dialogtest;
 

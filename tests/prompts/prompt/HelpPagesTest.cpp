@@ -1,10 +1,10 @@
 #include <QFile>
-#include "DialogTestSupport.h"
+#include "tests/prompts/prompt/DialogTestSupport.h"
 #include "framework/HelpViewer.h"
 #include "framework/LaunchHelpAction.h"
-#include "prompt/AnchorAlignmentDialog.h"
-#include "prompt/ChooseLoaderDialog.h"
-#include "prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
 
 using orrery::dialogs::common::HelpViewer;
 using orrery::dialogs::common::LaunchHelpAction;

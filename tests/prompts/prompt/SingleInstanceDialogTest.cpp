@@ -1,7 +1,7 @@
 #include <stdexcept>
 #include <QWidget>
 #include <gtest/gtest.h>
-#include "prompt/SingleInstanceDialog.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
 
 using orrery::dialogs::prompt::SingleInstanceDialog;
 

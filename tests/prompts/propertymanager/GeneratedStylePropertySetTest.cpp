@@ -1,7 +1,7 @@
-#include "property/Property.h"
-#include "propertymanager/RGBColorOptsPropertiesGenerated.h"
-#include "propertymanager/ScatterSizeFontPropertiesGenerated.h"
-#include "support/TestSupport.h"
+#include "core/property/Property.h"
+#include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
+#include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
+#include "tests/support/TestSupport.h"
 
 using namespace orrery;
 using namespace orrery::sdk::ui::propertymanager;

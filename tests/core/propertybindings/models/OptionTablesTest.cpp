@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/kernel/OrrTypes.h"
-#include "propertybindings/models/OptionTables.h"
-#include "propertybindings/models/PremappedListModel.h"
+#include "core/propertybindings/models/OptionTables.h"
+#include "core/propertybindings/models/PremappedListModel.h"
 
 using namespace orrery::sdk::ui::dialogs::propertybindings::models;
 

@@ -1,8 +1,8 @@
 // A list model as Qt views see it: roles, editable rows, and relayed changes.
 #include <QSignalSpy>
 
-#include "propertybindings/BindingTestSupport.h"
-#include "propertybindings/models/QListModel.h"
+#include "tests/core/propertybindings/BindingTestSupport.h"
+#include "core/propertybindings/models/QListModel.h"
 
 using namespace bindingtest;
 using orrery::sdk::ui::dialogs::propertybindings::models::ListModelAbstract;
