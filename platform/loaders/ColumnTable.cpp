@@ -1,9 +1,31 @@
 #include "platform/loaders/ColumnTable.h"
+#include <cstdint>
 #include <limits>
 #include "platform/loaders/NumberText.h"
+#ifdef __linux__
+#include <sys/mman.h>
+#endif
 
 namespace orrery {
 namespace sdk {
+
+namespace {
+
+// Reserves room for the rows, on large pages where the system offers them: a
+// large column then fills without a page fault every 4 KiB.
+void reserveColumn(std::vector<double>& values, size_t rows)
+{
+    values.reserve(rows);
+#if defined(__linux__) && defined(MADV_HUGEPAGE)
+    constexpr std::uintptr_t LargePage = 2 << 20;
+    const auto begin = (reinterpret_cast<std::uintptr_t>(values.data()) + LargePage - 1) & ~(LargePage - 1);
+    const auto end = reinterpret_cast<std::uintptr_t>(values.data() + values.capacity()) & ~(LargePage - 1);
+    if (end > begin)
+        ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE); // only advice: failure is harmless
+#endif
+}
+
+} // namespace
 
 ColumnTable::ColumnTable(std::vector<Kind> kinds, Options options) : m_initialKinds(std::move(kinds)), m_options(options)
 {
@@ -13,7 +35,7 @@ void ColumnTable::reserve(size_t rows)
 {
     m_reserved = rows;
     for (Column& column : m_columns)
-        column.values.reserve(rows);
+        reserveColumn(column.values, rows);
 }
 
 bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
@@ -27,7 +49,7 @@ bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
         Column& added = m_columns.back();
         if (m_columns.size() <= m_initialKinds.size())
             added.kind = m_initialKinds[m_columns.size() - 1];
-        added.values.reserve(m_reserved);
+        reserveColumn(added.values, m_reserved);
         index = m_columns.size() - 1;
     }
     Column& column = m_columns[index];

@@ -144,8 +144,48 @@ bool FieldTokenizer::scanQuoted()
     }
 }
 
+bool FieldTokenizer::nextPlain(Field& field)
+{
+    // An unquoted field that ends inside the buffer is handed out where it lies.
+    const char* begin = m_buffer.get() + m_pos;
+    const char* end = m_buffer.get() + m_end;
+    const unsigned char first = static_cast<unsigned char>(*begin);
+    if (!m_delimiter || first == '"' || first == ' ' || first == '\t'
+        || (m_recordStart && (first == '#' || first == '\n' || first == '\r')))
+        return false;
+    const char* p = begin;
+    while (p != end && !m_unquotedStops[static_cast<unsigned char>(*p)])
+        ++p;
+    if (p == end || static_cast<size_t>(p - begin) > MaxFieldLength)
+        return false;
+    const char* next = p + 1;
+    if (*p == '\r') {
+        if (next == end || *next != '\n')
+            return false;
+        ++next;
+    } else if (*p != '\n' && *p != m_delimiter) {
+        return false;
+    }
+    const char* last = p;
+    while (last != begin && (last[-1] == ' ' || last[-1] == '\t'))
+        --last;
+    if (m_recordStart)
+        m_column = 0;
+    field.text = std::string_view(begin, static_cast<size_t>(last - begin));
+    field.quoted = false;
+    field.line = m_line;
+    field.column = ++m_column;
+    field.lastInRecord = *p != m_delimiter;
+    m_recordStart = field.lastInRecord;
+    m_line += field.lastInRecord ? 1 : 0;
+    m_pos = static_cast<size_t>(next - m_buffer.get());
+    return true;
+}
+
 FieldTokenizer::Step FieldTokenizer::next(Field& field)
 {
+    if (m_started && m_pos < m_end && nextPlain(field))
+        return Step::Field;
     m_cell.clear();
     if (!m_started) {
         m_started = true;

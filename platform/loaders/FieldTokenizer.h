@@ -44,6 +44,7 @@ public:
 
 private:
     FieldTokenizer(FileBlockReader* file, size_t capacity, char delimiter);
+    bool nextPlain(Field& field);
     int peek();
     bool refill();
     void take() { ++m_pos; }

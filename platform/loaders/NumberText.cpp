@@ -1,5 +1,6 @@
 #include "platform/loaders/NumberText.h"
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include "platform/loaders/TextExcerpt.h"
 
@@ -29,6 +30,18 @@ bool namesNonFinite(std::string_view unsignedText)
 
 NumberText::Verdict NumberText::parse(std::string_view text, bool decimalComma, double& value)
 {
+    if (!decimalComma && !text.empty()) {
+        // The common case at full speed; anything unusual is looked at closely below.
+        const bool plus = text[0] == '+';
+        const char* begin = text.data() + (plus ? 1 : 0);
+        const char* end = text.data() + text.size();
+        double parsed = 0;
+        const std::from_chars_result result = std::from_chars(begin, end, parsed, std::chars_format::general);
+        if (result.ec == std::errc() && result.ptr == end && !(plus && *begin == '-') && std::isfinite(parsed)) {
+            value = parsed;
+            return Verdict::Number;
+        }
+    }
     std::string_view digits = text;
     if (!digits.empty() && (digits[0] == '+' || digits[0] == '-'))
         digits.remove_prefix(1);
@@ -69,6 +82,8 @@ NumberText::Verdict NumberText::parse(std::string_view text, bool decimalComma, 
 
 bool NumberText::isMissingToken(std::string_view text)
 {
+    if (text.size() > 3)
+        return false;
     return text.empty() || text == "-" || equalsIgnoringCase(text, "na") || equalsIgnoringCase(text, "n/a")
            || equalsIgnoringCase(text, "nan");
 }
