@@ -1,5 +1,5 @@
 // Loading a generated CSV file beside a plain read of the same file into
-// memory, with the peak of allocated memory during the load as a multiple of
+// memory and beside a naive line-splitting loader, with the peak of allocated memory during the load as a multiple of
 // the data held as doubles. Sizes in MB come from ORRERY_LOADER_BENCH_MB
 // (comma-separated, default "1,10"); for example
 //   ORRERY_LOADER_BENCH_MB=1,10,100,1000 build/qt6/bench/LoaderBench
@@ -123,6 +123,30 @@ void BaselinePlainRead(benchmark::State& state)
     state.SetBytesProcessed(state.iterations() * size);
 }
 
+// Baseline: what a first loader does, line by line, each line split into
+// strings and each number read with std::stod.
+void BaselineLineSplitStod(benchmark::State& state)
+{
+    std::size_t rows = 0;
+    const std::string path = csvFile(state.range(0), rows);
+    for (auto _ : state) {
+        std::ifstream in(path);
+        std::vector<std::vector<double>> columns(Columns);
+        std::string line;
+        std::getline(in, line);
+        while (std::getline(in, line)) {
+            std::vector<std::string> fields;
+            std::stringstream split(line);
+            for (std::string field; std::getline(split, field, ',');)
+                fields.push_back(field);
+            for (std::size_t c = 0; c < fields.size() && c < columns.size(); ++c)
+                columns[c].push_back(std::stod(fields[c]));
+        }
+        benchmark::DoNotOptimize(columns.data());
+    }
+    state.SetBytesProcessed(state.iterations() * fileSize(path));
+}
+
 void CsvLoad(benchmark::State& state)
 {
     std::size_t rows = 0;
@@ -154,6 +178,10 @@ void registerAll()
 {
     for (long mb : sizes()) {
         benchmark::RegisterBenchmark("BaselinePlainRead", BaselinePlainRead)->Arg(mb)->Unit(benchmark::kMillisecond);
+        if (mb <= 100) // takes minutes beyond
+            benchmark::RegisterBenchmark("BaselineLineSplitStod", BaselineLineSplitStod)
+                ->Arg(mb)
+                ->Unit(benchmark::kMillisecond);
         benchmark::RegisterBenchmark("CsvLoad", CsvLoad)->Arg(mb)->Unit(benchmark::kMillisecond);
     }
 }

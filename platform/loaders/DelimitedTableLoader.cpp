@@ -7,7 +7,6 @@
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
 #include "platform/loaders/TableLayout.h"
-#include "platform/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace sdk {
@@ -50,9 +49,9 @@ bool DelimitedTableLoader::load(const std::string& path, std::string& error)
     try {
         return loadTable(path, error);
     } catch (const std::bad_alloc&) {
-        error = "Not enough memory to load " + TextExcerpt::printable(path) + ".";
+        error = "Not enough memory to load " + FileBlockReader::displayName(path) + ".";
     } catch (const std::exception& e) {
-        error = "Cannot load " + TextExcerpt::printable(path) + ": " + e.what();
+        error = "Cannot load " + FileBlockReader::displayName(path) + ": " + e.what();
     }
     return false;
 }

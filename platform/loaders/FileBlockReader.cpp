@@ -22,9 +22,14 @@ std::string FileBlockReader::failure(const char* what, int code) const
     return std::string(what) + " " + m_displayName + ": " + std::strerror(code) + ".";
 }
 
+std::string FileBlockReader::displayName(const std::string& path)
+{
+    return TextExcerpt::printable(path.substr(path.find_last_of('/') + 1));
+}
+
 bool FileBlockReader::open(const std::string& path, std::string& error)
 {
-    m_displayName = TextExcerpt::printable(path.substr(path.find_last_of('/') + 1));
+    m_displayName = displayName(path);
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) {
         error = failure("Cannot open", errno);

@@ -29,6 +29,7 @@ public:
 
     // The file's name as messages show it, without its folder.
     const std::string& displayName() const { return m_displayName; }
+    static std::string displayName(const std::string& path);
 
     static constexpr size_t BlockSize = 1 << 20;
 

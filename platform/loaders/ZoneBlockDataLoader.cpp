@@ -6,7 +6,6 @@
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
-#include "platform/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace sdk {
@@ -39,9 +38,9 @@ bool ZoneBlockDataLoader::load(const std::string& path, std::string& error)
     try {
         return loadZones(path, error);
     } catch (const std::bad_alloc&) {
-        error = "Not enough memory to load " + TextExcerpt::printable(path) + ".";
+        error = "Not enough memory to load " + FileBlockReader::displayName(path) + ".";
     } catch (const std::exception& e) {
-        error = "Cannot load " + TextExcerpt::printable(path) + ": " + e.what();
+        error = "Cannot load " + FileBlockReader::displayName(path) + ": " + e.what();
     }
     return false;
 }
