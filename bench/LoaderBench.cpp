@@ -5,6 +5,7 @@
 //   ORRERY_LOADER_BENCH_MB=1,10,100,1000 build/qt6/bench/LoaderBench
 // The files are written once into TMPDIR (or /tmp) and kept for later runs.
 #include <atomic>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -17,6 +18,9 @@
 #include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifdef ORRERY_BENCH_LIBCSV
+#include <csv.h>
+#endif
 
 #include "platform/kernel/Kernel.h"
 #include "platform/kernel/KernelTestSupport.h"
@@ -147,6 +151,55 @@ void BaselineLineSplitStod(benchmark::State& state)
     state.SetBytesProcessed(state.iterations() * fileSize(path));
 }
 
+#ifdef ORRERY_BENCH_LIBCSV
+// Baseline: the same file through libcsv's streaming parser, each field read
+// with std::from_chars into its column; the loader's tokenizer is hand-written
+// and this shows what the library would cost instead.
+struct LibcsvSink
+{
+    std::vector<std::vector<double>> columns = std::vector<std::vector<double>>(Columns);
+    std::size_t column = 0;
+    bool header = true;
+};
+
+void libcsvField(void* text, std::size_t length, void* data)
+{
+    auto& sink = *static_cast<LibcsvSink*>(data);
+    double value = 0;
+    const char* begin = static_cast<const char*>(text);
+    if (!sink.header && sink.column < Columns && std::from_chars(begin, begin + length, value).ec == std::errc())
+        sink.columns[sink.column].push_back(value);
+    ++sink.column;
+}
+
+void libcsvRow(int, void* data)
+{
+    auto& sink = *static_cast<LibcsvSink*>(data);
+    sink.column = 0;
+    sink.header = false;
+}
+
+void BaselineLibcsv(benchmark::State& state)
+{
+    std::size_t rows = 0;
+    const std::string path = csvFile(state.range(0), rows);
+    std::vector<char> block(1 << 20);
+    for (auto _ : state) {
+        LibcsvSink sink;
+        csv_parser parser;
+        csv_init(&parser, CSV_STRICT);
+        const int fd = ::open(path.c_str(), O_RDONLY);
+        for (ssize_t n; (n = ::read(fd, block.data(), block.size())) > 0;)
+            csv_parse(&parser, block.data(), static_cast<std::size_t>(n), libcsvField, libcsvRow, &sink);
+        csv_fini(&parser, libcsvField, libcsvRow, &sink);
+        csv_free(&parser);
+        ::close(fd);
+        benchmark::DoNotOptimize(sink.columns.data());
+    }
+    state.SetBytesProcessed(state.iterations() * fileSize(path));
+}
+#endif
+
 void CsvLoad(benchmark::State& state)
 {
     std::size_t rows = 0;
@@ -182,6 +235,9 @@ void registerAll()
             benchmark::RegisterBenchmark("BaselineLineSplitStod", BaselineLineSplitStod)
                 ->Arg(mb)
                 ->Unit(benchmark::kMillisecond);
+#ifdef ORRERY_BENCH_LIBCSV
+        benchmark::RegisterBenchmark("BaselineLibcsv", BaselineLibcsv)->Arg(mb)->Unit(benchmark::kMillisecond);
+#endif
         benchmark::RegisterBenchmark("CsvLoad", CsvLoad)->Arg(mb)->Unit(benchmark::kMillisecond);
     }
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <cmath>
 #include <string>
 #include <vector>
 #include "platform/toolbox/Set.h"
@@ -38,7 +39,7 @@ public:
     size_t missingCount(int zone, int var) const;
 
     static double missingValue();
-    static bool isMissing(double value) { return value != value; }
+    static bool isMissing(double value) { return std::isnan(value); }
 
     // Range of var over the given zones, missing values left out; false when
     // none of them has a value.
