@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -97,13 +98,18 @@ bool MainWindow::loadFile(const QString& path)
             return false;
     }
     std::string error;
-    if (!loader->load(path.toStdString(), error))
+    // The native name: a file name that is not UTF-8 must still open.
+    if (!loader->load(QFile::encodeName(path).toStdString(), error))
     {
         OrrUtilDialogMessageBox(QString("Cannot load %1: %2").arg(path, QString::fromStdString(error)).toUtf8(),
                                 MessageBoxType_Error);
         return false;
     }
-    report(tr("Loaded %1 with the loader \"%2\"").arg(path, QString::fromStdString(loader->properties().name)));
+    QString line = tr("Loaded %1 with the loader \"%2\"").arg(path, QString::fromStdString(loader->properties().name));
+    const std::string summary = loader->lastLoadSummary();
+    if (!summary.empty())
+        line += ": " + QString::fromStdString(summary);
+    report(line);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include "platform/kernel/Kernel.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEventObservable.h"
@@ -121,8 +122,23 @@ void StateView::refreshDataSet()
     setRow(*m_dataSet, 0, tr("Title"), available ? takeString(OrrUtilDataSetGetTitle()) : tr("(none)"));
     setRow(*m_dataSet, 1, tr("Zones"), QString::number(available ? OrrUtilDataSetGetNumZones() : 0));
     QStringList variables;
+    const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
     for (int var = 1; available && var <= OrrUtilDataSetGetNumVars(); ++var)
-        variables << takeString(OrrUtilVarGetName(var));
+    {
+        QString name = takeString(OrrUtilVarGetName(var));
+        // A text column: show its categories, the first few by name.
+        if (data.hasVar(var) && !data.categories(var).empty())
+        {
+            const std::vector<std::string>& categories = data.categories(var);
+            QStringList shown;
+            for (size_t i = 0; i < categories.size() && i < 4; ++i)
+                shown << QString::fromStdString(categories[i]);
+            if (categories.size() > 4)
+                shown << "...";
+            name += tr(" (%n categories: %1)", nullptr, int(categories.size())).arg(shown.join(", "));
+        }
+        variables << name;
+    }
     setRow(*m_dataSet, 2, tr("Variables"), variables.join(", "));
     setRow(*m_dataSet, 3, tr("Plot type"), QString::number(int(OrrUtilFrameGetPlotType())));
 }

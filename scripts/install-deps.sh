@@ -3,7 +3,7 @@
 # Usage: scripts/install-deps.sh [5|6]...   (Qt major versions wanted; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
-pkgs=(cmake g++ make ccache libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core)
+pkgs=(cmake g++ make ccache libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
 for m in "${majors[@]}"; do
   case "$m" in
     6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins) ;;

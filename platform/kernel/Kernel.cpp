@@ -1,5 +1,6 @@
 #include "platform/kernel/Kernel.h"
 #include <algorithm>
+#include <utility>
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -36,9 +37,9 @@ void Kernel::reset()
     announce(StateChange_NewLayout);
 }
 
-void Kernel::setDataSet(const DataSet& dataSet)
+void Kernel::setDataSet(DataSet dataSet)
 {
-    m_dataSet = dataSet;
+    m_dataSet = std::move(dataSet);
     for (Frame& frame : m_frames) {
         useWholeDataSet(frame);
         frame.style().dropMembersAfter(m_dataSet.numZones());

@@ -27,7 +27,7 @@ public:
     const DataSet& dataSet() const { return m_dataSet; }
     // Every frame then uses all zones and variables; style variables that no
     // longer exist are cleared.
-    void setDataSet(const DataSet& dataSet);
+    void setDataSet(DataSet dataSet);
 
     int pageCount() const { return m_pageCount; }
     // Without pages there are no frames.

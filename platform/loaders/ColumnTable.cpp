@@ -1,58 +1,110 @@
 #include "platform/loaders/ColumnTable.h"
-#include <fstream>
-#include <sstream>
+#include <cstdint>
+#include <limits>
+#include "platform/loaders/NumberText.h"
+#ifdef __linux__
+#include <sys/mman.h>
+#endif
 
 namespace orrery {
 namespace sdk {
 
-bool ColumnTable::addRow(const std::vector<std::string>& fields, int lineNumber, std::string& error)
+namespace {
+
+// Reserves room for the rows, on large pages where the system offers them: a
+// large column then fills without a page fault every 4 KiB.
+void reserveColumn(std::vector<double>& values, size_t rows)
 {
-    const std::string where = "Line " + std::to_string(lineNumber) + ": ";
-    if (fields.size() != m_columns.size()) {
-        error = where + std::to_string(fields.size()) + " values where " + std::to_string(m_columns.size())
-                + " were expected.";
-        return false;
-    }
-    std::vector<double> row;
-    for (const std::string& field : fields) {
-        size_t used = 0;
-        try {
-            row.push_back(std::stod(field, &used));
-        } catch (const std::exception&) {
-            used = 0;
-        }
-        if (used == 0 || used != field.size()) {
-            error = where + "\"" + field + "\" is not a number.";
+    values.reserve(rows);
+#if defined(__linux__) && defined(MADV_HUGEPAGE)
+    constexpr std::uintptr_t LargePage = 2 << 20;
+    const auto begin = (reinterpret_cast<std::uintptr_t>(values.data()) + LargePage - 1) & ~(LargePage - 1);
+    const auto end = reinterpret_cast<std::uintptr_t>(values.data() + values.capacity()) & ~(LargePage - 1);
+    if (end > begin)
+        ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE); // only advice: failure is harmless
+#endif
+}
+
+} // namespace
+
+ColumnTable::ColumnTable(std::vector<Kind> kinds, Options options) : m_initialKinds(std::move(kinds)), m_options(options)
+{
+}
+
+void ColumnTable::reserve(size_t rows)
+{
+    m_reserved = rows;
+    for (Column& column : m_columns)
+        reserveColumn(column.values, rows);
+}
+
+bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
+{
+    if (index >= m_columns.size()) {
+        if (m_columns.size() >= MaxColumns) {
+            reason = "more than " + std::to_string(MaxColumns) + " columns.";
             return false;
         }
+        m_columns.emplace_back();
+        Column& added = m_columns.back();
+        if (m_columns.size() <= m_initialKinds.size())
+            added.kind = m_initialKinds[m_columns.size() - 1];
+        reserveColumn(added.values, m_reserved);
+        index = m_columns.size() - 1;
     }
-    for (size_t i = 0; i < row.size(); ++i)
-        m_columns[i].push_back(row[i]);
-    return true;
+    Column& column = m_columns[index];
+    if (m_options.missingTokens && NumberText::isMissingToken(text)) {
+        column.values.push_back(std::numeric_limits<double>::quiet_NaN());
+        ++m_missing;
+        return true;
+    }
+    switch (column.kind) {
+    case Kind::Number:
+        return addNumber(column, text, reason);
+    case Kind::Category:
+        addCategory(column, text);
+        return true;
+    case Kind::Undecided:
+        break;
+    }
+    // The first value of a column decides what it holds.
+    double value = 0;
+    column.kind = NumberText::parse(text, m_options.decimalComma, value) == NumberText::Verdict::Number
+                      ? Kind::Number
+                      : Kind::Category;
+    return add(index, text, reason);
 }
 
-std::vector<std::string> ColumnTable::splitWhitespace(const std::string& line)
+bool ColumnTable::addNumber(Column& column, std::string_view text, std::string& reason)
 {
-    std::istringstream stream(line);
-    std::vector<std::string> fields;
-    for (std::string field; stream >> field;)
-        fields.push_back(field);
-    return fields;
-}
-
-bool ColumnTable::readLines(const std::string& path, std::vector<std::string>& lines, std::string& error)
-{
-    std::ifstream file(path);
-    if (!file) {
-        error = "Cannot open " + path + ".";
+    double value = 0;
+    const NumberText::Verdict verdict = NumberText::parse(text, m_options.decimalComma, value);
+    if (verdict != NumberText::Verdict::Number) {
+        reason = NumberText::explain(text, verdict);
         return false;
     }
-    for (std::string line; std::getline(file, line);) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        lines.push_back(line);
-    }
+    column.values.push_back(value);
     return true;
+}
+
+void ColumnTable::addCategory(Column& column, std::string_view text)
+{
+    const auto [entry, added] =
+        column.categoryNumbers.emplace(std::string(text), static_cast<double>(column.categories.size() + 1));
+    if (added)
+        column.categories.emplace_back(text);
+    column.values.push_back(entry->second);
+}
+
+std::vector<std::vector<double>> ColumnTable::takeValues()
+{
+    std::vector<std::vector<double>> values;
+    values.reserve(m_columns.size());
+    for (Column& column : m_columns) {
+        values.push_back(std::move(column.values));
+        column.categoryNumbers.clear();
+    }
+    return values;
 }
 
 } // namespace sdk

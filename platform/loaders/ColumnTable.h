@@ -1,29 +1,60 @@
 #pragma once
+#include <memory>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace orrery {
 namespace sdk {
 
-// Numbers read row by row into one column per variable.
+// Cells read into one column of doubles per variable. A column holds numbers
+// or, when its cells are text, categories numbered 1, 2, ... in order of first
+// appearance. A missing cell is stored as NaN.
 class ColumnTable
 {
 public:
-    explicit ColumnTable(size_t columnCount) : m_columns(columnCount) {}
+    enum class Kind { Undecided, Number, Category };
+    struct Options
+    {
+        bool decimalComma = false;
+        bool missingTokens = true; // NA, empty cells and the like are missing values, not errors
+    };
 
-    // Adds a row of number fields; on a wrong field count or a field that is not
-    // a number sets error (naming the line) and returns false.
-    bool addRow(const std::vector<std::string>& fields, int lineNumber, std::string& error);
-    size_t rowCount() const { return m_columns.empty() ? 0 : m_columns.front().size(); }
-    const std::vector<std::vector<double>>& columns() const { return m_columns; }
+    // More columns than this are refused: every variable costs far more than its values.
+    static constexpr size_t MaxColumns = 16384;
 
-    // Whitespace-separated fields of a line.
-    static std::vector<std::string> splitWhitespace(const std::string& line);
-    // The file's lines; false with error when it cannot be read.
-    static bool readLines(const std::string& path, std::vector<std::string>& lines, std::string& error);
+    ColumnTable(std::vector<Kind> kinds, Options options);
+
+    // Capacity for this many rows in each column, present and later ones.
+    void reserve(size_t rows);
+    // Adds the cell to the column (0-based); a column one past the last is
+    // created. False with a reason (quoting the cell) when the cell is refused.
+    bool add(size_t column, std::string_view text, std::string& reason);
+    size_t columnCount() const { return m_columns.size(); }
+    size_t rowCount() const { return m_columns.empty() ? 0 : m_columns.front().values.size(); }
+    size_t missingCount() const { return m_missing; }
+    Kind kind(size_t column) const { return m_columns[column].kind; }
+    const std::vector<std::string>& categories(size_t column) const { return m_columns[column].categories; }
+    // The columns' values, moved out; the table is empty afterwards.
+    std::vector<std::vector<double>> takeValues();
 
 private:
-    std::vector<std::vector<double>> m_columns;
+    struct Column
+    {
+        Kind kind = Kind::Undecided;
+        std::vector<double> values;
+        std::vector<std::string> categories;
+        std::unordered_map<std::string, double> categoryNumbers;
+    };
+    bool addNumber(Column& column, std::string_view text, std::string& reason);
+    void addCategory(Column& column, std::string_view text);
+
+    std::vector<Column> m_columns;
+    std::vector<Kind> m_initialKinds;
+    Options m_options;
+    size_t m_reserved = 0;
+    size_t m_missing = 0;
 };
 
 } // namespace sdk

@@ -4,14 +4,15 @@
 namespace orrery {
 namespace sdk {
 
-// Comma-separated tables (.csv); fields are trimmed, quotes around names dropped.
+// Comma-, semicolon- or tab-separated tables (.csv) as spreadsheets and
+// instruments write them; with semicolons or tabs a decimal comma is read.
 class CsvDataLoader : public DelimitedTableLoader
 {
 public:
     Properties properties() const override;
 
 protected:
-    std::vector<std::string> split(const std::string& line) const override;
+    std::vector<char> delimiters() const override;
 };
 
 } // namespace sdk

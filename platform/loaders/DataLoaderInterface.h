@@ -21,7 +21,11 @@ public:
     virtual Properties properties() const = 0;
     // Replaces the data set with the file's contents. On failure returns false,
     // sets error and leaves the data set as it was.
+    // path is the file's native name (bytes, not necessarily UTF-8).
     virtual bool load(const std::string& path, std::string& error) = 0;
+    // How the last successful load read its file, for the user to see
+    // ("semicolon-separated, decimal comma, header row"); may be empty.
+    virtual std::string lastLoadSummary() const { return std::string(); }
 };
 
 } // namespace sdk

@@ -6,16 +6,25 @@
 namespace orrery {
 namespace sdk {
 
-// Loads a single table: a header line of variable names, then one line of
-// numbers per point, all into one zone named after the file. Empty lines and
-// lines starting with '#' are skipped.
+// Loads a single table into one zone named after the file: one line per point,
+// the delimiter and decimal mark recognised from the first lines, an optional
+// header row of variable names, missing values (empty, NA, N/A, NaN, -) kept
+// as such and text columns read as categories. Blank lines and lines starting
+// with '#' are skipped. The file is read in blocks, never whole.
 class DelimitedTableLoader : public DataLoaderInterface
 {
 public:
     bool load(const std::string& path, std::string& error) override;
+    std::string lastLoadSummary() const override { return m_summary; }
 
 protected:
-    virtual std::vector<std::string> split(const std::string& line) const = 0;
+    // The delimiters to try, the preferred first (0: runs of spaces and tabs).
+    virtual std::vector<char> delimiters() const = 0;
+
+private:
+    bool loadTable(const std::string& path, std::string& error);
+
+    std::string m_summary;
 };
 
 } // namespace sdk

@@ -1,18 +1,16 @@
 #include "platform/loaders/TextTableDataLoader.h"
-#include "platform/loaders/ColumnTable.h"
 
 namespace orrery {
 namespace sdk {
 
 DataLoaderInterface::Properties TextTableDataLoader::properties() const
 {
-    return {"Text table", "Columns separated by spaces or tabs, with a header row of variable names",
-            {"txt", "dat"}};
+    return {"Text table", "Columns separated by spaces or tabs, with or without a header row", {"txt", "dat"}};
 }
 
-std::vector<std::string> TextTableDataLoader::split(const std::string& line) const
+std::vector<char> TextTableDataLoader::delimiters() const
 {
-    return ColumnTable::splitWhitespace(line);
+    return {0};
 }
 
 } // namespace sdk

@@ -11,7 +11,7 @@ public:
     Properties properties() const override;
 
 protected:
-    std::vector<std::string> split(const std::string& line) const override;
+    std::vector<char> delimiters() const override;
 };
 
 } // namespace sdk

@@ -1,22 +1,30 @@
 #include "platform/loaders/ZoneBlockDataLoader.h"
+#include <new>
 #include <utility>
+#include <vector>
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/ColumnTable.h"
+#include "platform/loaders/FieldTokenizer.h"
+#include "platform/loaders/FileBlockReader.h"
 
 namespace orrery {
 namespace sdk {
 
 namespace {
 
-// The text after a leading keyword, or false when the line does not start with it.
-bool keyword(const std::string& line, const std::string& word, std::string& rest)
+std::string joined(const std::vector<std::string>& words)
 {
-    if (line.compare(0, word.size(), word) != 0 || (line.size() > word.size() && line[word.size()] != ' '))
-        return false;
-    const size_t start = line.find_first_not_of(' ', word.size());
-    rest = start == std::string::npos ? std::string() : line.substr(start);
-    return true;
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : " ") + word;
+    return text;
 }
+
+struct Zone
+{
+    std::string name;
+    ColumnTable table;
+};
 
 } // namespace
 
@@ -27,47 +35,97 @@ DataLoaderInterface::Properties ZoneBlockDataLoader::properties() const
 
 bool ZoneBlockDataLoader::load(const std::string& path, std::string& error)
 {
-    std::vector<std::string> lines;
-    if (!ColumnTable::readLines(path, lines, error))
+    try {
+        return loadZones(path, error);
+    } catch (const std::bad_alloc&) {
+        error = "Not enough memory to load " + FileBlockReader::displayName(path) + ".";
+    } catch (const std::exception& e) {
+        error = "Cannot load " + FileBlockReader::displayName(path) + ": " + e.what();
+    }
+    return false;
+}
+
+bool ZoneBlockDataLoader::loadZones(const std::string& path, std::string& error)
+{
+    FileBlockReader file;
+    if (!file.open(path, error))
         return false;
+    const std::string& name = file.displayName();
+    FieldTokenizer tokenizer(file, 0);
     std::string title = "Untitled";
     std::vector<std::string> varNames;
-    std::vector<std::pair<std::string, ColumnTable>> zones;
-    for (size_t i = 0; i < lines.size(); ++i) {
-        const std::string where = "Line " + std::to_string(i + 1) + ": ";
-        const std::vector<std::string> fields = ColumnTable::splitWhitespace(lines[i]);
-        std::string rest;
-        if (fields.empty() || fields.front()[0] == '#')
-            continue;
-        if (keyword(lines[i], "TITLE", rest)) {
-            title = rest;
-        } else if (keyword(lines[i], "VARIABLES", rest)) {
-            if (!zones.empty()) {
-                error = where + "VARIABLES must come before the first zone.";
-                return false;
-            }
-            varNames = ColumnTable::splitWhitespace(rest);
-        } else if (keyword(lines[i], "ZONE", rest)) {
-            if (varNames.empty()) {
-                error = where + "a zone starts before the VARIABLES line.";
-                return false;
-            }
-            zones.emplace_back(rest, ColumnTable(varNames.size()));
-        } else if (zones.empty()) {
-            error = where + "values outside a zone.";
-            return false;
-        } else if (!zones.back().second.addRow(fields, static_cast<int>(i + 1), error)) {
-            return false;
+    std::vector<Zone> zones;
+    std::string keyword;
+    std::vector<std::string> words; // after the keyword
+    size_t column = 0;
+    FieldTokenizer::Field field;
+    FieldTokenizer::Step step;
+    std::string reason;
+    size_t keywordLine = 0;
+    const auto failAt = [&](size_t line, size_t column, const std::string& what) {
+        error = name + ", line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + what;
+        return false;
+    };
+    const auto fail = [&](const std::string& what) { return failAt(field.line, field.column, what); };
+    while ((step = tokenizer.next(field)) == FieldTokenizer::Step::Field) {
+        if (field.column == 1) {
+            keyword.clear();
+            words.clear();
+            column = 0;
+            if (!field.quoted && (field.text == "TITLE" || field.text == "VARIABLES" || field.text == "ZONE"))
+                keyword = field.text;
+            keywordLine = field.line;
         }
+        if (!keyword.empty()) {
+            if (field.column > 1) {
+                if (words.size() >= ColumnTable::MaxColumns)
+                    return fail("more than " + std::to_string(ColumnTable::MaxColumns) + " names.");
+                words.emplace_back(field.text);
+            }
+            if (!field.lastInRecord)
+                continue;
+            if (keyword == "TITLE") {
+                title = joined(words);
+            } else if (keyword == "VARIABLES") {
+                if (!zones.empty())
+                    return failAt(keywordLine, 1, "VARIABLES must come before the first zone.");
+                varNames = words;
+            } else {
+                if (varNames.empty())
+                    return failAt(keywordLine, 1, "a zone starts before the VARIABLES line.");
+                zones.push_back({joined(words), ColumnTable(std::vector<ColumnTable::Kind>(varNames.size(),
+                                                                                           ColumnTable::Kind::Number),
+                                                            {false, false})});
+            }
+            continue;
+        }
+        if (zones.empty())
+            return fail("values outside a zone.");
+        if (column >= varNames.size())
+            return fail("more values than the " + std::to_string(varNames.size()) + " variables.");
+        if (!zones.back().table.add(column++, field.text, reason))
+            return fail(reason);
+        if (field.lastInRecord && column < varNames.size())
+            return fail(std::to_string(column) + " values where " + std::to_string(varNames.size())
+                        + " were expected.");
+    }
+    if (step == FieldTokenizer::Step::Failed) {
+        error = tokenizer.error(name);
+        return false;
     }
     if (zones.empty()) {
-        error = path + " holds no zones.";
+        error = name + " holds no zones.";
         return false;
     }
     kernel::DataSet data(title, varNames);
-    for (const auto& [name, table] : zones)
-        data.addZone(name, table.columns());
-    kernel::Kernel::instance().setDataSet(data);
+    for (Zone& zone : zones) {
+        std::vector<std::vector<double>> values = zone.table.takeValues();
+        values.resize(varNames.size()); // a zone without points has no columns yet
+        for (std::vector<double>& column : values)
+            column.shrink_to_fit();
+        data.addZone(zone.name, std::move(values));
+    }
+    kernel::Kernel::instance().setDataSet(std::move(data));
     return true;
 }
 

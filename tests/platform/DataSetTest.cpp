@@ -1,6 +1,7 @@
 // The stand-in kernel's data set and the queries the host makes on it.
 #include "tests/platform/StyleCalls.h"
 #include "platform/kernel/DataSet.h"
+#include "platform/kernel/Kernel.h"
 #include "platform/sdk/DataSetQueries.h"
 
 using namespace stylecalls;
@@ -104,6 +105,29 @@ TEST(DataSetBuilding, ZonesNeedOneEqualRowPerVariable)
     EXPECT_EQ(2u, data.pointCount(1));
 }
 
+TEST_F(KernelDataSet, MissingValuesAreLeftOutOfRangesAndCategoriesStayWithTheirVariable)
+{
+    const double gap = DataSet::missingValue();
+    DataSet data("gaps", {"X", "Kind", "Empty"});
+    data.addZone("a", {{gap, 4.0, -2.0}, {1.0, 2.0, 1.0}, {gap, gap, gap}});
+    data.addZone("b", {{7.0, gap}, {3.0, gap}, {gap, gap}});
+    data.setCategories(2, {"low", "mid", "high"});
+    EXPECT_THROW(data.setCategories(4, {"x"}), std::out_of_range);
+    Kernel::setDataSet(data);
+
+    EXPECT_EQ((std::vector<double>{-2.0, 7.0}), minMax(1));
+    EXPECT_EQ((std::vector<double>{1.0, 3.0}), minMax(2));
+    EXPECT_TRUE(minMax(3).empty()); // nothing but gaps has no range
+    Kernel::setEnabledZones({2});
+    EXPECT_EQ((std::vector<double>{7.0, 7.0}), minMax(1));
+
+    const DataSet& held = orrery::kernel::Kernel::instance().dataSet();
+    EXPECT_EQ((std::vector<std::string>{"low", "mid", "high"}), held.categories(2));
+    EXPECT_TRUE(held.categories(1).empty());
+    EXPECT_EQ((std::vector<size_t>{1, 0, 3, 1}),
+              (std::vector<size_t>{held.missingCount(1, 1), held.missingCount(1, 2), held.missingCount(1, 3),
+                                   held.missingCount(2, 2)}));
+}
 
 
 TEST_F(KernelDataSet, EnabledSetsBelongToTheirFrame)

@@ -1,0 +1,78 @@
+#pragma once
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace orrery {
+namespace sdk {
+
+class FileBlockReader;
+
+// Splits text into records of fields, one field at a time, holding no more
+// than one block of the file and one field. Fields are separated by one
+// delimiter character, or, with delimiter 0, by runs of spaces and tabs.
+// A field may be quoted: "..." holds delimiters and line breaks, "" stands for
+// one quote. Records end at LF, CRLF or CR. Spaces around a field are dropped,
+// blank lines and lines starting with '#' are skipped, and a UTF-8 byte-order
+// mark at the start is ignored.
+class FieldTokenizer
+{
+public:
+    struct Field
+    {
+        std::string_view text; // valid until the next call
+        bool quoted = false;
+        bool lastInRecord = false;
+        size_t line = 0;   // where the field starts, from 1
+        size_t column = 0; // the field's place in its record, from 1
+    };
+    enum class Step { Field, End, Failed };
+
+    static constexpr size_t MaxFieldLength = 1 << 16;
+
+    // Reads the file from its current position.
+    FieldTokenizer(FileBlockReader& file, char delimiter);
+    // Reads the given text, which is copied.
+    FieldTokenizer(std::string_view text, char delimiter);
+    ~FieldTokenizer();
+
+    // The next field; on Failed, error() tells what and where.
+    Step next(Field& field);
+    // What went wrong, naming the file, the line and the column.
+    std::string error(const std::string& fileName) const;
+
+private:
+    FieldTokenizer(FileBlockReader* file, size_t capacity, char delimiter);
+    bool nextPlain(Field& field);
+    int peek();
+    bool refill();
+    void take() { ++m_pos; }
+    void takeLineEnd();
+    bool scanUnquoted(const bool* stops);
+    bool scanQuoted();
+    void skipBlanks();
+    bool fail(const std::string& what);
+    bool failOnByte(unsigned char byte);
+
+    FileBlockReader* m_file = nullptr;
+    std::unique_ptr<char[]> m_buffer;
+    size_t m_capacity = 0;
+    size_t m_pos = 0;
+    size_t m_end = 0;
+    bool m_eof = false;
+    bool m_started = false;
+    bool m_recordStart = true;
+    char m_delimiter;
+    size_t m_line = 1;
+    size_t m_column = 0;
+    size_t m_fieldLine = 1;
+    std::string m_cell;
+    std::string m_error;
+    bool m_errorHasPlace = false;
+    bool m_unquotedStops[256] = {};
+    bool m_quotedStops[256] = {};
+};
+
+} // namespace sdk
+} // namespace orrery
