@@ -37,6 +37,7 @@ VariableSelectDialogImpl::VariableSelectDialogImpl(QDialog& dialog, const toolbo
                                                    const std::vector<std::string>& labels,
                                                    const VariableSelectDialog::DefaultVarAssignmentInterface& assignment)
     : instructions(instructions), labels(labels), hasThirdVariable(var3Path.count() > 0),
+      hasStyleValues(var1Path.count() > 0 && var2Path.count() > 0),
       variablesModel(boost::make_shared<VariableChoiceBindings::ModelPtr::element_type>())
 {
     ui.setupUi(&dialog);
@@ -81,8 +82,11 @@ bool VariableSelectDialogImpl::applyChoices(std::string& refusal)
     UndoStep step(UndoCategoryDialogStyle);
     try
     {
-        var1->apply();
-        var2->apply();
+        if (hasStyleValues)
+        {
+            var1->apply();
+            var2->apply();
+        }
         if (hasThirdVariable)
             var3->apply();
         if (postAssignmentAction)

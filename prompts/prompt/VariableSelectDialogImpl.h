@@ -38,6 +38,9 @@ public:
     std::string instructions;
     std::vector<std::string> labels;
     bool hasThirdVariable;
+    // False when built for a plot without these style values (empty paths):
+    // there is nothing to write then.
+    bool hasStyleValues;
     VariableChoiceBindings::ModelPtr variablesModel;
     Ui_VariableSelectDialog ui;
     boost::shared_ptr<VarProperty> var1, var2, var3;
