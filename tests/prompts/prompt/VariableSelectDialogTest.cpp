@@ -412,6 +412,9 @@ TEST_F(VariableSelectDialogTest, AxisAndVectorDialogsNeedAFrameWithAFieldPlot)
     EXPECT_EQ(std::make_pair(true, true), relevant());
     Kernel::setFrameCount(0);
     EXPECT_EQ(std::make_pair(false, false), relevant());
+    dialog = VectorVariableSelectDialog::getInstance(parent, OrrUtilFrameGetPlotType());
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    delete dialog;
     Kernel::setFrameCount(1);
     Kernel::setPageCount(0);
     EXPECT_EQ(std::make_pair(false, false), relevant());
