@@ -138,6 +138,11 @@ TEST_F(ZoneSelectDialogTest, ListFollowsTheEnabledZonesWhileOpen)
     EXPECT_EQ(Texts{"Channel"}, selected(*dialog));
     EXPECT_EQ(2, dialog->selectedZone());
 
+    // Another file with as many zones: the new names, not the shown ones kept.
+    loadZones(3);
+    runIdle();
+    EXPECT_EQ((Texts{"Zone 1", "Zone 2", "Zone 3"}), rows(*dialog));
+
     // A zone the data set does not have is left as given.
     EXPECT_EQ(99, prompt(99)->selectedZone());
     EXPECT_EQ(Texts{}, selected(*dialog));
