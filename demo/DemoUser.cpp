@@ -1,7 +1,9 @@
 #include "demo/DemoUser.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -43,6 +45,17 @@ void DemoUser::selectRow(QListView& list, const QString& text)
     const QModelIndexList found = model->match(model->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly);
     if (!found.isEmpty())
         list.selectionModel()->select(found.front(), QItemSelectionModel::ClearAndSelect);
+}
+
+void DemoUser::choose(QComboBox& combo, const QString& text)
+{
+    const int row = combo.findText(text);
+    if (row < 0)
+        return;
+    combo.showPopup();
+    // The list's own selection is what a click or Return confirms.
+    combo.view()->setCurrentIndex(combo.model()->index(row, 0));
+    key(*combo.view(), Qt::Key_Return, Qt::NoModifier);
 }
 
 void DemoUser::press(QDialog& dialog, QDialogButtonBox::StandardButton button)

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QAbstractButton;
+class QComboBox;
 class QDialog;
 class QListView;
 class QWidget;
@@ -19,6 +20,8 @@ public:
     static void click(QAbstractButton& button);
     // Selects the row showing text, as a click would.
     static void selectRow(QListView& list, const QString& text);
+    // Opens the drop-down list and picks the entry showing text, as a click would.
+    static void choose(QComboBox& combo, const QString& text);
     static void press(QDialog& dialog, QDialogButtonBox::StandardButton button);
 
 private:

@@ -1,12 +1,26 @@
 #include "demo/DialogCatalog.h"
 
+#include <sstream>
+#include <variant>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
 #include <QSpinBox>
 #include "demo/DemoUser.h"
 #include "platform/loaders/DataLoaderRepository.h"
+#include <boost/make_shared.hpp>
+#include <boost/signals2/connection.hpp>
+#include "core/property/Property.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+#include "platform/kernel/KernelTestSupport.h"
+#include "prompts/prompt/AddonsVariableSelectDialog.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/AxisVariableSelectDialog.h"
+#include "prompts/prompt/RGBVariableSelectDialog.h"
+#include "prompts/prompt/VectorVariableSelectDialog.h"
+#include "prompts/prompt/ZoneSelectDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 #include "prompts/prompt/EnterASCIICharacterDialog.h"
 #include "prompts/prompt/EnterTextStringDialog.h"
@@ -102,6 +116,152 @@ QString loaderChooserAnswers(ChooseLoaderDialog& d)
     return QString("loader = %1").arg(loader ? QString::fromStdString(loader->properties().name) : "(none)");
 }
 
+// The style paths written while a dialog is open, in order, each once.
+class StyleWrites
+{
+public:
+    void start()
+    {
+        m_paths.clear();
+        m_connection = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
+            [this](const orrery::sdk::integration::StateChangeEventInterface& event) {
+                const QString path = QString::fromStdString(event.stylePath().join("/"));
+                if (event.code() == StateChange_Style && !m_paths.contains(path))
+                    m_paths << path;
+            });
+    }
+    // "path = value" for each path written, or "no style written".
+    QString report()
+    {
+        m_connection.disconnect();
+        QStringList lines;
+        for (const QString& path : m_paths)
+            lines << QString("%1 = %2").arg(path, valueAt(path));
+        return lines.isEmpty() ? QString("no style written") : "wrote " + lines.join(", ");
+    }
+
+private:
+    static QString valueAt(const QString& path)
+    {
+        orrery::toolbox::StringList names;
+        for (const QString& name : path.split('/'))
+            names.append(name.toStdString());
+        try
+        {
+            return std::visit(
+                [](const auto& value) {
+                    std::ostringstream text;
+                    text << value;
+                    return QString::fromStdString(text.str());
+                },
+                orrery::kernel::testing::KernelTestSupport::styleValue(names));
+        }
+        catch (const std::exception&)
+        {
+            return "?";
+        }
+    }
+
+    QStringList m_paths;
+    boost::signals2::scoped_connection m_connection;
+};
+
+StyleWrites styleWrites;
+
+// Variable dialogs share one live dialog; the host drops the last one so that
+// each menu entry gets a dialog for its own style values.
+void dropVariableDialog()
+{
+    delete VariableSelectDialog::liveInstance();
+}
+
+// Axis variables of the current frame
+VariableSelectDialog* openAxisVariables(QWidget& parent)
+{
+    dropVariableDialog();
+    styleWrites.start();
+    return AxisVariableSelectDialog::getInstance(parent);
+}
+void driveAxisVariables(VariableSelectDialog& d)
+{
+    DemoUser::choose(*d.findChild<QComboBox*>("var2_comboBox"), "Temperature");
+}
+QString variableAnswers(VariableSelectDialog&)
+{
+    return styleWrites.report();
+}
+
+// Vector components, for the current frame's plot type
+VariableSelectDialog* openVectorVariables(QWidget& parent)
+{
+    dropVariableDialog();
+    styleWrites.start();
+    return VectorVariableSelectDialog::getInstance(parent, OrrUtilFrameGetPlotType());
+}
+void driveVectorVariables(VariableSelectDialog& d)
+{
+    DemoUser::choose(*d.findChild<QComboBox*>("var1_comboBox"), "Pressure");
+}
+
+// RGB channel variables, as the colour chooser's RGB button asks them
+VariableSelectDialog* openRGBVariables(QWidget& parent)
+{
+    dropVariableDialog();
+    styleWrites.start();
+    return RGBVariableSelectDialog::getInstance(parent);
+}
+void driveRGBVariables(VariableSelectDialog& d)
+{
+    DemoUser::choose(*d.findChild<QComboBox*>("var3_comboBox"), "Y");
+}
+
+// An add-on's two input variables, kept in the add-on's own properties
+struct AddonInputs
+{
+    boost::shared_ptr<orrery::Property<int>> source = boost::make_shared<orrery::Property<int>>(1);
+    boost::shared_ptr<orrery::Property<int>> weight = boost::make_shared<orrery::Property<int>>(2);
+    boost::shared_ptr<orrery::Property<int>> unused = boost::make_shared<orrery::Property<int>>(0);
+};
+AddonInputs& addonInputs()
+{
+    static AddonInputs inputs;
+    return inputs;
+}
+AddonsVariableSelectDialog* openAddonVariables(QWidget& parent)
+{
+    styleWrites.start();
+    AddonInputs& inputs = addonInputs();
+    return AddonsVariableSelectDialog::getInstance(parent, "Choose the add-on's input variables.", "&Source:",
+                                                   "&Weight:", nullptr, inputs.source, inputs.weight, inputs.unused);
+}
+void driveAddonVariables(AddonsVariableSelectDialog& d)
+{
+    DemoUser::choose(*d.findChild<QComboBox*>("var2_comboBox"), "Pressure");
+}
+QString addonAnswers(AddonsVariableSelectDialog&)
+{
+    return QString("source = %1, weight = %2, %3")
+        .arg(addonInputs().source->getValue())
+        .arg(addonInputs().weight->getValue())
+        .arg(styleWrites.report());
+}
+
+// Zone prompt, as a mapping asks for its source zone
+ZoneSelectDialog* openZone(QWidget& parent)
+{
+    return ZoneSelectDialog::getInstance(parent, 1);
+}
+void driveZone(ZoneSelectDialog& d)
+{
+    auto* list = d.findChild<QListView*>("Zone_Source_MList");
+    if (list->model()->rowCount() > 1)
+        DemoUser::selectRow(*list, list->model()->index(1, 0).data().toString());
+}
+QString zoneAnswers(ZoneSelectDialog& d)
+{
+    return QString("zone = %1").arg(d.selectedZone());
+}
+
 } // namespace
 
 const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
@@ -113,6 +273,11 @@ const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
         entry("ASCII Character...", openAsciiCharacter, driveAsciiCharacter, B::Ok, asciiCharacterAnswers),
         entry("Anchor Alignment...", openAnchorAlignment, driveAnchorAlignment, B::Cancel, anchorAlignmentAnswers),
         entry("Choose Loader...", openLoaderChooser, driveLoaderChooser, B::Ok, loaderChooserAnswers),
+        entry("Axis Variables...", openAxisVariables, driveAxisVariables, B::Ok, variableAnswers),
+        entry("Vector Variables...", openVectorVariables, driveVectorVariables, B::Ok, variableAnswers),
+        entry("RGB Variables...", openRGBVariables, driveRGBVariables, B::Ok, variableAnswers),
+        entry("Add-on Variables...", openAddonVariables, driveAddonVariables, B::Ok, addonAnswers),
+        entry("Select Zone...", openZone, driveZone, B::Ok, zoneAnswers),
     };
     return all;
 }

@@ -20,7 +20,10 @@ const char* const WatchedPaths[] = {
     "FrameLayout/PlotType",          "GlobalRGB/RGBMode",        "GlobalRGB/RedChannelVar",
     "GlobalRGB/GreenChannelVar",     "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMin",
     "GlobalRGB/RangeMax",            "GlobalScatter/Var",        "GlobalScatter/RelativeSize",
-    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum"};
+    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum",
+    "ThreeDAxis/XDetail/VarNum",     "ThreeDAxis/YDetail/VarNum", "ThreeDAxis/ZDetail/VarNum",
+    "GlobalTwoDVector/UVar",         "GlobalTwoDVector/VVar",    "GlobalThreeDVector/UVar",
+    "GlobalThreeDVector/VVar",       "GlobalThreeDVector/WVar"};
 
 QString codeName(StateChange_e code)
 {

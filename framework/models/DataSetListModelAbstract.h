@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <unordered_map>
 #include <vector>
 #include <boost/signals2/connection.hpp>
 
@@ -8,34 +9,37 @@
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
 // Rows taken from the kernel's data set (zones, variables): one row per
-// number, showing its name. The rows are fetched again after every change of
-// the data set or the frame, and a change is announced only when they differ.
+// number, in ascending order, showing its name. The rows are fetched again
+// after every change of the data set or the frame, and a change is announced
+// only when they differ.
+//
+// Names are asked of the kernel only for the rows that are shown, and kept:
+// a data set may hold a million zones, of which a list shows a few dozen.
 class DataSetListModelAbstract : public ListModelAbstract<int>
 {
 public:
     ~DataSetListModelAbstract() override;
 
-    int size() const override { return static_cast<int>(m_rows.size()); }
-    int get(int row) const override { return m_rows[static_cast<size_t>(row)].number; }
-    std::string getStr(int row) const override { return m_rows[static_cast<size_t>(row)].text; }
+    int size() const override { return static_cast<int>(m_numbers.size()); }
+    int get(int row) const override { return m_numbers[static_cast<size_t>(row)]; }
+    std::string getStr(int row) const override;
+    int indexOf(const int& number) const override;
 
     void refresh();
 
 protected:
-    struct Row
-    {
-        int number;
-        std::string text;
-        bool operator==(const Row& other) const { return number == other.number && text == other.text; }
-    };
-
     DataSetListModelAbstract();
-    virtual std::vector<Row> fetchRows() const = 0;
+    // Ascending.
+    virtual std::vector<int> fetchNumbers() const = 0;
+    virtual std::string fetchText(int number) const = 0;
     // Takes over a string returned by the kernel's C interface.
     static std::string takeKernelString(char* text);
 
 private:
-    std::vector<Row> m_rows;
+    bool shownTextsChanged() const;
+
+    std::vector<int> m_numbers;
+    mutable std::unordered_map<int, std::string> m_shownTexts; // by row
     boost::signals2::scoped_connection m_stateChanges;
 };
 

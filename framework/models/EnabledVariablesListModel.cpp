@@ -7,12 +7,15 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
 EnabledVariablesListModel::EnabledVariablesListModel() { refresh(); }
 
-std::vector<EnabledVariablesListModel::Row> EnabledVariablesListModel::fetchRows() const
+std::vector<int> EnabledVariablesListModel::fetchNumbers() const
 {
-    std::vector<Row> rows;
-    for (int var : getEnabledVarsForFrame(OrrUtilFrameGetUniqueID()))
-        rows.push_back(Row{var, takeKernelString(OrrUtilVarGetName(var))});
-    return rows;
+    const toolbox::Set vars = getEnabledVarsForFrame(OrrUtilFrameGetUniqueID());
+    return std::vector<int>(vars.begin(), vars.end());
+}
+
+std::string EnabledVariablesListModel::fetchText(int var) const
+{
+    return takeKernelString(OrrUtilVarGetName(var));
 }
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

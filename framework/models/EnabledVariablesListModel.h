@@ -11,7 +11,8 @@ public:
     EnabledVariablesListModel();
 
 private:
-    std::vector<Row> fetchRows() const override;
+    std::vector<int> fetchNumbers() const override;
+    std::string fetchText(int var) const override;
 };
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

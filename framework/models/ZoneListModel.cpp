@@ -9,14 +9,16 @@ ZoneListModel::ZoneListModel(const ZoneSource& zones, bool numbered) : m_zones(z
     refresh();
 }
 
-std::vector<ZoneListModel::Row> ZoneListModel::fetchRows() const
+std::vector<int> ZoneListModel::fetchNumbers() const
 {
-    std::vector<Row> rows;
-    for (int zone : m_zones(OrrUtilFrameGetUniqueID())) {
-        const std::string name = takeKernelString(OrrUtilZoneGetName(zone));
-        rows.push_back(Row{zone, m_numbered ? std::to_string(zone) + ": " + name : name});
-    }
-    return rows;
+    const toolbox::Set zones = m_zones(OrrUtilFrameGetUniqueID());
+    return std::vector<int>(zones.begin(), zones.end());
+}
+
+std::string ZoneListModel::fetchText(int zone) const
+{
+    const std::string name = takeKernelString(OrrUtilZoneGetName(zone));
+    return m_numbered ? std::to_string(zone) + ": " + name : name;
 }
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

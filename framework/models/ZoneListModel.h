@@ -16,7 +16,8 @@ public:
     ZoneListModel(const ZoneSource& zones, bool numbered);
 
 private:
-    std::vector<Row> fetchRows() const override;
+    std::vector<int> fetchNumbers() const override;
+    std::string fetchText(int zone) const override;
 
     ZoneSource m_zones;
     const bool m_numbered;

@@ -1,4 +1,5 @@
 #include "platform/toolbox/Set.h"
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 
@@ -15,12 +16,26 @@ void Set::add(int member)
 {
     if (member < 1)
         throw std::out_of_range("Set members start at 1, not " + std::to_string(member));
-    m_members.insert(member);
+    if (m_members.empty() || m_members.back() < member)
+    {
+        m_members.push_back(member);
+        return;
+    }
+    const auto at = std::lower_bound(m_members.begin(), m_members.end(), member);
+    if (*at != member)
+        m_members.insert(at, member);
 }
 
 void Set::remove(int member)
 {
-    m_members.erase(member);
+    const auto at = std::lower_bound(m_members.begin(), m_members.end(), member);
+    if (at != m_members.end() && *at == member)
+        m_members.erase(at);
+}
+
+bool Set::contains(int member) const
+{
+    return std::binary_search(m_members.begin(), m_members.end(), member);
 }
 
 } // namespace toolbox

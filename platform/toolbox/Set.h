@@ -1,17 +1,19 @@
 #pragma once
 #include <cstddef>
 #include <initializer_list>
-#include <set>
+#include <vector>
 
 namespace orrery {
 namespace toolbox {
 
 // A set of 1-based indices (zones, variables, collection members), iterated in
-// ascending order.
+// ascending order. Held as a sorted array: data sets hand out sets of a
+// million zones, which must copy and iterate cheaply; members are mostly
+// added in ascending order.
 class Set
 {
 public:
-    typedef std::set<int>::const_iterator const_iterator;
+    typedef std::vector<int>::const_iterator const_iterator;
 
     Set() = default;
     Set(std::initializer_list<int> members);
@@ -21,7 +23,7 @@ public:
     void remove(int member);
     void clear() { m_members.clear(); }
 
-    bool contains(int member) const { return m_members.count(member) != 0; }
+    bool contains(int member) const;
     size_t size() const { return m_members.size(); }
     bool isEmpty() const { return m_members.empty(); }
 
@@ -32,7 +34,7 @@ public:
     bool operator!=(const Set& other) const { return !(*this == other); }
 
 private:
-    std::set<int> m_members;
+    std::vector<int> m_members;
 };
 
 } // namespace toolbox
