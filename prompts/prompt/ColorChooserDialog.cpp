@@ -1,12 +1,15 @@
 #include "prompts/prompt/ColorChooserDialog.h"
 
+#include <exception>
 #include <QGridLayout>
 #include <QIcon>
 #include "framework/LaunchHelpAction.h"
+#include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/toolbox/StyleValue.h"
 #include "prompts/prompt/ColorChooserWidget.h"
+#include "prompts/prompt/RGBVariableSelectDialog.h"
 #include "ui_ColorChooser.h"
 
 namespace orrery {
@@ -106,9 +109,20 @@ void ColorChooserDialog::on_RGB_clicked(bool)
         colorSelected(RGBColoring);
 }
 
-bool askForRGBChannelVariables(QWidget&)
+bool askForRGBChannelVariables(QWidget& parent)
 {
-    return false;
+    try
+    {
+        VariableSelectDialog* variables = RGBVariableSelectDialog::getInstance(parent);
+        variables->launch();
+        return variables->result() == QDialog::Accepted;
+    }
+    catch (const std::exception& failure)
+    {
+        // Runs from a button: a dialog that cannot be set up counts as declined.
+        OrrUtilDialogMessageBox(failure.what(), MessageBoxType_Error);
+        return false;
+    }
 }
 
 } // namespace prompt

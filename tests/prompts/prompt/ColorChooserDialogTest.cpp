@@ -28,6 +28,18 @@ protected:
     {
         return button(dialog, QString("colorButton_%1").arg(position));
     }
+    // Presses a button of the variable dialog the chooser opens over itself.
+    static void answerVariableDialog(ColorChooserDialog& dialog, QDialogButtonBox::StandardButton answer, bool& asked)
+    {
+        QTimer::singleShot(0, &dialog, [&dialog, answer, &asked] {
+            for (QDialog* variables : dialog.findChildren<QDialog*>())
+                if (variables->isVisible())
+                {
+                    asked = true;
+                    user::press(*variables, answer);
+                }
+        });
+    }
     static void assignRGBChannels(long red, long green, long blue)
     {
         Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, red);
@@ -188,19 +200,27 @@ TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAsksForThemAndDeclining
     ColorChooserDialog* dialog = chooser();
     user::click(swatch(*dialog, 2));
     chooser();
-    // Whatever asks for the variables is declined.
-    QTimer::singleShot(0, [dialog] {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* asked = qobject_cast<QDialog*>(window); asked && asked != dialog && asked->isVisible())
-                asked->reject();
-        for (QDialog* asked : dialog->findChildren<QDialog*>())
-            if (asked->isVisible())
-                asked->reject();
-    });
+    bool asked = false;
+    answerVariableDialog(*dialog, QDialogButtonBox::Cancel, asked);
     user::click(button(*dialog, "RGB"));
+    EXPECT_TRUE(asked);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(dialog->selectedColor(), 1);
     EXPECT_EQ(Kernel::styleWriteCount(), 0);
+    EXPECT_TRUE(messageTexts().empty());
+}
+
+TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAnswersRGBColoringOnceTheyAreChosen)
+{
+    ColorChooserDialog* dialog = chooser();
+    bool asked = false;
+    answerVariableDialog(*dialog, QDialogButtonBox::Ok, asked);
+    user::click(button(*dialog, "RGB"));
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedColor(), -6);
+    for (const char* channel : {"RedChannelVar", "GreenChannelVar", "BlueChannelVar"})
+        EXPECT_NE(styleValue<long>({"GlobalRGB", channel}), 0) << channel;
 }
 
 } // namespace
