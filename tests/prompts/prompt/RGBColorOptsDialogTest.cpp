@@ -252,6 +252,10 @@ TEST_F(RGBColorOptsDialogTest, UnusableOutsideFieldPlotsAndWithoutDataButNeverBr
     Kernel::setPlotType(PlotType_Sketch);
     runIdle();
     EXPECT_FALSE(dialog->isEnabled());
+    Kernel::setFrameCount(0);
+    runIdle();
+    EXPECT_FALSE(dialog->isEnabled());
+    EXPECT_TRUE(messageTexts().empty());
 }
 
 } // namespace

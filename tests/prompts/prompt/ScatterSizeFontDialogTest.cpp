@@ -233,7 +233,7 @@ TEST_F(ScatterSizeFontDialogTest, FontEditsTheCurrentPlotsFontAndBoldChangesNoth
     EXPECT_EQ(styleValue<std::string>({"GlobalLinePlot", "BaseFontFamily"}), "Sans Serif");
 }
 
-TEST_F(ScatterSizeFontDialogTest, OpeningAssignsAScatterVariableAndEmptyDataLeavesItUsable)
+TEST_F(ScatterSizeFontDialogTest, OpeningAssignsAScatterVariableAndEmptyDataOrNoFrameBreakNothing)
 {
     loadSizeData();
     ScatterSizeFontDialog* dialog = openDialog();
@@ -245,6 +245,14 @@ TEST_F(ScatterSizeFontDialogTest, OpeningAssignsAScatterVariableAndEmptyDataLeav
     user::retype(*gridField(*dialog), "4", *child(*dialog, "scatterSizeFont_SymbolsFont_ComboBox"));
     runIdle();
     EXPECT_DOUBLE_EQ(relativeSize(), 4.0);
+
+    Kernel::setFrameCount(0);
+    runIdle();
+    EXPECT_FALSE(dialog->isEnabled());
+    Kernel::setFrameCount(1);
+    runIdle();
+    EXPECT_TRUE(dialog->isEnabled());
+    EXPECT_TRUE(messageTexts().empty());
 }
 
 } // namespace
