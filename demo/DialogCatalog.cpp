@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include "demo/ColorButtonDemoDialog.h"
 #include "demo/DemoUser.h"
+#include "platform/kernel/OrrUtil.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
@@ -175,10 +176,13 @@ RGBColorOptsDialog* openRGBColorOpts(QWidget& parent)
 {
     return RGBColorOptsDialog::getInstance(parent);
 }
+// Picks a mode and a red variable, then takes the variable back with the
+// host's undo: the open dialog follows.
 void driveRGBColorOpts(RGBColorOptsDialog& d)
 {
     d.findChild<QComboBox*>("rGBColorOpts_Mode_CmbBox")->setCurrentIndex(RGBMode_SpecifyRG);
     d.findChild<QComboBox*>("rGBColorOpts_RedVariable_CmbBox")->setCurrentIndex(0);
+    OrrUtilUndoPerform();
 }
 QString rgbColorOptsAnswers(RGBColorOptsDialog& d)
 {

@@ -13,8 +13,6 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 class ScatterSizeFontPropertiesGenerated;
-class FieldPlotTypeDependentRelevance;
-class RelevanceExpression;
 } // namespace propertymanager
 } // namespace ui
 } // namespace sdk
