@@ -1,5 +1,6 @@
 #include "platform/kernel/Kernel.h"
 #include <algorithm>
+#include <utility>
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -26,6 +27,7 @@ Kernel::Kernel() : m_style(*this)
 void Kernel::reset()
 {
     m_undo.clear();
+    m_journal.clear();
     m_style.reset();
     m_lastError.reset();
     m_messageBoxes.setHandler({});
@@ -36,9 +38,9 @@ void Kernel::reset()
     announce(StateChange_NewLayout);
 }
 
-void Kernel::setDataSet(const DataSet& dataSet)
+void Kernel::setDataSet(DataSet dataSet)
 {
-    m_dataSet = dataSet;
+    m_dataSet = std::move(dataSet);
     for (Frame& frame : m_frames) {
         useWholeDataSet(frame);
         frame.style().dropMembersAfter(m_dataSet.numZones());
@@ -175,6 +177,8 @@ bool Kernel::undo()
 {
     const UndoStack::Step step = m_undo.undo();
     m_style.restore(step, true);
+    if (!step.empty())
+        m_journal.recordUndo();
     return !step.empty();
 }
 
@@ -182,6 +186,8 @@ bool Kernel::redo()
 {
     const UndoStack::Step step = m_undo.redo();
     m_style.restore(step, false);
+    if (!step.empty())
+        m_journal.recordRedo();
     return !step.empty();
 }
 
