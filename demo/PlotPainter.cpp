@@ -167,6 +167,11 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         if (!OrrUtilVarGetMinMax(axes[a].var, &axes[a].min, &axes[a].max) || !(axes[a].max > axes[a].min)) {
             axes[a].min = isValue(axes[a].min) ? axes[a].min - 0.5 : 0.0;
             axes[a].max = axes[a].min + 1.0;
+        } else if (!threeD) {
+            // A margin, so that points on the edge of the range are not drawn over by the frame.
+            const double margin = 0.04 * (axes[a].max - axes[a].min);
+            axes[a].min -= margin;
+            axes[a].max += margin;
         }
     }
     if (axes[0].name.isEmpty() || axes[1].name.isEmpty() || (threeD && axes[2].name.isEmpty())) {
