@@ -19,7 +19,8 @@ const char* const WatchedPaths[] = {
     "FrameLayout/PlotType",          "GlobalRGB/RGBMode",        "GlobalRGB/RedChannelVar",
     "GlobalRGB/GreenChannelVar",     "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMin",
     "GlobalRGB/RangeMax",            "GlobalScatter/Var",        "GlobalScatter/RelativeSize",
-    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum"};
+    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum",
+    "GlobalTwoDVector/UVar",         "GlobalTwoDVector/VVar",    "FieldLayers/ShowVector"};
 
 QString codeName(StateChange_e code)
 {
