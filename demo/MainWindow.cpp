@@ -345,7 +345,9 @@ bool MainWindow::replayJournal(const QString& path)
     }
     if (!result.ok)
     {
-        complain(tr("Replay stopped after %1 commands. %2").arg(result.played).arg(QString::fromStdString(result.message)));
+        complain(tr("The replay stopped at a bad line; the %n command(s) before it were kept.\n%1", nullptr,
+                    result.played)
+                     .arg(QString::fromStdString(result.message)));
         return false;
     }
     report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));

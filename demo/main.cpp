@@ -23,7 +23,7 @@ int main(int argc, char** argv)
                                   "Open, drive and photograph every dialog and the plot after it, saving the "
                                   "pictures in <dir>, then exit.",
                                   "dir");
-    const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D, 3 XY line.", "n");
+    const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D, 3 XY line, 4 sketch, 5 polar line.", "n");
     parser.addOptions({replay, tour, plotType});
     parser.process(app);
 

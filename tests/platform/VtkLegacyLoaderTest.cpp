@@ -1,6 +1,8 @@
 #include <cmath>
+#include <random>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtEndian>
 #include "platform/kernel/Kernel.h"
@@ -186,6 +188,30 @@ TEST_F(VtkLoading, BadFilesAreRefusedWithFileAndLineAndTheDataSetKept)
 
     EXPECT_FALSE(DataLoaderRepository::getInstance().loaderNamed("VTK legacy")->load(folder.path().toStdString(), error));
     EXPECT_NE(error.find("is a folder"), std::string::npos) << error;
+}
+
+TEST_F(VtkLoading, DamagedSamplesAreEitherReadOrRefusedWithTheDataSetKept)
+{
+    std::mt19937 random(11);
+    for (const QFileInfo& sample : QDir(ORRERY_TEST_SAMPLES).entryInfoList({"*.vtk"}, QDir::Files)) {
+        QFile in(sample.absoluteFilePath());
+        ASSERT_TRUE(in.open(QIODevice::ReadOnly));
+        const QByteArray original = in.readAll();
+        ASSERT_TRUE(load(original)) << error;
+        for (int round = 0; round < 150; ++round) {
+            QByteArray damaged = original;
+            if (round % 3 == 0)
+                damaged.truncate(int(random() % unsigned(original.size())));
+            else
+                for (int flips = 0; flips < 1 + round % 4; ++flips)
+                    damaged[int(random() % unsigned(original.size()))] = char(random() % 256);
+            Kernel::instance().setDataSet(orrery::kernel::DataSet("Kept", {"A"}));
+            if (!load(damaged)) {
+                EXPECT_EQ(data().title(), "Kept");
+                EXPECT_EQ(error.rfind(path.toStdString(), 0), 0u) << error;
+            }
+        }
+    }
 }
 
 TEST_F(VtkLoading, ALongLoadReportsProgressAndCancellingItKeepsTheDataSet)
