@@ -177,6 +177,11 @@ TEST_F(VtkLoading, BadFilesAreRefusedWithFileAndLineAndTheDataSetKept)
         {"# vtk DataFile Version 3.0\nt\nBINARY\nDATASET STRUCTURED_GRID\nDIMENSIONS 2 1 1\nPOINTS 2 float\n\x01\x02",
          "more than the file holds"},
         {"# vtk DataFile Version 3.0\nt\nASCII\nDATASET POLYDATA\nPOINTS 0 float\n", "the data set has no points"},
+        {"# vtk DataFile Version 3.0\nt\nBINARY\nDATASET STRUCTURED_POINTS\nDIMENSIONS 2000000 1000000 9\n",
+         "line 5: the dimensions are too large"},
+        {"# vtk DataFile Version 3.0\nt\nBINARY\nDATASET STRUCTURED_POINTS\nDIMENSIONS 1000000 1000 1\n",
+         "more than the file holds"},
+        {head + "POINT_DATA 2\nTEXTURE_COORDINATES t 99999999999 float\n", "1 to 64 components"},
         {"# vtk DataFile Version 3.0\nt\nASCII\n" + QByteArray(5000, 'D'), "longer than 4096 characters"},
     };
     for (const auto& [content, reason] : bad) {
