@@ -262,8 +262,22 @@ private:
     static double decode(const Type& t, const unsigned char* p)
     {
         std::uint64_t bits = 0;
-        for (std::size_t i = 0; i < t.size; ++i)
-            bits = (bits << 8) | p[i];
+        if (t.size == 8) {
+            std::memcpy(&bits, p, 8);
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+            bits = __builtin_bswap64(bits);
+#endif
+        } else if (t.size == 4) {
+            std::uint32_t b32;
+            std::memcpy(&b32, p, 4);
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+            b32 = __builtin_bswap32(b32);
+#endif
+            bits = b32;
+        } else {
+            for (std::size_t i = 0; i < t.size; ++i)
+                bits = (bits << 8) | p[i];
+        }
         switch (t.kind) {
         case Kind::Char: return static_cast<std::int8_t>(bits);
         case Kind::UChar: return static_cast<std::uint8_t>(bits);
@@ -339,7 +353,8 @@ private:
         m_points = n;
         for (const char* axis : {"X", "Y", "Z"}) {
             m_names.push_back(axis);
-            m_columns.emplace_back(n);
+            m_columns.emplace_back();
+            m_columns.back().reserve(n);
         }
     }
 
@@ -360,7 +375,7 @@ private:
             m_read.values(t, 3 * run, block.data());
             for (std::uint64_t i = 0; i < run; ++i)
                 for (int a = 0; a < 3; ++a)
-                    m_columns[a][done + i] = block[3 * i + a];
+                    m_columns[a].push_back(block[3 * i + a]);
             done += run;
         }
     }
@@ -431,14 +446,13 @@ private:
             if (!dims[0])
                 m_in.fail("the " + m_kind + " data set has no DIMENSIONS.");
             setPoints(dims[0] * dims[1] * dims[2]);
-            std::uint64_t i = 0;
             for (std::uint64_t k = 0; k < dims[2]; ++k)
                 for (std::uint64_t j = 0; j < dims[1]; ++j)
-                    for (std::uint64_t l = 0; l < dims[0]; ++l, ++i) {
+                    for (std::uint64_t l = 0; l < dims[0]; ++l) {
                         const std::uint64_t at[3] = {l, j, k};
                         for (int a = 0; a < 3; ++a)
-                            m_columns[a][i] = axes[a].empty() ? origin[a] + spacing[a] * double(at[a])
-                                                              : axes[a][at[a]];
+                            m_columns[a].push_back(axes[a].empty() ? origin[a] + spacing[a] * double(at[a])
+                                                                   : axes[a][at[a]]);
                     }
         } else if (m_kind != "STRUCTURED_GRID" && m_kind != "UNSTRUCTURED_GRID" && m_kind != "POLYDATA") {
             m_in.fail("the data set kind " + m_kind.substr(0, 30) + " is not supported.");
@@ -613,11 +627,8 @@ private:
             if (components > 1)
                 varName += c < suffixes.size() ? suffixes[c] : "_" + std::to_string(c + 1);
             m_names.push_back(varName);
-            m_columns.emplace_back(tuples);
-        }
-        if (components == 1) {
-            m_read.values(t, tuples, m_columns[first].data());
-            return;
+            m_columns.emplace_back();
+            m_columns.back().reserve(tuples);
         }
         std::vector<double> block(components * 4096);
         for (std::uint64_t done = 0; done < tuples;) {
@@ -625,7 +636,7 @@ private:
             m_read.values(t, components * run, block.data());
             for (std::uint64_t i = 0; i < run; ++i)
                 for (std::uint64_t c = 0; c < components; ++c)
-                    m_columns[first + c][done + i] = block[components * i + c];
+                    m_columns[first + c].push_back(block[components * i + c]);
             done += run;
         }
     }
