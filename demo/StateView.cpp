@@ -23,7 +23,7 @@ const char* const WatchedPaths[] = {
     "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum",
     "ThreeDAxis/XDetail/VarNum",     "ThreeDAxis/YDetail/VarNum", "ThreeDAxis/ZDetail/VarNum",
     "GlobalTwoDVector/UVar",         "GlobalTwoDVector/VVar",    "GlobalThreeDVector/UVar",
-    "GlobalThreeDVector/VVar",       "GlobalThreeDVector/WVar"};
+    "GlobalThreeDVector/VVar",       "GlobalThreeDVector/WVar",     "FieldLayers/ShowVector"};
 
 QString codeName(StateChange_e code)
 {

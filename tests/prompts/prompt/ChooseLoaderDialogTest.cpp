@@ -120,18 +120,20 @@ TEST_F(ChooseLoaderDialogTest, SuggestedLoadersComeFirstUnderHeadersThenTheOther
 {
     ChooseLoaderDialog* dialog = chooser({pointCloud, textTable, pointCloud}, {".dat"});
     EXPECT_EQ(shownRows(*dialog), (Rows{"[Suggested Loaders]", "Point cloud", "Text table", "[]",
-                                        "[Other Available Loaders]", "Binary grid", "CSV table", "Zone blocks"}));
+                                        "[Other Available Loaders]", "Binary grid", "CSV table", "VTK legacy",
+                                        "Zone blocks"}));
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader (*.dat)");
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), Multiple);
 
     chooser({pointCloud}, {".dat", ".plt"}); // one suggestion still reads "Multiple"
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), Multiple);
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader (*.dat *.plt)");
-    EXPECT_EQ(shownRows(*dialog).size(), 8u);
+    EXPECT_EQ(shownRows(*dialog).size(), 9u);
 
     // Without suggestions all loaders are listed by name, without headers.
     chooser({}, {});
-    EXPECT_EQ(shownRows(*dialog), (Rows{"Binary grid", "CSV table", "Point cloud", "Text table", "Zone blocks"}));
+    EXPECT_EQ(shownRows(*dialog),
+              (Rows{"Binary grid", "CSV table", "Point cloud", "Text table", "VTK legacy", "Zone blocks"}));
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader ");
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), NoneFound);
     EXPECT_EQ(selectedText(*dialog), "<none>");
