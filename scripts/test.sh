@@ -9,7 +9,7 @@ mode="${1:-6}"
 bash scripts/check-layers.sh
 bash scripts/build.sh "$mode"
 if [ "$mode" = asan ]; then
-  export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:strict_string_checks=1:detect_stack_use_after_return=1"
+  export ASAN_OPTIONS="detect_leaks=1:detect_stack_use_after_return=1"
   export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan-suppressions.txt:print_suppressions=0"
   export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
   QT_QPA_PLATFORM=offscreen ctest --test-dir build/asan -j 2 --output-on-failure
