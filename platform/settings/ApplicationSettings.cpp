@@ -105,8 +105,9 @@ bool unescape(const std::string& text, size_t begin, size_t end, std::string& ou
 
 // Reads a regular file whole. Anything else (a pipe, a device, a folder) is
 // refused without blocking on it.
-bool readRegularFile(const std::string& path, std::string& content, std::string& problem)
+bool readRegularFile(const std::string& path, std::string& content, std::string& problem, bool& regular)
 {
+    regular = false;
     const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) {
         problem = std::strerror(errno);
@@ -119,9 +120,12 @@ bool readRegularFile(const std::string& path, std::string& content, std::string&
     else if (!S_ISREG(status.st_mode)) {
         problem = "not a regular file";
         ok = false;
-    } else if (status.st_size > MaximumFileSize) {
-        problem = "the file is too large";
-        ok = false;
+    } else {
+        regular = true;
+        if (status.st_size > MaximumFileSize) {
+            problem = "the file is too large";
+            ok = false;
+        }
     }
     char buffer[65536];
     while (ok) {
@@ -179,7 +183,10 @@ void ApplicationSettings::reload()
     if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
         return;
     std::string content, problem;
-    if (!readRegularFile(QFile::encodeName(path).toStdString(), content, problem)) {
+    bool regular = false;
+    if (!readRegularFile(QFile::encodeName(path).toStdString(), content, problem, regular)) {
+        // A regular file that could not be read whole is kept aside before it is replaced.
+        m_backupPending = regular || QFileInfo(path).isFile();
         report("Cannot read the settings file " + m_filePath + ": " + problem);
         return;
     }
