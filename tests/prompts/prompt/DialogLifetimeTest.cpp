@@ -20,7 +20,8 @@
 #endif
 #endif
 #ifdef ORRERY_UNDER_ASAN
-#include <sanitizer/allocator_interface.h>
+// From the sanitizer runtime (its header does not ship with every compiler).
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 using namespace dialogtest;
