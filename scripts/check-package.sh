@@ -19,5 +19,6 @@ if out=$(cmake -S examples/hello-host -B "$build/hello-host-qt$other" -DCMAKE_PR
                -DQT_VERSION_MAJOR="$other" 2>&1); then
   echo "package: a Qt $other host was not refused" >&2; exit 1
 fi
-tr -s " \n" "  " <<<"$out" | grep -q "was built with Qt $major" || { echo "$out" >&2; exit 1; }
+# CMake wraps long messages, at a point that depends on the prefix path.
+tr -s "[:space:]" " " <<<"$out" | grep -q "was built with Qt $major" || { echo "$out" >&2; exit 1; }
 echo "package: installed, found, linked and run; a Qt $other host is refused"
