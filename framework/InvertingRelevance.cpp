@@ -1,9 +1,10 @@
 #include "framework/InvertingRelevance.h"
+#include "platform/common/RequireArgument.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 InvertingRelevance::InvertingRelevance(const boost::shared_ptr<const RelevanceInterface>& inverted)
-    : m_inverted(inverted)
+    : m_inverted(requireNonNull(inverted, "The relevance to invert"))
 {
     m_relay = inverted->connectToRelevanceChangedSignal([this] { emitRelevanceChanged(); });
 }

@@ -1,5 +1,6 @@
 #include "framework/QtDialogAbstract.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QKeySequence>
@@ -102,7 +103,43 @@ void QtDialogAbstract::showEvent(QShowEvent* event)
 
 void QtDialogAbstract::applyRelevance()
 {
-    setEnabled(isRelevant());
+    const bool relevant = isRelevant();
+    if (relevant) {
+        if (!m_holdingDisabled)
+            return;
+        m_holdingDisabled = false;
+        for (const QPointer<QWidget>& widget : m_heldDisabled)
+            if (widget)
+                widget->setEnabled(true);
+        m_heldDisabled.clear();
+        return;
+    }
+    if (m_holdingDisabled)
+        return;
+    m_holdingDisabled = true;
+    const auto hold = [this](QWidget* widget) {
+        // Qt keeps an explicit disable apart from one inherited from a parent.
+        if (widget->testAttribute(Qt::WA_ForceDisabled))
+            return;
+        widget->setEnabled(false);
+        m_heldDisabled.emplace_back(widget);
+    };
+    // Disabling the dialog itself would take Cancel and Escape with it.
+    for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child->isWindow())
+            continue;
+        auto* box = qobject_cast<QDialogButtonBox*>(child);
+        if (!box) {
+            hold(child);
+            continue;
+        }
+        for (QAbstractButton* button : box->buttons()) {
+            const QDialogButtonBox::ButtonRole role = box->buttonRole(button);
+            if (role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole
+                || role == QDialogButtonBox::ApplyRole)
+                hold(button);
+        }
+    }
 }
 
 void QtDialogAbstract::wireButtonBoxes()

@@ -1,5 +1,7 @@
 #pragma once
+#include <vector>
 #include <QDialog>
+#include <QPointer>
 #include <boost/shared_ptr.hpp>
 #include <boost/signals2/connection.hpp>
 #include "framework/DialogInterface.h"
@@ -11,9 +13,11 @@ namespace orrery {
 namespace dialogs {
 namespace common {
 
-// Base of the host's dialogs. It keeps the dialog usable only while its
-// relevance holds, owns the help action (F1 and a Help button), and makes the
-// OK and Cancel buttons of layouts that connect nothing end the dialog.
+// Base of the host's dialogs. While its relevance does not hold, the dialog's
+// content and its accepting buttons (OK, Yes, Apply) are disabled, but Cancel,
+// Close, Help and Escape keep working, so the user can always get out. It owns
+// the help action (F1 and a Help button), and makes the OK and Cancel buttons
+// of layouts that connect nothing end the dialog.
 class QtDialogAbstract : public QDialog, public virtual DialogInterface
 {
     Q_OBJECT
@@ -47,6 +51,10 @@ private:
     RelevancePtr m_relevance;
     boost::signals2::scoped_connection m_relevanceConnection;
     QAction* m_helpAction = nullptr;
+    // The widgets this frame disabled for want of relevance; only these are
+    // enabled again, so a widget disabled for its own reasons stays disabled.
+    std::vector<QPointer<QWidget>> m_heldDisabled;
+    bool m_holdingDisabled = false;
 };
 
 } // namespace common

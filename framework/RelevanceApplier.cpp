@@ -1,11 +1,12 @@
 #include "framework/RelevanceApplier.h"
+#include "platform/common/RequireArgument.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 RelevanceApplier::RelevanceApplier(const boost::shared_ptr<const propertymanager::RelevanceInterface>& relevance,
                                    const std::vector<QWidget*>& widgets, Manifestation_e manifestation,
                                    BindingInterface::WidgetUpdateMode_e mode)
-    : m_relevance(relevance), m_widgets(widgets.begin(), widgets.end()), m_manifestation(manifestation), m_mode(mode),
+    : m_relevance(requireNonNull(relevance, "The relevance to apply")), m_widgets(widgets.begin(), widgets.end()), m_manifestation(manifestation), m_mode(mode),
       m_idleApplier([this] { apply(); })
 {
     m_connection = relevance->connectToRelevanceChangedSignal([this] { relevanceChanged(); });

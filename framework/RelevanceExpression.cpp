@@ -1,4 +1,5 @@
 #include "framework/RelevanceExpression.h"
+#include "platform/common/RequireArgument.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
@@ -21,6 +22,7 @@ RelevanceExpression& RelevanceExpression::oor(const boost::shared_ptr<const Rele
 
 RelevanceExpression& RelevanceExpression::add(Operator_e op, const boost::shared_ptr<const RelevanceInterface>& term)
 {
+    requireNonNull(term, "A term of a relevance expression");
     m_terms.push_back(Term{op, term});
     m_relays.add(term->connectToRelevanceChangedSignal([this] { emitRelevanceChanged(); }));
     return *this;

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs, only those that are missing.
-# Usage: scripts/install-deps.sh [5|6]...   (Qt major versions wanted; default 6)
+# Usage: scripts/install-deps.sh [5|6|fuzz]...   (Qt major versions wanted, and the
+# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
 pkgs=(cmake g++ make ccache libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
@@ -8,6 +9,7 @@ for m in "${majors[@]}"; do
   case "$m" in
     6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins) ;;
     5) pkgs+=(qtbase5-dev qtbase5-dev-tools) ;;
+    fuzz) pkgs+=(clang-14 libclang-rt-14-dev clang) ;;
     *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
   esac
 done

@@ -1,9 +1,19 @@
 #!/usr/bin/env bash
-# Builds and runs every test. Usage: scripts/test.sh [5|6]   (Qt major version, default 6)
+# Builds and runs every test. Usage: scripts/test.sh [5|6|asan]   (default 6)
+#   5, 6: the Qt major version; also installs the package and builds the example host against it
+#   asan: the Qt 6 tests under AddressSanitizer and UndefinedBehaviorSanitizer, leak checking on;
+#         the first report fails the test that caused it
 set -euo pipefail
 cd "$(dirname "$0")/.."
-major="${1:-6}"
+mode="${1:-6}"
 bash scripts/check-layers.sh
-bash scripts/build.sh "$major"
-QT_QPA_PLATFORM=offscreen ctest --test-dir "build/qt$major" -j 2 --output-on-failure
-bash scripts/check-package.sh "$major"
+bash scripts/build.sh "$mode"
+if [ "$mode" = asan ]; then
+  export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0:strict_string_checks=1:detect_stack_use_after_return=1"
+  export LSAN_OPTIONS="suppressions=$PWD/scripts/lsan-suppressions.txt:print_suppressions=0"
+  export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
+  QT_QPA_PLATFORM=offscreen ctest --test-dir build/asan -j 2 --output-on-failure
+else
+  QT_QPA_PLATFORM=offscreen ctest --test-dir "build/qt$mode" -j 2 --output-on-failure
+  bash scripts/check-package.sh "$mode"
+fi

@@ -4,6 +4,7 @@
 #include <boost/signals2/signal.hpp>
 
 #include "platform/common/PropertyItemInterface.h"
+#include "platform/common/RequireArgument.h"
 #include "core/property/AllowAnyValueValidator.h"
 #include "core/property/InvalidPropertyValueException.h"
 #include "core/property/ValueEquality.h"
@@ -67,7 +68,10 @@ public:
     size_t valueChangedListenerCount() const { return m_valueChanged.num_slots() - 1; }
 
 protected:
-    void setValidator(const boost::shared_ptr<const ValidatorInterface<T>>& validator) { m_validator = validator; }
+    void setValidator(const boost::shared_ptr<const ValidatorInterface<T>>& validator)
+    {
+        m_validator = requireNonNull(validator, "A property's validator");
+    }
 
     mutable ValueChangedSignal m_valueChanged;
 

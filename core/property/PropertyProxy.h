@@ -30,7 +30,7 @@ public:
     // Exchanges the target without any notification.
     void reset(const boost::shared_ptr<PropertyAbstract<T>>& target)
     {
-        m_target = target;
+        m_target = requireNonNull(target, "The target of a property proxy");
         m_forward.disconnect();
         // Chaining signal to signal: the slot expires with the proxy's signal.
         m_forward = target->connectToValueChangedSignal(
@@ -40,6 +40,7 @@ public:
     // Exchanges the target and announces the value when it differs from the old one.
     void setProperty(const boost::shared_ptr<PropertyAbstract<T>>& target)
     {
+        requireNonNull(target, "The target of a property proxy");
         if (target == m_target)
             return;
         const T before = m_target->retrieveValue();

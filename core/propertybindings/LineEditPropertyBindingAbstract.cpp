@@ -69,6 +69,8 @@ LineEditPropertyBindingAbstract<T>::LineEditPropertyBindingAbstract(
 template <typename T>
 bool LineEditPropertyBindingAbstract<T>::editingFinished()
 {
+    if (m_field->text() == m_shownText)
+        return true;
     AppLock lock(AppLock::ImplicitMacroRecording_Allow);
     QString text = m_field->text();
     intern::StringMassager().prepareText(this->property(), text);
@@ -109,6 +111,13 @@ bool LineEditPropertyBindingAbstract<T>::validateText(QString& text) const
         state = validator->validate(text, position);
     }
     return state == QValidator::Acceptable;
+}
+
+template <typename T>
+void LineEditPropertyBindingAbstract<T>::showText(const QString& text)
+{
+    m_shownText = text;
+    m_field->setText(text);
 }
 
 template <typename T>

@@ -20,7 +20,10 @@ public:
     LineEditPropertyBindingAbstract(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,
                                     BindingInterface::WidgetUpdateMode_e mode);
 
-    // Commits the field's text. True when the value was stored or already held.
+    // Commits the field's text. True when the value was stored or already held,
+    // and when the field still shows what the binding put there: a value the
+    // user did not edit is never rewritten from its display form (which may
+    // round it, or be a text such as "inf" that no edit could produce).
     bool editingFinished();
 
 protected:
@@ -35,6 +38,8 @@ protected:
     };
 
     QLineEdit* lineEdit() const { return m_field; }
+    // Shows a value; a commit of this very text is no edit.
+    void showText(const QString& text);
 
 private:
     bool validateText(QString& text) const;
@@ -42,6 +47,7 @@ private:
 
     std::unique_ptr<qwidgetobservable::QTextFieldObservable> m_observable;
     QLineEdit* m_field;
+    QString m_shownText;
 };
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings

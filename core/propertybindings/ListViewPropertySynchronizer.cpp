@@ -14,6 +14,21 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
+namespace {
+
+template <typename C>
+bool sameValues(const C& a, const C& b)
+{
+    if (a.size() != b.size())
+        return false;
+    std::vector<int> sortedA(a.begin(), a.end()), sortedB(b.begin(), b.end());
+    std::sort(sortedA.begin(), sortedA.end());
+    std::sort(sortedB.begin(), sortedB.end());
+    return sortedA == sortedB;
+}
+
+} // namespace
+
 template <typename C>
 ListViewPropertySynchronizer<C>::ListViewPropertySynchronizer(QListView& view,
                                                               const boost::shared_ptr<PropertyAbstract<C>>& property,
@@ -66,6 +81,10 @@ void ListViewPropertySynchronizer<C>::updatePropertyFromWidget()
     C values;
     for (int row : selectedRows())
         values.insert(values.end(), m_rows->get(row));
+    // The selection holds no order: the same values selected are the value
+    // held, in whatever order the property keeps them.
+    if (sameValues(values, m_property->retrieveValue()))
+        return;
     bool refused = false;
     {
         m_propertyWatcher.enable(false);
@@ -162,6 +181,21 @@ void ListViewPropertySynchronizer<C>::selectRows(const std::vector<int>& wanted)
         selection->select(rangesOf(wanted), QItemSelectionModel::Select);
     }
     Q_EMIT selection->selectionChanged(rangesOf(added), rangesOf(removed));
+    showSelection(wanted);
+}
+
+// The keyboard goes on from the selection (Down selects the row after it, not
+// the first row), and a selection set from the property is scrolled into view.
+template <typename C>
+void ListViewPropertySynchronizer<C>::showSelection(const std::vector<int>& sortedRows)
+{
+    if (sortedRows.empty())
+        return;
+    QItemSelectionModel* selection = m_view.selectionModel();
+    const QModelIndex current = selection->currentIndex();
+    if (!current.isValid() || !std::binary_search(sortedRows.begin(), sortedRows.end(), current.row()))
+        selection->setCurrentIndex(m_qtModel->index(sortedRows.front(), 0), QItemSelectionModel::NoUpdate);
+    m_view.scrollTo(selection->currentIndex());
 }
 
 template <typename C>

@@ -48,6 +48,7 @@ private:
     std::vector<int> rowsHolding(const C& values) const;
     std::vector<int> selectedRows() const;
     void selectRows(const std::vector<int>& wanted);
+    void showSelection(const std::vector<int>& sortedRows);
     QItemSelection rangesOf(const std::vector<int>& sortedRows) const;
 
     QListView& m_view;

@@ -1,6 +1,7 @@
 #include "core/propertybindings/RadioButtonPropertyBinding.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include "platform/kernel/OrrTypes.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
@@ -26,15 +27,23 @@ template <typename T>
 void RadioButtonPropertyBinding<T>::updateWidget()
 {
     const bool checked = this->property().retrieveValue() == m_buttonValue;
-    if (checked || !m_button->autoExclusive()) {
+    QButtonGroup* group = m_button->group();
+    const bool inExclusiveGroup = group && group->exclusive();
+    if (checked || !m_button->isChecked() || (!m_button->autoExclusive() && !inExclusiveGroup)) {
         m_button->setChecked(checked);
         return;
     }
-    // An exclusive radio button refuses to be switched off on its own; a value
-    // that no button of the group stands for must leave all of them unchecked.
+    // An exclusive button (auto-exclusive, or in an exclusive QButtonGroup)
+    // refuses to be switched off on its own; a value that no button of the
+    // group stands for must leave all of them unchecked.
+    const bool autoExclusive = m_button->autoExclusive();
     m_button->setAutoExclusive(false);
+    if (inExclusiveGroup)
+        group->setExclusive(false);
     m_button->setChecked(false);
-    m_button->setAutoExclusive(true);
+    if (inExclusiveGroup)
+        group->setExclusive(true);
+    m_button->setAutoExclusive(autoExclusive);
 }
 
 template <typename T>

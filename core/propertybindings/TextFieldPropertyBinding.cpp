@@ -19,7 +19,7 @@ template <typename T>
 void TextFieldPropertyBinding<T>::updateWidget()
 {
     const std::string text = (boost::format(m_format) % this->property().retrieveValue()).str();
-    this->lineEdit()->setText(QString::fromUtf8(text.c_str()));
+    this->showText(QString::fromUtf8(text.c_str()));
     if (m_cursor == CursorPosition_Home)
         this->lineEdit()->home(false);
 }

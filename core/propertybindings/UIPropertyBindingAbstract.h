@@ -22,7 +22,7 @@ public:
     typedef propertymanager::UIStylePropertyAbstract<T> StyleProperty;
 
     UIPropertyBindingAbstract(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
-        : m_mode(mode), m_styleProperty(nullptr), m_property(*property), m_propertyKeeper(property),
+        : m_mode(mode), m_styleProperty(nullptr), m_property(*requireNonNull(property, "The property of a binding")), m_propertyKeeper(property),
           m_valueUpdater([this] { updateWidget(); })
     {
         startListeningToProperty();

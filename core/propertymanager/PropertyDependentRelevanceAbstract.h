@@ -1,5 +1,6 @@
 #pragma once
 #include <boost/shared_ptr.hpp>
+#include "platform/common/RequireArgument.h"
 #include "core/property/PropertyAbstract.h"
 #include "core/propertymanager/RelevanceInterface.h"
 
@@ -15,7 +16,7 @@ class PropertyDependentRelevanceAbstract : public virtual RelevanceInterface
 {
 public:
     explicit PropertyDependentRelevanceAbstract(const boost::shared_ptr<const PropertyAbstract<T>>& property)
-        : m_property(property)
+        : m_property(requireNonNull(property, "The property of a relevance"))
     {
         m_connection = m_property->connectToValueChangedSignal([this](const T&) { emitRelevanceChanged(); });
     }

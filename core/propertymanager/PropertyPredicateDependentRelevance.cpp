@@ -1,4 +1,5 @@
 #include "core/propertymanager/PropertyPredicateDependentRelevance.h"
+#include "platform/common/RequireArgument.h"
 
 namespace orrery {
 namespace sdk {
@@ -9,6 +10,9 @@ PropertyPredicateDependentRelevance::PropertyPredicateDependentRelevance(
     const boost::shared_ptr<const PropertyItemInterface>& property, const boost::function<bool ()>& predicate)
     : m_predicate(predicate)
 {
+    requireNonNull(property, "The property of a relevance");
+    if (!predicate)
+        throw InvalidArgumentException("The predicate of a relevance must not be empty");
     m_connections.add(property->connectToPropertyChangedSignal([this] { emitRelevanceChanged(); }));
 }
 

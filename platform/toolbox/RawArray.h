@@ -1,6 +1,8 @@
 #pragma once
 #include <algorithm>
 #include <cstddef>
+#include <string>
+#include "platform/common/InvalidArgumentException.h"
 
 namespace orrery {
 
@@ -16,8 +18,10 @@ public:
     RawArray() : m_slot(&m_ownSlot) {}
 
     RawArray(T** dataSlot, T* storage, size_t capacity)
-        : m_slot(dataSlot ? dataSlot : &m_ownSlot), m_data(storage), m_capacity(capacity)
+        : m_slot(dataSlot ? dataSlot : &m_ownSlot), m_data(storage), m_capacity(storage ? capacity : 0)
     {
+        if (!storage && capacity > 0)
+            throw InvalidArgumentException("RawArray: a capacity was given without storage");
         *m_slot = m_data;
     }
 
@@ -44,8 +48,12 @@ public:
         m_size += other.m_size;
     }
 
+    // Never below the size: the elements held must fit.
     void enlargeCapacity(size_t capacity)
     {
+        if (capacity < m_size)
+            throw InvalidArgumentException("RawArray: capacity " + std::to_string(capacity) + " is below the size "
+                                           + std::to_string(m_size));
         T* grown = new T[capacity];
         std::copy(m_data, m_data + m_size, grown);
         releaseOwned();

@@ -73,6 +73,14 @@ void ChooseLoaderDialog::accept()
     QtDialogAbstract::accept();
 }
 
+void ChooseLoaderDialog::showEvent(QShowEvent* event)
+{
+    QtDialogAbstract::showEvent(event);
+    QListView* list = m_impl->ui.LoadersList;
+    if (list->currentIndex().isValid())
+        list->scrollTo(list->currentIndex());
+}
+
 void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
                                  std::set<std::string> const& extensions)
 {

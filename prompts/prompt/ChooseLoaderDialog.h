@@ -38,6 +38,10 @@ public Q_SLOTS:
     // Remembers the choice for the file's extension, then accepts.
     void accept() override;
 
+protected:
+    // A remembered loader far down a long list is brought into sight.
+    void showEvent(QShowEvent* event) override;
+
 private:
     void refresh(std::vector<LoaderPtr> const& suggestedLoaders, std::set<std::string> const& extensions);
 

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include "framework/HelpViewer.h"
@@ -80,11 +81,17 @@ TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutCon
     }
 }
 
-TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneIsDisabledUntilRelevantAgain)
+TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneKeepsOnlyItsWayOutUntilRelevantAgain)
 {
     auto relevant = boost::make_shared<Property<bool>>(false);
     {
         ProbeDialog dialog(parent, boost::make_shared<PropertyDependentRelevance<bool>>(relevant, true), false);
+        auto* field = new QLineEdit(&dialog);
+        auto* ownOff = new QLineEdit(&dialog); // disabled for the dialog's own reasons
+        ownOff->setEnabled(false);
+        dialog.setHelpAction(new QAction(&dialog));
+        QPushButton* ok = dialog.box->button(QDialogButtonBox::Ok);
+        QPushButton* cancel = dialog.box->button(QDialogButtonBox::Cancel);
         dialog.launch();
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
@@ -92,16 +99,32 @@ TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneIsDis
         relevant->setValue(true);
         dialog.launch();
         ASSERT_TRUE(dialog.isVisible());
-        EXPECT_TRUE(dialog.isEnabled());
+        EXPECT_TRUE(field->isEnabled());
+        EXPECT_TRUE(ok->isEnabled());
 
         relevant->setValue(false);
-        EXPECT_FALSE(dialog.isEnabled());
+        EXPECT_FALSE(field->isEnabled());
+        EXPECT_FALSE(ok->isEnabled());
+        EXPECT_TRUE(cancel->isEnabled());
+        ASSERT_NE(dialog.box->button(QDialogButtonBox::Help), nullptr);
+        EXPECT_TRUE(dialog.box->button(QDialogButtonBox::Help)->isEnabled());
         dialog.accept(); // e.g. a keyboard accept racing the change: not taken as an answer
         EXPECT_EQ(dialog.result(), QDialog::Rejected);
 
+        // Escape and Cancel still close it.
         dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+        EXPECT_FALSE(dialog.isVisible());
+        dialog.show();
+        user::click(cancel);
+        EXPECT_FALSE(dialog.isVisible());
+
+        dialog.show();
+        relevant->setValue(false); // no change: nothing is held twice
         relevant->setValue(true);
-        EXPECT_TRUE(dialog.isEnabled());
+        EXPECT_TRUE(field->isEnabled());
+        EXPECT_TRUE(ok->isEnabled());
+        EXPECT_FALSE(ownOff->isEnabled());
     }
     relevant->setValue(false); // the relevance outlives the dialog and must not reach it
 

@@ -111,3 +111,16 @@ TEST_F(RelevanceClassesTest, ApplierShowsWidgetsOnEveryChangeOrOnceOnIdle)
     gone.reset();
     s.value->setValue(false);
 }
+
+TEST(HostRelevanceClasses, ANullRelevanceIsRefusedWhereGiven)
+{
+    typedef boost::shared_ptr<const RelevanceInterface> Relevance;
+    EXPECT_THROW(InvertingRelevance{Relevance()}, InvalidArgumentException);
+    EXPECT_THROW(RelevanceExpression{Relevance()}, InvalidArgumentException);
+    auto flag = boost::make_shared<Property<bool>>(true);
+    RelevanceExpression expression(boost::make_shared<PropertyDependentRelevance<bool>>(flag, true));
+    EXPECT_THROW(expression.aand(Relevance()), InvalidArgumentException);
+    EXPECT_TRUE(expression.isRelevant()); // the refused term left no trace
+    QLabel label;
+    EXPECT_THROW(RelevanceApplier(Relevance(), {&label}), InvalidArgumentException);
+}

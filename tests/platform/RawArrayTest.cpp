@@ -46,3 +46,20 @@ TEST(RawArrayGrowth, StepIsHalfTheCapacityButAtLeast32)
     EXPECT_EQ(150u, b.capacity());
     EXPECT_EQ(100, b[100]);
 }
+
+TEST(RawArrayGrowth, ACapacityBelowTheSizeOrWithoutStorageIsRefusedAndTheElementsAreKept)
+{
+    RawArray<long> a;
+    for (long i = 0; i < 40; ++i)
+        a.push_back(i);
+    EXPECT_THROW(a.enlargeCapacity(10), orrery::InvalidArgumentException);
+    EXPECT_EQ(40u, a.size());
+    a.push_back(40); // still room where the elements are, no overflow
+    EXPECT_EQ(40, a[40]);
+    EXPECT_EQ(0, a[0]);
+    a.enlargeCapacity(a.size()); // exactly the size is fine
+    EXPECT_EQ(41u, a.capacity());
+
+    long* slot = nullptr;
+    EXPECT_THROW(RawArray<long>(&slot, nullptr, 8), orrery::InvalidArgumentException);
+}

@@ -155,3 +155,20 @@ TEST(PropertyProxy, RetargetingAnnouncesOnlyAVisibleChange)
     a->setValue(false);
     EXPECT_EQ(2u, rec.values.size());
 }
+
+TEST(PropertyProxy, ANullTargetOrValidatorIsRefusedWhereGivenAndTheProxyKeepsWorking)
+{
+    typedef boost::shared_ptr<PropertyAbstract<long>> Target;
+    typedef boost::shared_ptr<const ValidatorInterface<long>> Validator;
+    auto target = boost::make_shared<Property<long>>(1L);
+    EXPECT_THROW(PropertyProxy<long>{Target()}, InvalidArgumentException);
+    EXPECT_THROW(PropertyProxy<long>(target, Validator()), InvalidArgumentException);
+    EXPECT_THROW(Property<long>(1L, boost::shared_ptr<ValidatorInterface<long>>()), InvalidArgumentException);
+
+    PropertyProxy<long> proxy(target);
+    EXPECT_THROW(proxy.reset(Target()), InvalidArgumentException);
+    EXPECT_THROW(proxy.setProperty(Target()), InvalidArgumentException);
+    EXPECT_EQ(target, proxy.target());
+    proxy.setValue(5);
+    EXPECT_EQ(5, target->getValue());
+}

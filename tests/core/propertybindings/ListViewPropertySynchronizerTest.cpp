@@ -123,3 +123,49 @@ TEST_F(ListViewSynchronizerTest, ARefusedSelectionIsReportedAndTakenBackOnIdle)
     runIdle();
     EXPECT_EQ(selectedRows(), std::vector<int>({1}));
 }
+
+TEST_F(ListViewSynchronizerTest, ARebuildKeepingTheSelectedValuesLeavesAVectorPropertyInItsOwnOrder)
+{
+    typedef std::vector<int> Ordered;
+    auto values = boost::make_shared<Property<Ordered>>(Ordered{40, 20});
+    auto list = boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{10, "a"}, {20, "b"}, {30, "c"}, {40, "d"}});
+    for (auto mode : {BindingInterface::WidgetUpdateMode_Immediate, BindingInterface::WidgetUpdateMode_OnIdle}) {
+        values->setValue({40, 20});
+        ListViewPropertySynchronizer<Ordered> vs(view, values, list, mode);
+        view.setSelectionMode(QAbstractItemView::MultiSelection);
+        runIdle();
+        EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
+        Emissions<Ordered> emissions(*values);
+        list->replaceAll({{10, "a"}, {20, "b"}, {30, "c"}, {40, "d"}});
+        runIdle();
+        EXPECT_EQ(values->getValue(), Ordered({40, 20}));
+        EXPECT_EQ(emissions.count(), 0u);
+        // A rebuild that loses a value still drops it.
+        list->replaceAll({{10, "a"}, {40, "d"}});
+        runIdle();
+        EXPECT_EQ(values->getValue(), Ordered({40}));
+        list->replaceAll({{10, "a"}, {20, "b"}, {30, "c"}, {40, "d"}});
+        runIdle();
+    }
+}
+
+TEST_F(ListViewSynchronizerTest, ASelectionFromThePropertyBecomesTheCurrentRowAndIsScrolledIntoSight)
+{
+    rows = boost::make_shared<TestListModel>(TestListModel::numbered(300, 1));
+    property->setValue({251});
+    view.resize(200, 120);
+    ASSERT_TRUE(showWindow());
+    auto s = synchronize();
+    view.setSelectionMode(QAbstractItemView::SingleSelection);
+    EXPECT_EQ(view.currentIndex().row(), 250);
+    EXPECT_TRUE(view.viewport()->rect().intersects(view.visualRect(view.currentIndex())));
+    // The keyboard goes on from there.
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(property->getValue(), Values({252}));
+
+    property->setValue({3});
+    runIdle();
+    EXPECT_EQ(view.currentIndex().row(), 2);
+    EXPECT_TRUE(view.viewport()->rect().intersects(view.visualRect(view.currentIndex())));
+}

@@ -1,4 +1,5 @@
 // A group of radio buttons editing one property, clicked as a user would.
+#include <QButtonGroup>
 #include "tests/core/propertybindings/BindingTestSupport.h"
 #include "core/propertybindings/RadioButtonPropertyBinding.h"
 
@@ -68,4 +69,28 @@ TEST_F(RadioButtonBindingTest, ARefusedValueIsReportedOnceAndTheGroupRestoredOnI
     EXPECT_EQ(refusing->getValue(), Font_Greek);
     runIdle();
     EXPECT_EQ(checked(), std::vector<bool>({false, true, false}));
+}
+
+TEST_F(RadioButtonBindingTest, AValueNoButtonStandsForUnchecksAnExclusiveButtonGroupToo)
+{
+    ASSERT_TRUE(showWindow());
+    bind(font);
+    QButtonGroup group;
+    for (const auto& button : buttons)
+        group.addButton(button.get());
+    ASSERT_TRUE(group.exclusive());
+    EXPECT_EQ(checked(), std::vector<bool>({false, true, false}));
+    font->setValue(Font_UserDefined);
+    runIdle();
+    EXPECT_EQ(checked(), std::vector<bool>({false, false, false}));
+    EXPECT_EQ(group.checkedButton(), nullptr);
+    EXPECT_EQ(font->getValue(), Font_UserDefined);
+
+    // The group is exclusive again afterwards: a click still checks exactly one.
+    user::click(buttons[2].get());
+    EXPECT_EQ(font->getValue(), Font_Math);
+    user::click(buttons[0].get());
+    runIdle();
+    EXPECT_TRUE(group.exclusive());
+    EXPECT_EQ(checked(), std::vector<bool>({true, false, false}));
 }

@@ -1,6 +1,10 @@
 // Line edits committed by Return or by leaving them, typed into as a user would.
+#include <cmath>
+#include <limits>
+#include <QDialog>
 #include <QDoubleValidator>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include "tests/core/propertybindings/BindingTestSupport.h"
 #include "core/propertybindings/TextFieldPropertyBinding.h"
@@ -125,4 +129,40 @@ TEST_F(TextFieldBindingTest, ALaterBindingReplacesOnlyAValidatorABindingInstalle
     other.setText(QStringLiteral("5"));
     EXPECT_FALSE(onOwn.editingFinished());
     EXPECT_EQ(other.text(), QStringLiteral("0.5"));
+}
+
+TEST_F(TextFieldBindingTest, AnUntouchedFieldNeverRewritesTheValueNorBlocksTheDefaultButton)
+{
+    // Return in a field the user did not edit keeps the full value, not the shown rounding.
+    number->setValue(1234567);
+    NumberBinding binding(&field, number);
+    Emissions<double> emissions(*number);
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_TRUE(binding.editingFinished());
+    EXPECT_DOUBLE_EQ(number->getValue(), 1234567.0);
+    EXPECT_EQ(emissions.count(), 0u);
+    // An edit is still an edit, even one back to the shown text after typing.
+    user::typeAndReturn(field, QStringLiteral("1234567"));
+    EXPECT_EQ(emissions.count(), 0u); // the same value
+    user::typeAndReturn(field, QStringLiteral("7"));
+    EXPECT_EQ(emissions.values, std::vector<double>({7.0}));
+
+    // A value no edit can produce lets Return through to the dialog's default button.
+    QDialog dialog(&window);
+    QLineEdit* inDialog = new QLineEdit(&dialog);
+    QPushButton* ok = new QPushButton(QStringLiteral("OK"), &dialog);
+    ok->move(0, 40);
+    ok->setDefault(true);
+    QObject::connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+    auto infinite = boost::make_shared<Property<double>>(std::numeric_limits<double>::infinity());
+    NumberBinding infiniteBinding(inDialog, infinite);
+    EXPECT_EQ(inDialog->text(), QStringLiteral("inf"));
+    user::open(dialog);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    inDialog->setFocus();
+    QTest::keyClick(inDialog, Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(std::isinf(infinite->getValue()));
 }

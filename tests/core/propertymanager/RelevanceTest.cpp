@@ -1,4 +1,5 @@
 #include "core/propertymanager/PropertyDependentRelevance.h"
+#include "core/propertymanager/PropertyPredicateDependentRelevance.h"
 #include "tests/support/TestSupport.h"
 
 using namespace orrery;
@@ -35,4 +36,16 @@ TEST(PropertyDependentRelevance, FollowsTheValueAndFiresOncePerRealChangeEvenWhe
     EXPECT_EQ(1, relevantCount);
     // 0 -> 0 is no change; 1, 2 and 3 each fire, even when the answer stays false.
     EXPECT_EQ(3, changes.count);
+}
+
+TEST(PropertyDependentRelevance, ANullPropertyOrAnEmptyPredicateIsRefusedWhereGiven)
+{
+    EXPECT_THROW(PropertyDependentRelevance<bool>(boost::shared_ptr<PropertyAbstract<bool>>(), true),
+                 InvalidArgumentException);
+    auto flag = boost::make_shared<Property<bool>>(false);
+    EXPECT_THROW(PropertyPredicateDependentRelevance(boost::shared_ptr<const PropertyItemInterface>(), [] { return true; }),
+                 InvalidArgumentException);
+    EXPECT_THROW(PropertyPredicateDependentRelevance(flag, boost::function<bool ()>()), InvalidArgumentException);
+    PropertyPredicateDependentRelevance usable(flag, [flag] { return flag->getValue(); });
+    EXPECT_FALSE(usable.isRelevant());
 }

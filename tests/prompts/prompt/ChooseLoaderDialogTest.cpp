@@ -221,4 +221,31 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestar
     EXPECT_TRUE(ok(*dialog)->isEnabled());
 }
 
+TEST_F(ChooseLoaderDialogTest, ARememberedLoaderFarDownALongListIsTheCurrentRowAndInSight)
+{
+    std::vector<LoaderPtr> many;
+    for (int i = 10; i < 70; ++i)
+    {
+        many.push_back(boost::make_shared<NamedLoader>("Reader " + std::to_string(i), "xyz"));
+        DataLoaderRepository::getInstance().registerLoader(many.back());
+    }
+    ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.xyz", "Reader 65");
+    ChooseLoaderDialog* dialog = chooser({}, {".xyz"});
+    user::open(*dialog);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog));
+    runIdle();
+    QListView* view = list(*dialog);
+    EXPECT_EQ(selectedText(*dialog), "Reader 65");
+    ASSERT_TRUE(view->currentIndex().isValid());
+    EXPECT_EQ(view->currentIndex().data().toString(), "Reader 65");
+    EXPECT_TRUE(view->viewport()->rect().intersects(view->visualRect(view->currentIndex())));
+
+    // The keyboard goes on from the remembered loader.
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Down);
+    runIdle();
+    EXPECT_EQ(selectedText(*dialog), "Reader 66");
+    EXPECT_EQ(dialog->selectedLoader(), many[56]);
+}
+
 } // namespace

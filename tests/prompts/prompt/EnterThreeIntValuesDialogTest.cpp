@@ -132,10 +132,13 @@ TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)
 {
     EnterThreeIntValuesDialog* dialog = rangePrompt();
     dialog->show();
-    EXPECT_TRUE(dialog->isEnabled());
+    EXPECT_TRUE(spin(*dialog, 1)->isEnabled());
     Kernel::clearDataSet();
     runIdle();
-    EXPECT_FALSE(dialog->isEnabled());
+    // The values and OK are out of reach; Cancel still gets the user out.
+    EXPECT_FALSE(spin(*dialog, 1)->isEnabled());
+    EXPECT_FALSE(standard(*dialog, QDialogButtonBox::Ok)->isEnabled());
+    EXPECT_TRUE(standard(*dialog, QDialogButtonBox::Cancel)->isEnabled());
     dialog->hide();
     dialog->launch(); // refused, so it returns at once
     EXPECT_FALSE(dialog->isVisible());

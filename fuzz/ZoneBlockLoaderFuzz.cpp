@@ -1,0 +1,9 @@
+// The "Zone blocks" loader on arbitrary file contents.
+#include "fuzz/LoaderFuzz.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static loaderfuzz::Harness harness("Zone blocks", "zbk");
+    harness.run(data, size);
+    return 0;
+}
