@@ -1,5 +1,8 @@
 #include "platform/sdk/DataSetQueries.h"
 #include <algorithm>
+#include <cctype>
+#include <initializer_list>
+#include <string>
 #include <vector>
 #include "platform/kernel/Kernel.h"
 #include "platform/toolbox/StyleValue.h"
@@ -60,6 +63,42 @@ bool isEnabledVar(int var)
     return enabledVars().contains(var);
 }
 
+std::string lowerCase(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    return text;
+}
+
+// The first enabled variable whose name is one of the given (lower-case)
+// names, ignoring case; 0 when there is none.
+int enabledVarNamed(std::initializer_list<const char*> names)
+{
+    const kernel::DataSet& dataSet = Kernel::instance().dataSet();
+    for (int var : enabledVars()) {
+        if (!dataSet.hasVar(var))
+            continue;
+        const std::string name = lowerCase(dataSet.varName(var));
+        for (const char* wanted : names)
+            if (name == wanted)
+                return var;
+    }
+    return 0;
+}
+
+// One enabled variable per component, each found by its names; empty unless
+// every component was found and no variable serves two.
+std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const char*>> components)
+{
+    std::vector<int> vars;
+    for (const auto& names : components) {
+        const int var = enabledVarNamed(names);
+        if (var == 0 || std::count(vars.begin(), vars.end(), var))
+            return {};
+        vars.push_back(var);
+    }
+    return vars;
+}
+
 } // namespace
 
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
@@ -79,8 +118,10 @@ bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
     u = v = w = 0;
     if (!isFieldPlot(plotType))
         return false;
-    const std::vector<int> vars = candidates(plotType, false);
     const size_t needed = plotType == PlotType_ThreeD ? 3 : 2;
+    std::vector<int> vars = needed == 3 ? varsNamed({{"u"}, {"v"}, {"w"}}) : varsNamed({{"u"}, {"v"}});
+    if (vars.empty())
+        vars = candidates(plotType, false);
     if (vars.size() < needed)
         return false;
     u = vars[0];
@@ -91,7 +132,9 @@ bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
 
 bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
 {
-    const std::vector<int> vars = candidates(plotType, true);
+    std::vector<int> vars = varsNamed({{"r", "red"}, {"g", "green"}, {"b", "blue"}});
+    if (vars.empty())
+        vars = candidates(plotType, true);
     int* channels[] = {&r, &g, &b};
     for (size_t i = 0; i < 3; ++i)
         *channels[i] = i < vars.size() ? vars[i] : 0;

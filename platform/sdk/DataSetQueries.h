@@ -13,14 +13,19 @@ namespace sdk {
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID);
 toolbox::Set getEnabledVarsForFrame(long frameUniqueID);
 
-// Vector components for a field plot: the enabled variables after the axis
-// variables, in order (u, v and, for 3D, w; w is 0 for 2D). False, with all
-// three 0, when there are not enough such variables or the plot type is not a
-// field plot.
+// Vector components for a field plot (u, v and, for 3D, w; w is 0 for 2D):
+//   1. enabled variables named U, V (and W), ignoring case, when all are there;
+//   2. otherwise the first enabled variables that are not on an axis of that
+//      plot type, in variable order.
+// False, with all three 0, when neither rule gives enough variables or the
+// plot type is not a field plot.
 bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w);
-// Red, green and blue channel variables: the first three enabled variables that
-// are not axis variables, falling back to any enabled variables. Unfound
-// channels are 0; true only when all three were found.
+// Red, green and blue channel variables:
+//   1. enabled variables named R, G, B (or Red, Green, Blue), ignoring case,
+//      when all three are there;
+//   2. otherwise the first three enabled variables that are not on an axis of
+//      that plot type, followed by the axis variables.
+// Unfound channels are 0; true only when all three were found.
 bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b);
 // True when the frame shows a field plot of that type and the vector variables
 // already in its style are distinct enabled variables.

@@ -5,6 +5,8 @@
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 #include "prompts/prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/RGBVariableSelectDialog.h"
+#include "prompts/prompt/ZoneSelectDialog.h"
 
 using orrery::dialogs::common::HelpViewer;
 using orrery::dialogs::common::LaunchHelpAction;
@@ -22,6 +24,8 @@ TEST(HelpPagesTest, EveryPageTheDialogsNameShipsWithATitleAndContent)
         AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, owner),
         ChooseLoaderDialog::getInstance(owner, {}, {}),
         EnterASCIICharacterDialog::getInstance(owner, "a", true, Font_Greek),
+        ZoneSelectDialog::getInstance(owner, 1),
+        RGBVariableSelectDialog::getInstance(owner),
     };
     for (const orrery::dialogs::common::QtDialogAbstract* dialog : dialogs)
     {

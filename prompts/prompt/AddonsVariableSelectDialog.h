@@ -1,0 +1,46 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <vector>
+#include <boost/shared_ptr.hpp>
+#include "core/property/PropertyAbstract.h"
+#include "framework/QtDialogAbstract.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Up to three variables for an add-on, chosen straight into properties that
+// the add-on supplies; the add-on reads them after the dialog closes.
+class AddonsVariableSelectDialog : public common::QtDialogAbstract,
+                                   public virtual common::DialogInterface,
+                                   public SingleInstanceDialog<AddonsVariableSelectDialog>
+{
+    Q_OBJECT
+public:
+    typedef boost::shared_ptr<PropertyAbstract<int>> VarPropertyPtr;
+
+    // A null label is skipped, so the labels after it move up one row; rows
+    // without a label are hidden, their properties still bound. The first call
+    // fixes everything; a live dialog is returned unchanged. Throws
+    // std::out_of_range without any label and std::invalid_argument for null
+    // instructions or properties.
+    static AddonsVariableSelectDialog* getInstance(QWidget& parent, const char* instructions, const char* label1,
+                                                   const char* label2, const char* label3, VarPropertyPtr var1,
+                                                   VarPropertyPtr var2, VarPropertyPtr var3);
+
+    AddonsVariableSelectDialog(QWidget& parent, VarPropertyPtr var1, VarPropertyPtr var2, VarPropertyPtr var3,
+                               const std::string& instructions, const std::vector<std::string>& labels);
+    ~AddonsVariableSelectDialog() override;
+
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

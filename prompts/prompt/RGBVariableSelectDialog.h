@@ -1,0 +1,28 @@
+#pragma once
+#include "prompts/prompt/VariableSelectDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The variables of the red, green and blue channels of RGB colouring.
+class RGBVariableSelectDialog
+{
+public:
+    // Starts from the host's RGB candidates, whether or not it found all three.
+    class RGBVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
+    {
+    public:
+        void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
+                             PropertyAbstract<int>& var3) const override;
+    };
+
+    // The variable dialog for the three channels (see
+    // VariableSelectDialog::getInstance for the reuse of a live dialog). It is
+    // usable while a data set exists.
+    static VariableSelectDialog* getInstance(QWidget& parent);
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

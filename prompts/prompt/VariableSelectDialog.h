@@ -1,0 +1,72 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <vector>
+#include <boost/function.hpp>
+#include "core/property/PropertyAbstract.h"
+#include "framework/QtDialogAbstract.h"
+#include "platform/toolbox/StringList.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+class VariableSelectDialogImpl;
+
+// Asks for two or three variables of the data set, one per drop-down list, and
+// writes each to the style value the caller names when the user presses OK.
+// Nothing reaches the kernel before OK; OK is one undoable step.
+class VariableSelectDialog : public common::QtDialogAbstract,
+                             public virtual common::DialogInterface,
+                             public SingleInstanceDialog<VariableSelectDialog>
+{
+    Q_OBJECT
+public:
+    // Chooses the variables the dialog shows first.
+    class DefaultVarAssignmentInterface
+    {
+    public:
+        virtual ~DefaultVarAssignmentInterface() = default;
+        virtual void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
+                                     PropertyAbstract<int>& var3) const = 0;
+    };
+
+    // The first call builds the dialog for these paths; a live dialog is
+    // returned unchanged (its old paths, texts and choices) whatever the
+    // arguments. An empty var3Path makes a two-variable dialog. labels needs
+    // two texts, three with a third variable; launch() checks that.
+    // Throws what the assignment throws, and then leaves no dialog behind.
+    static VariableSelectDialog* getInstance(QWidget& parent, const toolbox::StringList& var1Path,
+                                             const toolbox::StringList& var2Path,
+                                             const toolbox::StringList& var3Path, const std::string& instructions,
+                                             const std::vector<std::string>& labels,
+                                             const DefaultVarAssignmentInterface& assignment);
+
+    explicit VariableSelectDialog(QWidget& parent);
+    ~VariableSelectDialog() override;
+
+    // Run after the values are written, inside the same undo step. Replaces
+    // the action set before.
+    void setPostAssignmentAction(boost::function<void ()> action);
+
+    // Throws std::out_of_range, before showing anything, when labels are missing.
+    void launch() override;
+
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+public Q_SLOTS:
+    // Writes the choices under the application lock as one undo step, runs the
+    // post-assignment action and closes. A value the kernel refuses is shown
+    // to the user and the dialog stays open.
+    void accept() override;
+
+private:
+    void install(std::unique_ptr<VariableSelectDialogImpl> impl);
+
+    std::unique_ptr<VariableSelectDialogImpl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

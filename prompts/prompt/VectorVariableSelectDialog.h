@@ -1,0 +1,36 @@
+#pragma once
+#include <boost/shared_ptr.hpp>
+#include "core/propertymanager/RelevanceInterface.h"
+#include "platform/kernel/OrrTypes.h"
+#include "prompts/prompt/VariableSelectDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The U, V (and, in 3D, W) components of the vector plot.
+class VectorVariableSelectDialog
+{
+public:
+    // Starts from the host's vector candidates when it finds usable ones,
+    // otherwise from the variables the style already holds.
+    class VectorVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
+    {
+    public:
+        explicit VectorVarAssignment(PlotType_e plotType) : plotType(plotType) {}
+        void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
+                             PropertyAbstract<int>& var3) const override;
+
+        PlotType_e plotType;
+    };
+
+    // The variable dialog for the vector components of plotType (see
+    // VariableSelectDialog::getInstance for the reuse of a live dialog).
+    static VariableSelectDialog* getInstance(QWidget& parent, PlotType_e plotType);
+    // Relevant while the current page shows a frame with a 2D or 3D field plot.
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

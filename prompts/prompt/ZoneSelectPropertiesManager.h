@@ -1,0 +1,34 @@
+#pragma once
+#include <memory>
+#include <set>
+#include <boost/shared_ptr.hpp>
+#include "core/property/PropertyAbstract.h"
+#include "core/propertybindings/models/ListModelInterface.h"
+#include "core/propertymanager/RelevanceInterface.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The zone prompt's values: the selected zone numbers and the list of the
+// zones enabled in the current frame.
+class ZoneSelectPropertiesManager
+{
+public:
+    ZoneSelectPropertiesManager();
+    virtual ~ZoneSelectPropertiesManager();
+
+    boost::shared_ptr<PropertyAbstract<std::set<int>>> selectedZones();
+    boost::shared_ptr<const sdk::ui::dialogs::propertybindings::models::ListModelInterface<int>> enabledZonesModel() const;
+
+    // Relevant while a data set exists.
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

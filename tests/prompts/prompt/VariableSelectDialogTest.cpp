@@ -1,0 +1,476 @@
+// The variable dialogs: the generic dialog, its axis, vector, RGB and add-on
+// variants, and the decision whether the vector layer may be switched on.
+#include <functional>
+#include <stdexcept>
+#include <QComboBox>
+#include <QSpacerItem>
+#include <QTimer>
+#include "tests/prompts/prompt/DialogTestSupport.h"
+#include "core/property/InvalidPropertyValueException.h"
+#include "core/propertymanager/KernelProperty.h"
+#include "platform/kernel/DataSet.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/AppLock.h"
+#include "platform/toolbox/StyleValue.h"
+#include "prompts/prompt/AddonsVariableSelectDialog.h"
+#include "prompts/prompt/AxisVariableSelectDialog.h"
+#include "prompts/prompt/RGBVariableSelectDialog.h"
+#include "prompts/prompt/VectorVarAssignStrategy.h"
+#include "prompts/prompt/VectorVariableSelectDialog.h"
+
+using namespace dialogtest;
+using orrery::toolbox::StringList;
+using Texts = std::vector<std::string>;
+
+namespace {
+
+const StringList X2D{"TwoDAxis", "XDetail", "VarNum"};
+const StringList Y2D{"TwoDAxis", "YDetail", "VarNum"};
+const StringList Red{"GlobalRGB", "RedChannelVar"};
+const StringList Green{"GlobalRGB", "GreenChannelVar"};
+const StringList Blue{"GlobalRGB", "BlueChannelVar"};
+
+QComboBox* combo(QWidget& d, int i)
+{
+    return d.findChild<QComboBox*>(QString("var%1_comboBox").arg(i));
+}
+QLabel* label(QWidget& d, int i)
+{
+    return d.findChild<QLabel*>(QString("var%1_label").arg(i));
+}
+
+// What a row shows: its label and its chosen variable, or "hidden".
+std::string row(QWidget& d, int i)
+{
+    if (label(d, i)->isHidden() || combo(d, i)->isHidden())
+        return "hidden";
+    return label(d, i)->text().toStdString() + " " + combo(d, i)->currentText().toStdString();
+}
+
+Texts listed(QComboBox* box)
+{
+    Texts names;
+    for (int r = 0; r < box->count(); ++r)
+        names.push_back(box->itemText(r).toStdString());
+    return names;
+}
+
+// Picks a variable in the open list with the keyboard.
+void choose(QComboBox* box, const QString& name)
+{
+    const int index = box->findText(name);
+    ASSERT_GE(index, 0) << name.toStdString();
+    box->showPopup();
+    box->view()->setCurrentIndex(box->model()->index(index, 0));
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    runIdle();
+    ASSERT_EQ(box->currentText(), name);
+}
+
+long style(const StringList& path)
+{
+    return styleValue<long>(path);
+}
+
+struct NoAssignment : VariableSelectDialog::DefaultVarAssignmentInterface
+{
+    void assignVariables(orrery::PropertyAbstract<int>&, orrery::PropertyAbstract<int>&,
+                         orrery::PropertyAbstract<int>&) const override {}
+};
+
+class VariableSelectDialogTest : public DialogTest
+{
+protected:
+    void TearDown() override
+    {
+        delete VariableSelectDialog::liveInstance();
+        delete AddonsVariableSelectDialog::liveInstance();
+    }
+
+    // Runs the dialog modally as the host does; whileOpen acts as the user and
+    // ends with a button. Returns the dialog's result.
+    static int run(orrery::dialogs::common::QtDialogAbstract& dialog, const std::function<void()>& whileOpen)
+    {
+        QTimer::singleShot(0, &dialog, [&] {
+            runIdle();
+            whileOpen();
+            if (dialog.isVisible())
+            {
+                ADD_FAILURE() << "the dialog is still open";
+                dialog.reject();
+            }
+        });
+        dialog.launch();
+        return dialog.result();
+    }
+    // Presses OK and expects the dialog to close.
+    static void ok(QDialog& d) { user::press(d, QDialogButtonBox::Ok); }
+};
+
+TEST_F(VariableSelectDialogTest, LayoutContract)
+{
+    VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
+    // Before launch the layout shows its own placeholder texts.
+    contract::expectWidgets(*dialog, {
+        {"VariableSelectDialog", "orrery::dialogs::prompt::VariableSelectDialog", "Select Variables"},
+        {"gridLayout", "QGridLayout", nullptr},
+        {"instructions_label", "QLabel", "Choose the vector variables:"},
+        {"var1_label", "QLabel", "&U:"},
+        {"var1_comboBox", "QComboBox", nullptr},
+        {"var2_label", "QLabel", "&V:"},
+        {"var2_comboBox", "QComboBox", nullptr},
+        {"var3_label", "QLabel", "&W:"},
+        {"var3_comboBox", "QComboBox", nullptr},
+        {"buttonBox", "QDialogButtonBox", nullptr},
+    });
+    contract::expectGrid(*dialog, {
+        {"gridLayout", "instructions_label", 0, 0, 1, 2},
+        {"gridLayout", "var1_label", 1, 0, 1, 1},
+        {"gridLayout", "var1_comboBox", 1, 1, 1, 1},
+        {"gridLayout", "var2_label", 2, 0, 1, 1},
+        {"gridLayout", "var2_comboBox", 2, 1, 1, 1},
+        {"gridLayout", "var3_label", 3, 0, 1, 1},
+        {"gridLayout", "var3_comboBox", 3, 1, 1, 1},
+        {"gridLayout", "buttonBox", 5, 0, 1, 2},
+    });
+    auto* grid = dialog->findChild<QGridLayout*>("gridLayout");
+    EXPECT_EQ(grid->contentsMargins(), QMargins(6, 6, 6, 6));
+    QSpacerItem* spacer = grid->itemAtPosition(4, 0)->spacerItem();
+    ASSERT_NE(spacer, nullptr);
+    EXPECT_EQ(spacer->sizeHint(), QSize(121, 61));
+    EXPECT_EQ(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    for (int i = 1; i <= 3; ++i)
+    {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(label(*dialog, i)->buddy(), combo(*dialog, i));
+        EXPECT_EQ(combo(*dialog, i)->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+        EXPECT_EQ(combo(*dialog, i)->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+        // Sized without measuring every variable's name.
+        EXPECT_NE(combo(*dialog, i)->sizeAdjustPolicy(), QComboBox::AdjustToContents);
+        EXPECT_NE(combo(*dialog, i)->sizeAdjustPolicy(), QComboBox::AdjustToContentsOnFirstShow);
+    }
+    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
+              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    EXPECT_EQ(dialog->size(), QSize(229, 172));
+    EXPECT_TRUE(dialog->isModal());
+    ASSERT_NE(dialog->helpAction(), nullptr);
+}
+
+TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseChanged)
+{
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(),
+                  "Choose the variables to assign to the axes.");
+        EXPECT_EQ((Texts{"&X X", "&Y Y", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        EXPECT_EQ((Texts{"X", "Y", "Z", "Pressure", "Temperature"}), listed(combo(*dialog, 1)));
+        choose(combo(*dialog, 2), "Pressure");
+        EXPECT_EQ(0, Kernel::styleWriteCount()) << "nothing reaches the kernel before OK";
+        ok(*dialog);
+    }));
+    EXPECT_EQ(1, Kernel::styleWriteCount());
+    EXPECT_EQ(4, style(Y2D));
+    EXPECT_EQ(1, Kernel::styleWriteCount(Y2D));
+    delete dialog;
+
+    Kernel::setPlotType(PlotType_ThreeD);
+    dialog = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ((Texts{"&X X", "&Y Y", "&Z Z"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        choose(combo(*dialog, 1), "Temperature");
+        choose(combo(*dialog, 3), "X");
+        ok(*dialog);
+    }));
+    EXPECT_EQ(5, style({"ThreeDAxis", "XDetail", "VarNum"}));
+    EXPECT_EQ(2, style({"ThreeDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ(1, style({"ThreeDAxis", "ZDetail", "VarNum"}));
+    EXPECT_EQ(4, style(Y2D)) << "the 2D axes are not the 3D frame's";
+}
+
+TEST_F(VariableSelectDialogTest, VectorDialogStartsFromTheCandidatesAndWritesTheComponents)
+{
+    VariableSelectDialog* dialog = VectorVariableSelectDialog::getInstance(parent, PlotType_TwoD);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(), "Choose the vector variables.");
+        // The variables after the axes' X and Y.
+        EXPECT_EQ((Texts{"&U Z", "&V Pressure", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        ok(*dialog);
+    }));
+    EXPECT_EQ(3, style({"GlobalTwoDVector", "UVar"}));
+    EXPECT_EQ(4, style({"GlobalTwoDVector", "VVar"}));
+    EXPECT_EQ(2, Kernel::styleWriteCount());
+    delete dialog;
+
+    // Variables named U, V and W are the 3D candidates.
+    orrery::kernel::DataSet flow("Flow", {"X", "Y", "Z", "P", "w", "V", "u"});
+    flow.addZone("Box", {{0}, {0}, {0}, {0}, {0}, {0}, {0}});
+    Kernel::setDataSet(flow);
+    Kernel::setPlotType(PlotType_ThreeD);
+    dialog = VectorVariableSelectDialog::getInstance(parent, PlotType_ThreeD);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ((Texts{"&U u", "&V V", "&W w"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        choose(combo(*dialog, 3), "P");
+        ok(*dialog);
+    }));
+    EXPECT_EQ(7, style({"GlobalThreeDVector", "UVar"}));
+    EXPECT_EQ(6, style({"GlobalThreeDVector", "VVar"}));
+    EXPECT_EQ(4, style({"GlobalThreeDVector", "WVar"}));
+}
+
+TEST_F(VariableSelectDialogTest, OkIsOneUndoStepAndCancelWritesNothing)
+{
+    VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
+    int actions = 0;
+    dialog->setPostAssignmentAction([&] { ++actions; });
+    EXPECT_EQ(QDialog::Rejected, run(*dialog, [&] {
+        choose(combo(*dialog, 1), "X");
+        user::press(*dialog, QDialogButtonBox::Cancel);
+    }));
+    EXPECT_EQ(0, Kernel::styleWriteCount());
+    EXPECT_EQ(0, actions);
+
+    // The channels start from the candidates Z, Pressure, Temperature.
+    dialog->setPostAssignmentAction([&] {
+        ++actions;
+        Kernel::setStyle({"GlobalRGB", "RangeMax"}, 0.5);
+    });
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ((Texts{"&R X", "&G Pressure", "&B Temperature"}),
+                  (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}))
+            << "Cancel keeps the dialog's choices for its next run";
+        ok(*dialog);
+    }));
+    EXPECT_EQ(1, actions);
+    EXPECT_EQ((std::vector<long>{1, 4, 5}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ(0.5, styleValue<double>({"GlobalRGB", "RangeMax"}));
+    EXPECT_EQ(0, orrery::sdk::AppLock::depth());
+
+    ASSERT_TRUE(OrrUtilUndoPerform());
+    EXPECT_EQ((std::vector<long>{0, 0, 0}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ(1.0, styleValue<double>({"GlobalRGB", "RangeMax"})) << "the action's writes belong to the step";
+    EXPECT_FALSE(OrrUtilUndoPerform());
+    ASSERT_TRUE(OrrUtilRedoPerform());
+    EXPECT_EQ((std::vector<long>{1, 4, 5}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ(0.5, styleValue<double>({"GlobalRGB", "RangeMax"}));
+}
+
+TEST_F(VariableSelectDialogTest, OkWithoutChangesWritesNothingButStillRunsTheActionInABalancedStep)
+{
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    int first = 0, second = 0;
+    dialog->setPostAssignmentAction([&] { ++first; });
+    dialog->setPostAssignmentAction([&] { ++second; });
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    EXPECT_EQ(0, Kernel::styleWriteCount());
+    EXPECT_EQ(0, first) << "only the last action set runs";
+    EXPECT_EQ(1, second);
+    // A later write is an undo step of its own: the dialog's bracket was closed.
+    Kernel::setStyle(X2D, 3L);
+    ASSERT_TRUE(OrrUtilUndoPerform());
+    EXPECT_EQ(1, style(X2D));
+    EXPECT_FALSE(OrrUtilUndoPerform());
+}
+
+TEST_F(VariableSelectDialogTest, RefusedValueIsShownTheDialogStaysOpenAndTheHostIsLeftBalanced)
+{
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    // The action writes a value the kernel refuses, after the axis was written.
+    dialog->setPostAssignmentAction([] {
+        orrery::sdk::styleproperties::KernelProperty<int> u(orrery::toolbox::StyleValue(StringList{"GlobalTwoDVector", "UVar"}));
+        u.setValue(9);
+    });
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        choose(combo(*dialog, 1), "Z");
+        ok(*dialog);
+        EXPECT_TRUE(dialog->isVisible());
+        EXPECT_EQ(Texts{"Variable number 9 is out of range (1 to 5)."}, messageTexts());
+        EXPECT_EQ(0, orrery::sdk::AppLock::depth());
+        EXPECT_EQ(3, style(X2D)) << "what was written before the refusal stays";
+        dialog->setPostAssignmentAction({});
+        ok(*dialog);
+    }));
+    // The refused OK's partial step; the second OK wrote nothing.
+    ASSERT_TRUE(OrrUtilUndoPerform());
+    EXPECT_EQ(1, style(X2D));
+
+    // A refusal of the pending value itself.
+    Kernel::refuseNextWrite("The kernel says no.");
+    EXPECT_EQ(QDialog::Rejected, run(*dialog, [&] {
+        choose(combo(*dialog, 2), "Temperature");
+        ok(*dialog);
+        EXPECT_TRUE(dialog->isVisible());
+        EXPECT_EQ((Texts{"Variable number 9 is out of range (1 to 5).", "The kernel says no."}), messageTexts());
+        user::press(*dialog, QDialogButtonBox::Cancel);
+    }));
+    EXPECT_EQ(2, style(Y2D));
+}
+
+TEST_F(VariableSelectDialogTest, LiveDialogIsReusedWithItsOwnPathsAndTextsUntilDeleted)
+{
+    VariableSelectDialog* rgb = RGBVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(rgb, AxisVariableSelectDialog::getInstance(parent));
+    EXPECT_EQ(QDialog::Accepted, run(*rgb, [&] {
+        EXPECT_EQ("&R Z", row(*rgb, 1));
+        choose(combo(*rgb, 1), "Y");
+        ok(*rgb);
+    }));
+    EXPECT_EQ(2, style(Red));
+    EXPECT_EQ(1, style(X2D));
+    delete rgb;
+    EXPECT_EQ(nullptr, VariableSelectDialog::liveInstance());
+    VariableSelectDialog* axis = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(axis, VariableSelectDialog::liveInstance());
+    EXPECT_EQ(QDialog::Rejected, run(*axis, [&] {
+        EXPECT_EQ("&X X", row(*axis, 1));
+        user::press(*axis, QDialogButtonBox::Cancel);
+    }));
+}
+
+TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
+{
+    Kernel::loadSampleDataSet("Small");
+    VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
+    // Candidates X, Y and none: the blue list shows its first variable, and OK writes what is shown.
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ((Texts{"&R X", "&G Y", "&B X"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        ok(*dialog);
+    }));
+    EXPECT_EQ((std::vector<long>{1, 2, 1}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    delete dialog;
+
+    // Variables named for the channels win over the order of the data set.
+    orrery::kernel::DataSet image("Image", {"X", "Y", "blue", "Green", "R"});
+    image.addZone("Pixels", {{0}, {0}, {0}, {0}, {0}});
+    Kernel::setDataSet(image);
+    dialog = RGBVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ((Texts{"&R R", "&G Green", "&B blue"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        ok(*dialog);
+    }));
+    EXPECT_EQ((std::vector<long>{5, 4, 3}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+}
+
+TEST_F(VariableSelectDialogTest, ListsFollowTheDataSetWhileOpenAndVanishedChoicesAreDropped)
+{
+    VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+        EXPECT_EQ("&G Pressure", row(*dialog, 2));
+        Kernel::setEnabledVars({1, 2, 3, 5});
+        runIdle();
+        EXPECT_EQ((Texts{"X", "Y", "Z", "Temperature"}), listed(combo(*dialog, 2)));
+        EXPECT_EQ((Texts{"&R Z", "&G X", "&B Temperature"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        // A file loaded while the dialog is open brings its variables.
+        orrery::kernel::DataSet more("More", {"X", "Y", "Z", "Pressure", "Temperature", "Density"});
+        more.addZone("All", {{0}, {0}, {0}, {0}, {0}, {0}});
+        Kernel::setDataSet(more);
+        runIdle();
+        EXPECT_EQ("Density", listed(combo(*dialog, 3)).back());
+        choose(combo(*dialog, 3), "Density");
+        ok(*dialog);
+    }));
+    EXPECT_EQ((std::vector<long>{3, 1, 6}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+}
+
+TEST_F(VariableSelectDialogTest, MissingLabelsFailBeforeShowingAndFailedAssignmentLeavesNoDialog)
+{
+    VariableSelectDialog* dialog =
+        VariableSelectDialog::getInstance(parent, X2D, Y2D, StringList{"TwoDAxis", "ZDetail"}, "Pick", {"&A", "&B"},
+                                          NoAssignment());
+    EXPECT_THROW(dialog->launch(), std::out_of_range);
+    EXPECT_FALSE(dialog->isVisible());
+    delete dialog;
+
+    struct Refusing : VariableSelectDialog::DefaultVarAssignmentInterface
+    {
+        void assignVariables(orrery::PropertyAbstract<int>&, orrery::PropertyAbstract<int>&,
+                             orrery::PropertyAbstract<int>&) const override
+        {
+            throw orrery::InvalidPropertyValueException("no default");
+        }
+    };
+    EXPECT_THROW(VariableSelectDialog::getInstance(parent, X2D, Y2D, {}, "Pick", {"&A", "&B"}, Refusing()),
+                 orrery::InvalidPropertyValueException);
+    EXPECT_EQ(nullptr, VariableSelectDialog::liveInstance());
+}
+
+TEST_F(VariableSelectDialogTest, AxisAndVectorDialogsNeedAFrameWithAFieldPlot)
+{
+    auto relevant = [] {
+        return std::make_pair(AxisVariableSelectDialog::relevance()->isRelevant(),
+                              VectorVariableSelectDialog::relevance()->isRelevant());
+    };
+    EXPECT_EQ(std::make_pair(true, true), relevant());
+    Kernel::setPlotType(PlotType_XYLine);
+    EXPECT_EQ(std::make_pair(false, false), relevant());
+    // Built anyway, on empty paths: nothing to write, nothing breaks.
+    const int writes = Kernel::styleWriteCount();
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    EXPECT_EQ(writes, Kernel::styleWriteCount());
+    delete dialog;
+    Kernel::setPlotType(PlotType_ThreeD);
+    EXPECT_EQ(std::make_pair(true, true), relevant());
+    Kernel::setFrameCount(0);
+    EXPECT_EQ(std::make_pair(false, false), relevant());
+    Kernel::setFrameCount(1);
+    Kernel::setPageCount(0);
+    EXPECT_EQ(std::make_pair(false, false), relevant());
+}
+
+TEST_F(VariableSelectDialogTest, VectorStrategyAsksOnlyWhenTheStyleHasNoUsableVectorVariables)
+{
+    orrery::dialogs::prompt::VectorVarAssignStrategy mayTurnOnVectors(parent);
+    EXPECT_FALSE(mayTurnOnVectors(PlotType_XYLine));
+    EXPECT_EQ(nullptr, VariableSelectDialog::liveInstance());
+
+    // The user cancels, then accepts the proposed components.
+    for (const bool accept : {false, true})
+    {
+        SCOPED_TRACE(accept);
+        QTimer::singleShot(0, &parent, [accept] {
+            runIdle();
+            VariableSelectDialog* dialog = VariableSelectDialog::liveInstance();
+            ASSERT_NE(dialog, nullptr);
+            ASSERT_TRUE(dialog->isVisible());
+            user::press(*dialog, accept ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+        });
+        EXPECT_EQ(accept, mayTurnOnVectors(PlotType_TwoD));
+    }
+    EXPECT_EQ(3, style({"GlobalTwoDVector", "UVar"}));
+    EXPECT_EQ(4, style({"GlobalTwoDVector", "VVar"}));
+
+    // Now the style names usable components: no dialog.
+    delete VariableSelectDialog::liveInstance();
+    EXPECT_TRUE(mayTurnOnVectors(PlotType_TwoD));
+    EXPECT_EQ(nullptr, VariableSelectDialog::liveInstance());
+}
+
+TEST_F(VariableSelectDialogTest, AddonDialogSkipsNullLabelsAndEditsTheAddonsProperties)
+{
+    auto var1 = boost::make_shared<orrery::Property<int>>(1);
+    auto var2 = boost::make_shared<orrery::Property<int>>(2);
+    auto var3 = boost::make_shared<orrery::Property<int>>(3);
+    AddonsVariableSelectDialog* dialog =
+        AddonsVariableSelectDialog::getInstance(parent, "Pick the add-on's inputs.", "A", nullptr, "C", var1, var2, var3);
+    EXPECT_EQ(dialog, AddonsVariableSelectDialog::getInstance(parent, "Other", "1", "2", "3", var3, var2, var1));
+    user::open(*dialog);
+    runIdle();
+    EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(), "Pick the add-on's inputs.");
+    EXPECT_EQ((Texts{"A X", "C Y", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+    choose(combo(*dialog, 2), "Temperature");
+    EXPECT_EQ(5, var2->getValue()) << "the second row edits the second property";
+    var3->setValue(4);
+    runIdle();
+    EXPECT_EQ("Pressure", combo(*dialog, 3)->currentText().toStdString()) << "the hidden row is still bound";
+    EXPECT_EQ(0, Kernel::styleWriteCount());
+    EXPECT_TRUE(AddonsVariableSelectDialog::relevance()->isRelevant());
+    delete dialog;
+
+    EXPECT_THROW(AddonsVariableSelectDialog::getInstance(parent, "No labels", nullptr, nullptr, nullptr, var1, var2, var3),
+                 std::out_of_range);
+    EXPECT_EQ(nullptr, AddonsVariableSelectDialog::liveInstance());
+    Kernel::clearDataSet();
+    EXPECT_FALSE(AddonsVariableSelectDialog::relevance()->isRelevant());
+}
+
+} // namespace
