@@ -1,16 +1,24 @@
 #include "demo/DialogCatalog.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTimer>
+#include <QToolButton>
+#include "demo/ColorButtonDemoDialog.h"
 #include "demo/DemoUser.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ColorChooserDialog.h"
 #include "prompts/prompt/EnterASCIICharacterDialog.h"
 #include "prompts/prompt/EnterTextStringDialog.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/RGBColorOptsDialog.h"
+#include "prompts/prompt/ScatterSizeFontDialog.h"
 
 using namespace orrery::dialogs::prompt;
 
@@ -102,6 +110,105 @@ QString loaderChooserAnswers(ChooseLoaderDialog& d)
     return QString("loader = %1").arg(loader ? QString::fromStdString(loader->properties().name) : "(none)");
 }
 
+// Colour chooser, as a style dialog's colour button opens it. A click ends it,
+// so the tour's drive is the last thing done in it.
+ColorChooserDialog* openColorChooser(QWidget& parent)
+{
+    return ColorChooserDialog::getInstance(parent, true);
+}
+ColorChooserDialog* openColorChooserWithoutVarColoring(QWidget& parent)
+{
+    return ColorChooserDialog::getInstance(parent, false);
+}
+void pickGridColor(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("colorButton_12"));
+}
+void pickMultiColor(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("C3"));
+}
+void pickWhite(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("colorButton_1"));
+}
+// Without channel variables the chooser asks for them first; the tour takes
+// the variables the dialog proposes.
+void pickRGB(ColorChooserDialog& d)
+{
+    QTimer::singleShot(0, &d, [&d] {
+        for (QDialog* asked : d.findChildren<QDialog*>())
+            if (asked->isVisible())
+                DemoUser::press(*asked, QDialogButtonBox::Ok);
+    });
+    DemoUser::click(*d.findChild<QToolButton*>("RGB"));
+    if (d.isVisible()) // the variables were not given: the user gives up
+        DemoUser::press(d, QDialogButtonBox::Close);
+}
+QString colorChooserAnswers(ColorChooserDialog& d)
+{
+    return QString("color = %1 (%2)")
+        .arg(d.selectedColor())
+        .arg(QString::fromStdString(ColorChooserDialog::colorToString(d.selectedColor(), false)));
+}
+
+// A colour button bound to a style value
+ColorButtonDemoDialog* openColorButton(QWidget& parent)
+{
+    return new ColorButtonDemoDialog(parent);
+}
+void driveColorButton(ColorButtonDemoDialog& d)
+{
+    QTimer::singleShot(0, &d, [] {
+        if (ColorChooserDialog* chooser = ColorChooserDialog::liveInstance())
+            DemoUser::click(*chooser->findChild<QToolButton*>("colorButton_4"));
+    });
+    DemoUser::click(*d.colorButton());
+}
+QString colorButtonAnswers(ColorButtonDemoDialog& d)
+{
+    return QString("mesh color of zone 1 = %1, button shows \"%2\"").arg(d.meshColor()).arg(d.colorButton()->text());
+}
+
+// RGB colouring options: modeless, every edit goes to the style at once
+RGBColorOptsDialog* openRGBColorOpts(QWidget& parent)
+{
+    return RGBColorOptsDialog::getInstance(parent);
+}
+void driveRGBColorOpts(RGBColorOptsDialog& d)
+{
+    d.findChild<QComboBox*>("rGBColorOpts_Mode_CmbBox")->setCurrentIndex(RGBMode_SpecifyRG);
+    d.findChild<QComboBox*>("rGBColorOpts_RedVariable_CmbBox")->setCurrentIndex(0);
+}
+QString rgbColorOptsAnswers(RGBColorOptsDialog& d)
+{
+    return QString("mode = \"%1\", red = %2, green = %3, blue = %4")
+        .arg(d.findChild<QComboBox*>("rGBColorOpts_Mode_CmbBox")->currentText(),
+             d.findChild<QComboBox*>("rGBColorOpts_RedVariable_CmbBox")->currentText(),
+             d.findChild<QComboBox*>("rGBColorOpts_GreenVariable_CmbBox")->currentText(),
+             d.findChild<QComboBox*>("rGBColorOpts_BlueVariable_CmbBox")->currentText());
+}
+
+// Scatter size and font: the size multiplier moved to centimetres and recalculated
+ScatterSizeFontDialog* openScatterSizeFont(QWidget& parent)
+{
+    return ScatterSizeFontDialog::getInstance(parent);
+}
+void driveScatterSizeFont(ScatterSizeFontDialog& d)
+{
+    DemoUser::click(*d.findChild<QRadioButton*>("scatterSizeFont_SizeCm_radioButton"));
+    for (QAbstractButton* button : d.findChild<QDialogButtonBox*>()->buttons())
+        if (button->objectName() == "scatterSizeFont_RecalculateSize_Button")
+            DemoUser::click(*button);
+}
+QString scatterSizeFontAnswers(ScatterSizeFontDialog& d)
+{
+    return QString("%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4")
+        .arg(d.windowTitle(), d.findChild<QComboBox*>("scatterSizeFont_SizeVaiable_ComboBox")->currentText(),
+             d.findChild<QLineEdit*>("scatterSizeFont_SizeCm_1Text")->text(),
+             d.findChild<QLineEdit*>("scatterSizeFont_SizeGrid_1Text")->text());
+}
+
 } // namespace
 
 const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
@@ -113,6 +220,17 @@ const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
         entry("ASCII Character...", openAsciiCharacter, driveAsciiCharacter, B::Ok, asciiCharacterAnswers),
         entry("Anchor Alignment...", openAnchorAlignment, driveAnchorAlignment, B::Cancel, anchorAlignmentAnswers),
         entry("Choose Loader...", openLoaderChooser, driveLoaderChooser, B::Ok, loaderChooserAnswers),
+        entry("Color Chooser...", openColorChooser, pickGridColor, B::NoButton, colorChooserAnswers),
+        entry("Color Chooser, Multi Color...", openColorChooser, pickMultiColor, B::NoButton, colorChooserAnswers),
+        entry("Color Chooser without Variable Coloring...", openColorChooserWithoutVarColoring, pickWhite,
+              B::NoButton, colorChooserAnswers),
+        entry("Color Chooser, RGB...", openColorChooser, pickRGB, B::NoButton, colorChooserAnswers),
+        entry("Color Button...", openColorButton, driveColorButton, B::Close, colorButtonAnswers),
+        entry("RGB Coloring Options...", openRGBColorOpts, driveRGBColorOpts, B::Close, rgbColorOptsAnswers),
+        entry("Color Chooser, RGB with Channel Variables...", openColorChooser, pickRGB, B::NoButton,
+              colorChooserAnswers),
+        entry("Scatter Size and Font...", openScatterSizeFont, driveScatterSizeFont, B::Close,
+              scatterSizeFontAnswers),
     };
     return all;
 }

@@ -17,11 +17,20 @@ public:
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
     {
     }
+    // The properties manager owns a style property; it must outlive the binding.
+    QObjectPropertyBinding(typename UIPropertyBindingAbstract<T>::StyleProperty& property, WidgetUpdateMode_e mode)
+        : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
+    {
+    }
 
 protected:
     PropertyAbstract<T>& property() const { return m_updater->boundProperty(); }
     bool writeProperty(const T& candidate) { return m_updater->write(candidate); }
+    // For Qt slots, which must not let a refusal escape: see UIPropertyBindingAbstract.
+    bool writePropertyReportingRejection(const T& candidate) { return m_updater->writeReporting(candidate); }
     void updateValueOnIdle() { m_updater->updateValueOnIdle(); }
+    bool isPropertyVisible() const { return m_updater->visible(); }
+    bool isPropertySensitive() const { return m_updater->sensitive(); }
 
 private:
     class PropertyBindingUpdater : public UIPropertyBindingAbstract<T>
@@ -32,12 +41,20 @@ private:
             : UIPropertyBindingAbstract<T>(property, mode), m_owner(owner)
         {
         }
+        PropertyBindingUpdater(typename UIPropertyBindingAbstract<T>::StyleProperty& property, WidgetUpdateMode_e mode,
+                               QObjectPropertyBinding& owner)
+            : UIPropertyBindingAbstract<T>(property, mode), m_owner(owner)
+        {
+        }
         void updateWidget() override { m_owner.updateWidget(); }
         void updateVisibility() override { m_owner.updateVisibility(); }
         void updateSensitivity() override { m_owner.updateSensitivity(); }
 
         PropertyAbstract<T>& boundProperty() const { return this->property(); }
         bool write(const T& candidate) { return this->writeProperty(candidate); }
+        bool writeReporting(const T& candidate) { return this->writePropertyReportingRejection(candidate); }
+        bool visible() const { return this->isPropertyVisible(); }
+        bool sensitive() const { return this->isPropertySensitive(); }
 
     private:
         QObjectPropertyBinding& m_owner;

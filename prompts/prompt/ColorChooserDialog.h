@@ -1,0 +1,67 @@
+#pragma once
+#include <memory>
+#include <string>
+#include <QString>
+#include "framework/QtDialogAbstract.h"
+#include "platform/common/SignalConnectionCollection.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
+
+class Ui_ColorChooser;
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Picks a plot colour with one click: a colour of the grid, one of the eight
+// multi colourings (colour by variable) or RGB colouring. Close leaves the
+// previous answer in place, so callers look at result() first.
+class ColorChooserDialog : public common::QtDialogAbstract,
+                           public virtual common::DialogInterface,
+                           public SingleInstanceDialog<ColorChooserDialog>
+{
+    Q_OBJECT
+public:
+    // Every call moves the live dialog to the new parent and enables or
+    // disables colouring by variable as asked.
+    static ColorChooserDialog* getInstance(QWidget& parent, bool enableVarColoring);
+
+    // The colour's name; shortForm abbreviates custom colours ("Cust 1" for
+    // "CUSTOM1"). Indices that name no colour give an empty string.
+    static std::string colorToString(int colorIndex, bool shortForm);
+
+    // Where the icon of the multi colourings lives among the resources.
+    static const QString& multiColorIconPath();
+
+    explicit ColorChooserDialog(QWidget& parent);
+    ~ColorChooserDialog() override;
+
+    // Enables or disables the multi colourings and RGB together.
+    void setEnableVarColoring(bool enable);
+    // Stores the colour as the answer and ends the dialog.
+    void colorSelected(int colorIndex);
+    int selectedColor() const { return m_selectedColor; }
+
+private Q_SLOTS:
+    void on_C1_clicked(bool);
+    void on_C2_clicked(bool);
+    void on_C3_clicked(bool);
+    void on_C4_clicked(bool);
+    void on_C5_clicked(bool);
+    void on_C6_clicked(bool);
+    void on_C7_clicked(bool);
+    void on_C8_clicked(bool);
+    void on_RGB_clicked(bool);
+
+private:
+    std::unique_ptr<Ui_ColorChooser> m_ui;
+    int m_selectedColor;
+    SignalConnectionCollection m_connections;
+};
+
+// Asks the user for the RGB channel variables in a dialog over parent; true
+// when they were chosen.
+bool askForRGBChannelVariables(QWidget& parent);
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

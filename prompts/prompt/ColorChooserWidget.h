@@ -1,0 +1,31 @@
+#pragma once
+#include <boost/signals2/signal.hpp>
+#include <QWidget>
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// The 8 x 8 grid of colour swatches: the basic colours in display order on the
+// first row, then the custom colours. A click announces the swatch's index.
+class ColorChooserWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    typedef boost::signals2::signal<void (int)> ColorSelectedSignal;
+
+    explicit ColorChooserWidget(QWidget* parent);
+
+    boost::signals2::connection connectToColorSelectedSignal(const ColorSelectedSignal::slot_type& slot);
+    bool signalColorSelectedConnected() const { return !m_colorSelected.empty(); }
+
+private Q_SLOTS:
+    void colorButtonTriggered();
+
+private:
+    ColorSelectedSignal m_colorSelected;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

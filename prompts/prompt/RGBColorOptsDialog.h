@@ -1,0 +1,33 @@
+#pragma once
+#include <memory>
+#include "framework/QtDialogAbstract.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Edits the RGB colouring of a field plot: the RGB mode, the channel variables
+// and the value range mapped to the intensities. Modeless: every edit reaches
+// the style at once, and the dialog follows changes made elsewhere.
+class RGBColorOptsDialog : public common::QtDialogAbstract,
+                           public virtual common::DialogInterface,
+                           public SingleInstanceDialog<RGBColorOptsDialog>
+{
+    Q_OBJECT
+public:
+    // The parent counts only for the first call, which builds the dialog.
+    static RGBColorOptsDialog* getInstance(QWidget& parent);
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+    explicit RGBColorOptsDialog(QWidget& parent);
+    ~RGBColorOptsDialog() override;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,36 @@
+#pragma once
+#include <boost/scoped_ptr.hpp>
+#include "framework/QtDialogAbstract.h"
+#include "prompts/prompt/SingleInstanceDialog.h"
+
+namespace orrery {
+namespace dialogs {
+namespace prompt {
+
+// Edits how scatter symbols are sized and which font their letters use; in a
+// line plot it edits the symbol font only ("Symbol Font"). Edits reach the
+// style at once; a plot type change re-titles and retargets it.
+class ScatterSizeFontDialog : public common::QtDialogAbstract,
+                              public virtual common::DialogInterface,
+                              public SingleInstanceDialog<ScatterSizeFontDialog>
+{
+    Q_OBJECT
+public:
+    // The parent counts only for the first call, which builds the dialog.
+    static ScatterSizeFontDialog* getInstance(QWidget& parent);
+    static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
+
+    explicit ScatterSizeFontDialog(QWidget& parent);
+    ~ScatterSizeFontDialog() override;
+
+    // Title and help page for the current plot type.
+    void setDialogForPlotType();
+
+private:
+    struct Impl;
+    boost::scoped_ptr<Impl> m_impl;
+};
+
+} // namespace prompt
+} // namespace dialogs
+} // namespace orrery

@@ -1,0 +1,20 @@
+#pragma once
+#include "framework/SpinBoxIncDecCalculatorBase.h"
+
+namespace orrery::sdk::ui::propertymanager {
+
+class RGBColorOptsPropertiesGenerated;
+
+// Steps the RGB intensity range by a tenth of the value range that the three
+// channel variables span together; 0 when any channel has no range.
+class IntensitySpinBoxIncDecCalculator : public virtual SpinBoxIncDecCalculatorBase
+{
+public:
+    explicit IntensitySpinBoxIncDecCalculator(const RGBColorOptsPropertiesGenerated& generated);
+    double delta() override;
+
+private:
+    const RGBColorOptsPropertiesGenerated& m_generated;
+};
+
+} // namespace orrery::sdk::ui::propertymanager
