@@ -1,56 +1,268 @@
 #include "demo/MainWindow.h"
 
+#include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QDockWidget>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressDialog>
 #include <QStatusBar>
 #include <QTimer>
+#include "demo/HostStyle.h"
+#include "demo/PlotView.h"
 #include "demo/StateView.h"
+#include "platform/kernel/JournalReplayer.h"
+#include "platform/kernel/Kernel.h"
 #include "platform/kernel/KernelTestSupport.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/loaders/DataLoaderRepository.h"
+#include "platform/loaders/LoadProgress.h"
+#include "platform/sdk/AppLock.h"
+#include "platform/sdk/DataSetQueries.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+#include "platform/toolbox/Set.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
 using orrery::dialogs::prompt::ChooseLoaderDialog;
+using orrery::kernel::JournalReplayer;
+using orrery::kernel::Kernel;
+using orrery::sdk::AppLock;
 using orrery::sdk::DataLoaderRepository;
+using orrery::sdk::LoadProgress;
 
-MainWindow::MainWindow() : m_answers(new QPlainTextEdit), m_state(new StateView)
+namespace {
+
+QString takeString(char* text)
+{
+    const QString result = text ? QString::fromUtf8(text) : QString();
+    OrrUtilStringDealloc(&text);
+    return result;
+}
+
+// Shows a cancellable progress dialog for a load that takes longer than a
+// moment; the previous handler is put back when the load ends.
+class ProgressWhileLoading
+{
+public:
+    ProgressWhileLoading(QWidget& parent, const QString& path) : m_parent(parent), m_path(path)
+    {
+        m_clock.start();
+        m_previous = LoadProgress::setHandler([this](std::uint64_t done, std::uint64_t total) {
+            return step(done, total);
+        });
+    }
+    ~ProgressWhileLoading()
+    {
+        LoadProgress::setHandler(std::move(m_previous));
+        delete m_dialog;
+    }
+    bool cancelled() const { return m_dialog && m_dialog->wasCanceled(); }
+
+private:
+    bool step(std::uint64_t done, std::uint64_t total)
+    {
+        if (!m_dialog && m_clock.elapsed() < 400)
+            return true;
+        if (!m_dialog)
+        {
+            m_dialog = new QProgressDialog(QObject::tr("Loading %1...").arg(QFileInfo(m_path).fileName()),
+                                           QObject::tr("Cancel"), 0, 1000, &m_parent);
+            m_dialog->setWindowModality(Qt::WindowModal);
+            m_dialog->setMinimumDuration(0);
+        }
+        m_dialog->setValue(total ? int(1000.0 * double(done) / double(total)) : 0);
+        QCoreApplication::processEvents();
+        return !m_dialog->wasCanceled();
+    }
+
+    QWidget& m_parent;
+    QString m_path;
+    QElapsedTimer m_clock;
+    QProgressDialog* m_dialog = nullptr;
+    LoadProgress::Handler m_previous;
+};
+
+QDockWidget* dockFor(QMainWindow& window, const QString& title, const QString& name, QWidget* content,
+                     Qt::DockWidgetArea area)
+{
+    auto* dock = new QDockWidget(title, &window);
+    dock->setObjectName(name);
+    dock->setWidget(content);
+    window.addDockWidget(area, dock);
+    return dock;
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+    : m_plot(new PlotView), m_answers(new QPlainTextEdit), m_journal(new QPlainTextEdit), m_state(new StateView)
 {
     setObjectName("OrreryDemo");
     setWindowTitle(tr("Orrery Prompts demo"));
+    setCentralWidget(m_plot);
+
+    m_answers->setObjectName("answers");
     m_answers->setReadOnly(true);
     m_answers->setPlaceholderText(tr("Open a dialog from the Dialogs menu; its answers appear here."));
-    setCentralWidget(m_answers);
+    m_journal->setObjectName("journal");
+    m_journal->setReadOnly(true);
+    m_journal->setPlaceholderText(tr("Every change is recorded here as a command."));
+    for (const std::string& line : Kernel::instance().journal().lines())
+        m_journal->appendPlainText(QString::fromStdString(line));
 
-    auto* dock = new QDockWidget(tr("Host state"), this);
-    dock->setObjectName("hostState");
-    dock->setWidget(m_state);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    QDockWidget* stateDock = dockFor(*this, tr("Host state"), "hostState", m_state, Qt::RightDockWidgetArea);
+    QDockWidget* journalDock = dockFor(*this, tr("Journal"), "journalDock", m_journal, Qt::RightDockWidgetArea);
+    QDockWidget* answersDock = dockFor(*this, tr("Answers"), "answersDock", m_answers, Qt::BottomDockWidgetArea);
+    tabifyDockWidget(stateDock, journalDock);
+    stateDock->raise();
 
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open..."), this, &MainWindow::openFile)->setShortcut(QKeySequence::Open);
-    file->addAction(tr("Load &Sample Data Set"), this, &MainWindow::loadSample);
+    buildSampleMenu(*file->addMenu(tr("Open Sa&mple")));
+    file->addSeparator();
+    QAction* save = file->addAction(tr("&Save Journal..."), this, &MainWindow::saveJournalAs);
+    save->setObjectName("fileSaveJournal");
+    save->setShortcut(QKeySequence::Save);
+    file->addAction(tr("&Replay Journal..."), this, &MainWindow::replayJournalFrom)->setObjectName(
+        "fileReplayJournal");
     file->addSeparator();
     file->addAction(tr("&Quit"), qApp, &QApplication::quit)->setShortcut(QKeySequence::Quit);
+
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    m_undo = edit->addAction(tr("&Undo"), this, [] {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        OrrUtilUndoPerform();
+    });
+    m_undo->setObjectName("editUndo");
+    m_undo->setShortcut(QKeySequence::Undo);
+    m_redo = edit->addAction(tr("&Redo"), this, [] {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        OrrUtilRedoPerform();
+    });
+    m_redo->setObjectName("editRedo");
+    m_redo->setShortcut(QKeySequence::Redo);
+
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    QMenu* plotType = view->addMenu(tr("&Plot Type"));
+    m_plotTypes = new QActionGroup(this);
+    const std::pair<PlotType_e, QString> types[] = {
+        {PlotType_ThreeD, tr("&3D Cartesian")}, {PlotType_TwoD, tr("&2D Cartesian")}, {PlotType_XYLine, tr("&XY Line")}};
+    for (const auto& [type, text] : types)
+    {
+        QAction* action = plotType->addAction(text);
+        action->setCheckable(true);
+        action->setData(int(type));
+        action->setObjectName(QString("viewPlotType%1").arg(int(type)));
+        m_plotTypes->addAction(action);
+        connect(action, &QAction::triggered, this, [this, type = type] {
+            std::string error;
+            if (!HostStyle::setInteger("FrameLayout/PlotType", type, &error))
+                complain(QString::fromStdString(error));
+        });
+    }
+    m_showVectors = view->addAction(tr("Show &Vectors"), this, &MainWindow::setShowVectors);
+    m_showVectors->setCheckable(true);
+    m_showVectors->setObjectName("viewShowVectors");
+    m_showScatter = view->addAction(tr("Show &Scatter Symbols"), this, &MainWindow::setShowScatter);
+    m_showScatter->setCheckable(true);
+    m_showScatter->setObjectName("viewShowScatter");
+    view->addSeparator();
+    for (QDockWidget* dock : {stateDock, journalDock, answersDock})
+        view->addAction(dock->toggleViewAction());
 
     QMenu* dialogs = menuBar()->addMenu(tr("&Dialogs"));
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
         dialogs->addAction(entry.name, this, [this, &entry] { runDialog(entry); });
-    dock->toggleViewAction()->setText(tr("Show &Host State"));
-    menuBar()->addMenu(tr("&View"))->addAction(dock->toggleViewAction());
-    resize(1000, 580);
-    resizeDocks({dock}, {480}, Qt::Horizontal);
+
+    m_undoChanged = Kernel::instance().undoStack().changedSignal().connect([this] { refreshUndoActions(); });
+    m_journalGrew = Kernel::instance().journal().lineAdded().connect(
+        [this](const std::string& line) { m_journal->appendPlainText(QString::fromStdString(line)); });
+    m_stateChanged = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
+        [this](const auto&) { refreshViewActions(); });
+    refreshUndoActions();
+    refreshViewActions();
+    resize(1180, 760);
+    resizeDocks({stateDock}, {400}, Qt::Horizontal);
+    resizeDocks({answersDock}, {120}, Qt::Vertical);
 }
+
+MainWindow::~MainWindow() = default;
 
 void MainWindow::report(const QString& line)
 {
     m_answers->appendPlainText(line);
     statusBar()->showMessage(line, 8000);
+}
+
+void MainWindow::complain(const QString& text)
+{
+    OrrUtilDialogMessageBox(text.toUtf8().constData(), MessageBoxType_Error);
+}
+
+void MainWindow::refreshUndoActions()
+{
+    const QString undo = takeString(OrrUtilUndoGetStepName());
+    const QString redo = takeString(OrrUtilRedoGetStepName());
+    m_undo->setText(undo.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undo));
+    m_undo->setEnabled(!undo.isEmpty());
+    m_redo->setText(redo.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redo));
+    m_redo->setEnabled(!redo.isEmpty());
+}
+
+void MainWindow::refreshViewActions()
+{
+    const int type = int(OrrUtilFrameGetPlotType());
+    for (QAction* action : m_plotTypes->actions())
+        action->setChecked(action->data().toInt() == type);
+    m_showVectors->setChecked(HostStyle::flag("FieldLayers/ShowVector"));
+    m_showScatter->setChecked(OrrUtilDataSetGetNumZones() > 0 && HostStyle::flag("FieldMap/Scatter/Show", 1));
+}
+
+// Vectors need components: when the style has no usable ones, the host's
+// candidates are assigned in the same undo step.
+void MainWindow::setShowVectors(bool on)
+{
+    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+    const PlotType_e plotType = OrrUtilFrameGetPlotType();
+    int u = 0, v = 0, w = 0;
+    if (on && !orrery::sdk::okToTurnOnVectorLayer(plotType)
+        && !orrery::sdk::getValidVectorVarCandidates(plotType, u, v, w))
+    {
+        complain(tr("Vectors need a field plot and two variables besides the axes."));
+        refreshViewActions();
+        return;
+    }
+    OrrUtilUndoStateBeginNamed(0, on ? "Show Vectors" : "Hide Vectors");
+    std::string error;
+    const std::string root = plotType == PlotType_ThreeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
+    bool ok = !u || (HostStyle::setInteger(root + "UVar", u, &error) && HostStyle::setInteger(root + "VVar", v, &error)
+                     && (!w || HostStyle::setInteger(root + "WVar", w, &error)));
+    ok = ok && HostStyle::setFlag("FieldLayers/ShowVector", on, &error);
+    OrrUtilUndoStateEnd(!ok, true);
+    if (!ok)
+        complain(QString::fromStdString(error));
+    refreshViewActions();
+}
+
+// One undo step for all zones.
+void MainWindow::setShowScatter(bool on)
+{
+    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+    OrrUtilUndoStateBeginNamed(0, on ? "Show Scatter" : "Hide Scatter");
+    std::string error;
+    bool ok = true;
+    for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        ok = HostStyle::setFlag("FieldMap/Scatter/Show", on, &error, zone);
+    OrrUtilUndoStateEnd(!ok, true);
+    if (!ok)
+        complain(QString::fromStdString(error));
+    refreshViewActions();
 }
 
 QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
@@ -98,11 +310,22 @@ bool MainWindow::loadFile(const QString& path)
             return false;
     }
     std::string error;
-    // The native name: a file name that is not UTF-8 must still open.
-    if (!loader->load(QFile::encodeName(path).toStdString(), error))
+    bool loaded = false;
     {
-        OrrUtilDialogMessageBox(QString("Cannot load %1: %2").arg(path, QString::fromStdString(error)).toUtf8(),
-                                MessageBoxType_Error);
+        ProgressWhileLoading progress(*this, path);
+        try
+        {
+            // The native name: a file name that is not UTF-8 must still open.
+            loaded = loader->load(QFile::encodeName(path).toStdString(), error);
+        }
+        catch (const std::exception& e)
+        {
+            error = e.what();
+        }
+    }
+    if (!loaded)
+    {
+        complain(tr("Cannot load %1: %2").arg(path, QString::fromStdString(error)));
         return false;
     }
     QString line = tr("Loaded %1 with the loader \"%2\"").arg(path, QString::fromStdString(loader->properties().name));
@@ -113,15 +336,84 @@ bool MainWindow::loadFile(const QString& path)
     return true;
 }
 
+bool MainWindow::replayJournal(const QString& path)
+{
+    JournalReplayer::Result result;
+    try
+    {
+        result = JournalReplayer::replayFile(QFile::encodeName(path).toStdString());
+    }
+    catch (const std::exception& e)
+    {
+        result.ok = false;
+        result.message = path.toStdString() + ": " + e.what();
+    }
+    if (!result.ok)
+    {
+        complain(tr("Replay stopped after %1 commands. %2").arg(result.played).arg(QString::fromStdString(result.message)));
+        return false;
+    }
+    report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));
+    return true;
+}
+
+bool MainWindow::saveJournal(const QString& path)
+{
+    std::string error;
+    if (!Kernel::instance().journal().save(QFile::encodeName(path).toStdString(), error))
+    {
+        complain(QString::fromStdString(error));
+        return false;
+    }
+    report(tr("Saved the journal to %1").arg(path));
+    return true;
+}
+
 void MainWindow::openFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open Data File"));
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open Data File"), QString(),
+        tr("Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)"));
     if (!path.isEmpty())
         loadFile(path);
 }
 
-void MainWindow::loadSample()
+void MainWindow::saveJournalAs()
 {
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
-    report(tr("Loaded the sample data set"));
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save Journal"), "journal.orj", tr("Journals (*.orj);;All files (*)"));
+    if (!path.isEmpty())
+        saveJournal(path);
+}
+
+void MainWindow::replayJournalFrom()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Replay Journal"), QString(), tr("Journals (*.orj);;All files (*)"));
+    if (!path.isEmpty())
+        replayJournal(path);
+}
+
+QStringList MainWindow::sampleFolders()
+{
+    const QString app = QCoreApplication::applicationDirPath();
+    return {app + "/samples", app + "/../share/orrery/samples", QStringLiteral(ORRERY_DEMO_SAMPLES)};
+}
+
+void MainWindow::buildSampleMenu(QMenu& menu)
+{
+    menu.addAction(tr("Built-in: Heated Plate"), this, [this] {
+        orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+        report(tr("Loaded the built-in sample data set"));
+    });
+    QStringList seen;
+    for (const QString& folder : sampleFolders())
+        for (const QFileInfo& info : QDir(folder).entryInfoList(QDir::Files, QDir::Name))
+        {
+            if (seen.contains(info.fileName()))
+                continue;
+            seen << info.fileName();
+            const QString path = info.absoluteFilePath();
+            menu.addAction(info.fileName(), this, [this, path] { loadFile(path); });
+        }
 }

@@ -1,30 +1,62 @@
 #pragma once
+#include <boost/signals2/connection.hpp>
 #include <QMainWindow>
 #include "demo/DialogCatalog.h"
 
+class QAction;
+class QActionGroup;
 class QPlainTextEdit;
+class PlotView;
 class StateView;
 
-// The demo host: a data set, a menu of every dialog, the host's state beside
-// them, and the answers of each dialog after it closes.
+// The demo host: a live plot of the current frame, a menu of every dialog, the
+// host's state and journal beside them, undo and redo of the kernel's steps.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 public:
     MainWindow();
+    ~MainWindow() override;
 
     // Reads a file through a loader, asking the user to choose one when the
-    // extension does not name exactly one. False, with a message, on failure.
+    // extension does not name exactly one. False, with a message, on failure;
+    // the data set is then unchanged.
     bool loadFile(const QString& path);
+    // Plays a journal back; a bad line is reported with its number and stops
+    // the replay, keeping what was played before it.
+    bool replayJournal(const QString& path);
+    bool saveJournal(const QString& path);
     // Opens the dialog and runs it; returns the line that reports its answers.
     QString runDialog(const DialogCatalog::Entry& entry,
                       const std::function<void(DialogCatalog::Dialog&)>& whileOpen = nullptr);
     void report(const QString& line);
+    // Shows a message the way the host does (a message box, captured in tests).
+    void complain(const QString& text);
+
+    PlotView& plot() const { return *m_plot; }
+    // Folders searched for the sample files, first match wins.
+    static QStringList sampleFolders();
 
 private:
     void openFile();
-    void loadSample();
+    void buildSampleMenu(QMenu& menu);
+    void saveJournalAs();
+    void replayJournalFrom();
+    void refreshUndoActions();
+    void refreshViewActions();
+    void setShowVectors(bool on);
+    void setShowScatter(bool on);
 
+    PlotView* m_plot;
     QPlainTextEdit* m_answers;
+    QPlainTextEdit* m_journal;
     StateView* m_state;
+    QAction* m_undo;
+    QAction* m_redo;
+    QActionGroup* m_plotTypes;
+    QAction* m_showVectors;
+    QAction* m_showScatter;
+    boost::signals2::scoped_connection m_undoChanged;
+    boost::signals2::scoped_connection m_journalGrew;
+    boost::signals2::scoped_connection m_stateChanged;
 };

@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <QCoreApplication>
 #include <QDir>
+#include <QImage>
 #include <QListView>
 #include <QPixmap>
 #include <QTimer>
 #include "demo/DemoUser.h"
 #include "demo/MainWindow.h"
+#include "demo/PlotView.h"
 #include "platform/common/IdleQueue.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
@@ -32,6 +34,16 @@ bool save(QWidget& widget, const QString& path)
 {
     const bool saved = widget.grab().save(path);
     std::printf("  %s %s\n", saved ? "screenshot" : "could not save", qPrintable(path));
+    return saved;
+}
+
+// The plot as the dialog left it, so that the pictures show what each dialog did.
+bool savePlot(const PlotView& plot, const QString& path)
+{
+    QImage picture(plot.size().expandedTo(QSize(640, 480)), QImage::Format_RGB32);
+    plot.render(picture);
+    const bool saved = picture.save(path);
+    std::printf("  %s %s\n", saved ? "plot" : "could not save", qPrintable(path));
     return saved;
 }
 
@@ -69,7 +81,7 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     const QDir dir(screenshotDir);
     window.show();
     settle();
-    bool allSaved = true;
+    bool allSaved = savePlot(window.plot(), dir.filePath("plot_start.png"));
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
     {
         std::printf("%s\n", qPrintable(entry.name));
@@ -81,6 +93,8 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
             DemoUser::press(dialog, entry.closeWith);
         });
         std::printf("  %s\n", qPrintable(line));
+        settle();
+        allSaved &= savePlot(window.plot(), dir.filePath(fileNameFor(entry.name).replace(".png", "_plot.png")));
     }
     settle();
     allSaved &= save(window, dir.filePath("main_window.png"));

@@ -1,5 +1,7 @@
+#include <cstdio>
 #include <QApplication>
 #include <QCommandLineParser>
+#include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/Tour.h"
 #include "platform/kernel/KernelTestSupport.h"
@@ -7,24 +9,60 @@
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
-    QApplication::setApplicationName("orrery_demo");
+    QApplication::setApplicationName("orrery-demo");
+    QApplication::setApplicationVersion(ORRERY_VERSION);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription("Runs the prompt dialogs on the stand-in host.");
+    parser.setApplicationDescription("Runs the prompt dialogs on the stand-in host, with a live plot of the "
+                                     "current frame.");
     parser.addHelpOption();
-    parser.addOption({"tour", "Open, drive and photograph every dialog, saving the pictures in <dir>, then exit.",
-                      "dir"});
-    parser.addPositionalArgument("file", "Data file to load instead of the sample data set.");
+    parser.addVersionOption();
+    parser.addPositionalArgument("file", "Data file to load instead of the built-in sample data set.", "[FILE]");
+    const QCommandLineOption replay("replay", "Play the journal back after loading.", "journal");
+    const QCommandLineOption tour("tour",
+                                  "Open, drive and photograph every dialog and the plot after it, saving the "
+                                  "pictures in <dir>, then exit.",
+                                  "dir");
+    const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D, 3 XY line.", "n");
+    parser.addOptions({replay, tour, plotType});
     parser.process(app);
+
+    const QStringList files = parser.positionalArguments();
+    if (files.size() > 1)
+    {
+        std::fprintf(stderr, "orrery-demo: give at most one data file.\n");
+        return 2;
+    }
+    long type = 0;
+    if (parser.isSet(plotType))
+    {
+        bool number = false;
+        type = parser.value(plotType).toLong(&number);
+        if (!number || type < 1 || type > 5)
+        {
+            std::fprintf(stderr, "orrery-demo: --plot-type takes 1 (3D), 2 (2D), 3 (XY line), 4 or 5.\n");
+            return 2;
+        }
+    }
 
     MainWindow window;
     orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
-    const QStringList files = parser.positionalArguments();
-    const bool tour = parser.isSet("tour");
-    if (!files.isEmpty() && !(tour ? Tour::loadFile(window, files.front()) : window.loadFile(files.front())) && tour)
+    const bool touring = parser.isSet(tour);
+    // Without a window to show them in, failures end the run.
+    if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))
+        && touring)
         return 1;
-    if (tour)
-        return Tour::run(window, parser.value("tour"));
+    std::string error;
+    if (type && !HostStyle::setInteger("FrameLayout/PlotType", type, &error))
+    {
+        std::fprintf(stderr, "orrery-demo: %s\n", error.c_str());
+        if (touring)
+            return 1;
+    }
+    if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
+        return 1;
+    if (touring)
+        return Tour::run(window, parser.value(tour));
     window.show();
     return app.exec();
 }

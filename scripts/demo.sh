@@ -5,6 +5,6 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/build.sh 6
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
-  QT_QPA_PLATFORM=offscreen exec build/qt6/demo/orrery_demo --tour build/tour "$@"
+  QT_QPA_PLATFORM=offscreen exec build/qt6/demo/orrery-demo --tour build/tour "$@"
 fi
-exec build/qt6/demo/orrery_demo "$@"
+exec build/qt6/demo/orrery-demo "$@"

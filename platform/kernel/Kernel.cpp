@@ -27,6 +27,7 @@ Kernel::Kernel() : m_style(*this)
 void Kernel::reset()
 {
     m_undo.clear();
+    m_journal.clear();
     m_style.reset();
     m_lastError.reset();
     m_messageBoxes.setHandler({});
@@ -176,6 +177,8 @@ bool Kernel::undo()
 {
     const UndoStack::Step step = m_undo.undo();
     m_style.restore(step, true);
+    if (!step.empty())
+        m_journal.recordUndo();
     return !step.empty();
 }
 
@@ -183,6 +186,8 @@ bool Kernel::redo()
 {
     const UndoStack::Step step = m_undo.redo();
     m_style.restore(step, false);
+    if (!step.empty())
+        m_journal.recordRedo();
     return !step.empty();
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 #include "platform/kernel/DataSet.h"
 #include "platform/kernel/Frame.h"
+#include "platform/kernel/Journal.h"
 #include "platform/kernel/MessageBoxPresenter.h"
 #include "platform/kernel/StyleAccess.h"
 #include "platform/kernel/StyleSchema.h"
@@ -21,7 +22,8 @@ class Kernel
 public:
     static Kernel& instance();
 
-    // One page with one frame, no data set, default style, nothing to undo.
+    // One page with one frame, no data set, default style, nothing to undo, an
+    // empty journal.
     void reset();
 
     const DataSet& dataSet() const { return m_dataSet; }
@@ -57,6 +59,7 @@ public:
     const StyleSchema& schema() const { return m_schema; }
     StyleAccess& style() { return m_style; }
     UndoStack& undoStack() { return m_undo; }
+    Journal& journal() { return m_journal; }
     MessageBoxPresenter& messageBoxes() { return m_messageBoxes; }
 
     const std::optional<std::string>& lastError() const { return m_lastError; }
@@ -74,6 +77,7 @@ private:
     StyleSchema m_schema;
     StyleAccess m_style;
     UndoStack m_undo;
+    Journal m_journal;
     MessageBoxPresenter m_messageBoxes;
     DataSet m_dataSet;
     int m_pageCount = 0;

@@ -112,6 +112,12 @@ enum AssignOp_e : int
     AssignOp_Equals = 255 // plain assignment
 };
 
+// Undo categories of OrrUtilUndoStateBegin that name their step.
+enum UndoCategory_e : int
+{
+    UndoCategory_AssignVariables = 11
+};
+
 // Unit codes of OrrUtilConvertUnits.
 enum Units_e : int
 {

@@ -92,6 +92,18 @@ bool OrrUtilVarGetMinMax(int var, double* min, double* max)
     return frame() && Kernel::instance().dataSet().range(var, frame()->enabledZones, *min, *max);
 }
 
+long OrrUtilZoneGetNumPoints(int zone)
+{
+    const auto& data = Kernel::instance().dataSet();
+    return data.hasZone(zone) ? static_cast<long>(data.pointCount(zone)) : 0;
+}
+
+const double* OrrUtilVarGetValuesInZone(int zone, int var)
+{
+    const auto& data = Kernel::instance().dataSet();
+    return data.hasZone(zone) && data.hasVar(var) ? data.values(zone, var).data() : nullptr;
+}
+
 void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* yMax)
 {
     Kernel::instance().axisGridRange(*xMin, *yMin, *xMax, *yMax);
@@ -111,17 +123,38 @@ void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigne
     orrery::kernel::ColorMap::rgb(colorIndex, *red, *green, *blue);
 }
 
-// The category names the kind of step for a user-visible undo list, which the
-// stand-in has not.
-void OrrUtilUndoStateBegin(int)
+void OrrUtilUndoStateBegin(int category)
 {
-    Kernel::instance().undoStack().begin();
+    OrrUtilUndoStateBeginNamed(category, nullptr);
+}
+
+void OrrUtilUndoStateBeginNamed(int category, const char* name)
+{
+    std::string stepName = name ? name : "";
+    if (stepName.empty())
+        stepName = category == UndoCategory_AssignVariables ? "Assign Variables" : "";
+    Kernel& kernel = Kernel::instance();
+    kernel.undoStack().begin(stepName);
+    kernel.journal().beginBracket(stepName);
 }
 
 void OrrUtilUndoStateEnd(bool revert, bool record)
 {
     Kernel& kernel = Kernel::instance();
+    kernel.journal().endBracket(revert, record);
     kernel.style().restore(kernel.undoStack().end(revert, record), true);
+}
+
+char* OrrUtilUndoGetStepName(void)
+{
+    const std::string name = Kernel::instance().undoStack().undoName();
+    return name.empty() ? nullptr : copyOf(name);
+}
+
+char* OrrUtilRedoGetStepName(void)
+{
+    const std::string name = Kernel::instance().undoStack().redoName();
+    return name.empty() ? nullptr : copyOf(name);
 }
 
 bool OrrUtilUndoPerform(void)

@@ -31,6 +31,12 @@ bool OrrUtilVarIsEnabled(int var);
 // variable does not exist or no enabled zone has a value.
 bool OrrUtilVarGetMinMax(int var, double* min, double* max);
 
+// Points of a zone, and a variable's values there (pointCount of them, NaN where
+// a value is missing). Null/0 for a zone or variable that does not exist. The
+// pointer is valid until the data set changes.
+long OrrUtilZoneGetNumPoints(int zone);
+const double* OrrUtilVarGetValuesInZone(int zone, int var);
+
 // Axis grid range of the current frame as (xMin, yMin, xMax, yMax): the ranges of
 // the X and Y axis variables over the enabled zones, (0, 0, 1, 1) without data.
 void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* yMax);
@@ -48,10 +54,16 @@ void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red,
 //   revert: take back the bracket's writes now (the operation failed);
 //   record: keep the bracket as an undoable step (false: keep the writes but
 //           leave nothing to undo). Ignored for inner brackets.
+// The category names the step in the Edit menu (11: "Assign Variables");
+// OrrUtilUndoStateBeginNamed names it directly.
 void OrrUtilUndoStateBegin(int category);
+void OrrUtilUndoStateBeginNamed(int category, const char* name);
 void OrrUtilUndoStateEnd(bool revert, bool record);
 bool OrrUtilUndoPerform(void);
 bool OrrUtilRedoPerform(void);
+// Names of the steps that undo and redo would take, or null when there is none.
+char* OrrUtilUndoGetStepName(void);
+char* OrrUtilRedoGetStepName(void);
 
 // Text of the last refused style write, or null when the last write succeeded.
 char* OrrUtilStyleGetLastErrorString(void);

@@ -198,9 +198,13 @@ SetValueReturnCode_e StyleAccess::perform(const toolbox::StringList& names, cons
         if (next != old)
             changes.push_back({target.frame->uniqueID(), target.path, member, old, next});
     }
+    toolbox::StringList framePrefix;
+    if (names.count() > target.path.count())
+        framePrefix = toolbox::StringList{names[0], names[1]};
     for (const UndoRecord& change : changes) {
         style.store(target.key, change.member, change.after);
         m_kernel.undoStack().add(change);
+        m_kernel.journal().recordStyle(framePrefix, target.path, change.member, change.after);
     }
     finish(WriteVerdict::accept());
     if (!changes.empty())

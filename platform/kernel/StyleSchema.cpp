@@ -43,6 +43,8 @@ StyleSchema::StyleSchema()
     for (const char* component : {"UVar", "VVar", "WVar"})
         addVariable(std::string("GlobalThreeDVector/") + component, 0);
 
+    add("FieldLayers/ShowVector", {StyleType::Bool, false, {}});
+
     // One field map per zone, chosen by the first offset.
     for (const char* layer : {"Mesh", "Scatter"}) {
         const std::string group = std::string("FieldMap/") + layer;

@@ -1,4 +1,5 @@
 #include "platform/kernel/UndoStack.h"
+#include <cctype>
 
 namespace orrery {
 namespace kernel {
@@ -6,28 +7,32 @@ namespace kernel {
 void UndoStack::add(const UndoRecord& record)
 {
     if (m_brackets.empty())
-        push({record});
+        push({{record}, nameFor(record)});
     else
-        m_brackets.back().push_back(record);
+        m_brackets.back().records.push_back(record);
 }
 
-void UndoStack::begin()
+void UndoStack::begin(const std::string& name)
 {
-    m_brackets.emplace_back();
+    m_brackets.push_back({{}, name});
 }
 
 UndoStack::Step UndoStack::end(bool revert, bool record)
 {
     if (m_brackets.empty())
         return {};
-    Step closed = std::move(m_brackets.back());
+    Named closed = std::move(m_brackets.back());
     m_brackets.pop_back();
     if (revert)
-        return closed;
-    if (!m_brackets.empty())
-        m_brackets.back().insert(m_brackets.back().end(), closed.begin(), closed.end());
-    else if (record && !closed.empty())
-        push(closed);
+        return closed.records;
+    if (!m_brackets.empty()) {
+        Step& outer = m_brackets.back().records;
+        outer.insert(outer.end(), closed.records.begin(), closed.records.end());
+    } else if (record && !closed.records.empty()) {
+        if (closed.name.empty())
+            closed.name = closed.records.size() == 1 ? nameFor(closed.records.front()) : "Style Changes";
+        push(std::move(closed));
+    }
     return {};
 }
 
@@ -35,20 +40,20 @@ UndoStack::Step UndoStack::undo()
 {
     if (m_done.empty())
         return {};
-    Step step = std::move(m_done.back());
+    m_undone.push_back(std::move(m_done.back()));
     m_done.pop_back();
-    m_undone.push_back(step);
-    return step;
+    m_changed();
+    return m_undone.back().records;
 }
 
 UndoStack::Step UndoStack::redo()
 {
     if (m_undone.empty())
         return {};
-    Step step = std::move(m_undone.back());
+    m_done.push_back(std::move(m_undone.back()));
     m_undone.pop_back();
-    m_done.push_back(step);
-    return step;
+    m_changed();
+    return m_done.back().records;
 }
 
 void UndoStack::clear()
@@ -56,12 +61,41 @@ void UndoStack::clear()
     m_brackets.clear();
     m_done.clear();
     m_undone.clear();
+    m_changed();
 }
 
-void UndoStack::push(const Step& step)
+std::string UndoStack::undoName() const
 {
-    m_done.push_back(step);
+    return m_done.empty() ? std::string() : m_done.back().name;
+}
+
+std::string UndoStack::redoName() const
+{
+    return m_undone.empty() ? std::string() : m_undone.back().name;
+}
+
+void UndoStack::push(Named step)
+{
+    m_done.push_back(std::move(step));
     m_undone.clear();
+    m_changed();
+}
+
+// "RedChannelVar" becomes "Change Red Channel Var": a single write is named
+// after the value it changed.
+std::string UndoStack::nameFor(const UndoRecord& record)
+{
+    if (record.path.empty())
+        return "Style Change";
+    const std::string& last = record.path[record.path.count() - 1];
+    std::string name = "Change ";
+    for (size_t i = 0; i < last.size(); ++i) {
+        const unsigned char c = static_cast<unsigned char>(last[i]);
+        if (i > 0 && std::isupper(c) && std::islower(static_cast<unsigned char>(last[i - 1])))
+            name += ' ';
+        name += last[i];
+    }
+    return name;
 }
 
 } // namespace kernel

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <boost/signals2/signal.hpp>
 #include <vector>
 #include "platform/kernel/StyleDatum.h"
 #include "platform/toolbox/StringList.h"
@@ -25,7 +26,9 @@ public:
     typedef std::vector<UndoRecord> Step;
 
     void add(const UndoRecord& record);
-    void begin();
+    // name: what the step is called in an Edit menu ("Assign Variables"); an
+    // inner bracket's name is dropped, the outermost one names the step.
+    void begin(const std::string& name = std::string());
     // Closes the innermost bracket and returns the writes to take back (all of
     // the bracket's when revert is set, else none).
     Step end(bool revert, bool record);
@@ -37,12 +40,26 @@ public:
     Step redo();
     void clear();
 
-private:
-    void push(const Step& step);
+    // Names of the steps that undo() and redo() would take; empty when there is
+    // none.
+    std::string undoName() const;
+    std::string redoName() const;
+    // Fired whenever the steps to undo or redo change.
+    boost::signals2::signal<void ()>& changedSignal() { return m_changed; }
 
-    std::vector<Step> m_brackets;
-    std::vector<Step> m_done;
-    std::vector<Step> m_undone;
+private:
+    struct Named
+    {
+        Step records;
+        std::string name;
+    };
+    void push(Named step);
+    static std::string nameFor(const UndoRecord& record);
+
+    std::vector<Named> m_brackets;
+    std::vector<Named> m_done;
+    std::vector<Named> m_undone;
+    boost::signals2::signal<void ()> m_changed;
 };
 
 } // namespace kernel

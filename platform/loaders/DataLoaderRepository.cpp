@@ -4,6 +4,7 @@
 #include <QString>
 #include "platform/loaders/CsvDataLoader.h"
 #include "platform/loaders/TextTableDataLoader.h"
+#include "platform/loaders/VtkLegacyDataLoader.h"
 #include "platform/loaders/ZoneBlockDataLoader.h"
 
 namespace orrery {
@@ -20,6 +21,7 @@ DataLoaderRepository::DataLoaderRepository()
     registerLoader(boost::make_shared<CsvDataLoader>());
     registerLoader(boost::make_shared<TextTableDataLoader>());
     registerLoader(boost::make_shared<ZoneBlockDataLoader>());
+    registerLoader(boost::make_shared<VtkLegacyDataLoader>());
 }
 
 std::vector<DataLoaderRepository::LoaderPtr> DataLoaderRepository::dataLoaderInterfaces(bool includeHidden) const

@@ -8,7 +8,7 @@ namespace orrery {
 namespace sdk {
 
 // Every data loader installed in the host, in registration order. Starts with
-// the built-in loaders (comma-separated table, whitespace table, zone blocks).
+// the built-in loaders (comma-separated table, whitespace table, zone blocks, legacy VTK).
 class DataLoaderRepository
 {
 public:

@@ -5,12 +5,20 @@ namespace sdk {
 
 namespace {
 int g_depth = 0;
+int g_suppressing = 0;
 }
 
-AppLock::AppLock(ImplicitMacroRecording recording) : m_recording(recording) { ++g_depth; }
+AppLock::AppLock(ImplicitMacroRecording recording) : m_recording(recording)
+{
+    ++g_depth;
+    if (m_recording == ImplicitMacroRecording_Suppress)
+        ++g_suppressing;
+}
 
 AppLock::~AppLock()
 {
+    if (m_recording == ImplicitMacroRecording_Suppress)
+        --g_suppressing;
     if (--g_depth == 0)
         becameIdleSignal()();
 }
@@ -18,6 +26,8 @@ AppLock::~AppLock()
 bool AppLock::isBusy() { return g_depth > 0; }
 
 int AppLock::depth() { return g_depth; }
+
+bool AppLock::recordingSuppressed() { return g_suppressing > 0; }
 
 boost::signals2::signal<void ()>& AppLock::becameIdleSignal()
 {

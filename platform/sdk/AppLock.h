@@ -24,6 +24,9 @@ public:
 
     static bool isBusy();
     static int depth();
+    // True while any held lock suppresses implicit recording: the changes made
+    // then are not written to the journal.
+    static bool recordingSuppressed();
     // Fired when the last lock is released and the host becomes idle.
     static boost::signals2::signal<void ()>& becameIdleSignal();
 

@@ -314,14 +314,14 @@ TEST(NumberRule, DecimalNumbersOnlyAndEachRefusalNamesItsRule)
 TEST_F(DataLoading, RepositoryFindsLoadersByExtension)
 {
     DataLoaderRepository& repository = DataLoaderRepository::getInstance();
-    EXPECT_EQ(3u, repository.dataLoaderInterfaces(false).size());
+    EXPECT_EQ(4u, repository.dataLoaderInterfaces(false).size());
     ASSERT_EQ(1u, repository.loadersForExtension(".DAT").size());
     EXPECT_EQ("Text table", repository.loadersForExtension("dat")[0]->properties().name);
     EXPECT_TRUE(repository.loadersForExtension("xyz").empty());
 
     repository.registerLoader(boost::make_shared<HiddenLoader>());
-    EXPECT_EQ(3u, repository.dataLoaderInterfaces(false).size());
-    EXPECT_EQ(4u, repository.dataLoaderInterfaces(true).size());
+    EXPECT_EQ(4u, repository.dataLoaderInterfaces(false).size());
+    EXPECT_EQ(5u, repository.dataLoaderInterfaces(true).size());
     EXPECT_EQ(1u, repository.loadersForExtension("csv").size());
     EXPECT_FALSE(repository.loaderNamed("No such loader"));
 }

@@ -1,0 +1,223 @@
+// The demo host's two heavy paths beside their baselines, in one run:
+//  - the plot's redraw of 1,000,000 points beside QPainter::drawPoints of the
+//    same points into an image of the same size;
+//  - loading a legacy VTK file beside a plain read of the same file, with the
+//    peak heap of each as a multiple of the data held as doubles.
+// The default file is 10 MB; ORRERY_BENCH_VTK_MB=100 makes it 100 MB.
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <new>
+#include <random>
+#include <string>
+#include <vector>
+#include <benchmark/benchmark.h>
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QtEndian>
+#include "demo/PlotView.h"
+#include "platform/kernel/DataSet.h"
+#include "platform/kernel/KernelTestSupport.h"
+#include "platform/loaders/DataLoaderRepository.h"
+
+using orrery::kernel::testing::KernelTestSupport;
+
+// Heap bytes in use and the most since the last reset, counted for every
+// allocation of the program.
+namespace {
+std::atomic<long long> g_inUse{0};
+std::atomic<long long> g_peak{0};
+
+void counted(long long bytes)
+{
+    const long long now = g_inUse += bytes;
+    long long peak = g_peak.load();
+    while (now > peak && !g_peak.compare_exchange_weak(peak, now)) {
+    }
+}
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    void* p = std::malloc(size + 16);
+    if (!p)
+        throw std::bad_alloc();
+    *static_cast<std::size_t*>(p) = size;
+    counted(static_cast<long long>(size));
+    return static_cast<char*>(p) + 16;
+}
+void operator delete(void* p) noexcept
+{
+    if (!p)
+        return;
+    char* block = static_cast<char*>(p) - 16;
+    counted(-static_cast<long long>(*reinterpret_cast<std::size_t*>(block)));
+    std::free(block);
+}
+void operator delete(void* p, std::size_t) noexcept { operator delete(p); }
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete[](void* p) noexcept { operator delete(p); }
+void operator delete[](void* p, std::size_t) noexcept { operator delete(p); }
+
+namespace {
+
+const int Points = 1000000;
+const QSize ImageSize(1000, 800);
+
+void putMillionPoints()
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> unit(0.0, 1.0);
+    std::vector<std::vector<double>> values(2, std::vector<double>(Points));
+    for (int i = 0; i < Points; ++i) {
+        values[0][size_t(i)] = unit(random);
+        values[1][size_t(i)] = unit(random);
+    }
+    orrery::kernel::DataSet data("Million", {"X", "Y"});
+    data.addZone("Cloud", values);
+    KernelTestSupport::resetKernel();
+    KernelTestSupport::setDataSet(data);
+}
+
+void PlotRedrawMillionPoints(benchmark::State& state)
+{
+    putMillionPoints();
+    PlotView view;
+    QImage image(ImageSize, QImage::Format_RGB32);
+    for (auto _ : state) {
+        view.render(image);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.counters["points/s"] = benchmark::Counter(double(Points), benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(PlotRedrawMillionPoints)->Unit(benchmark::kMillisecond);
+
+// The same points, already in pixels, drawn with the pen the plot uses for
+// many points, after the same white fill.
+void BaselineDrawPointsMillion(benchmark::State& state)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> unit(0.0, 1.0);
+    std::vector<QPointF> points(Points);
+    for (QPointF& p : points)
+        p = QPointF(70 + unit(random) * (ImageSize.width() - 94), 30 + unit(random) * (ImageSize.height() - 80));
+    QImage image(ImageSize, QImage::Format_RGB32);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        painter.fillRect(image.rect(), Qt::white);
+        painter.setPen(QPen(Qt::black, 1, Qt::SolidLine, Qt::RoundCap));
+        painter.drawPoints(points.data(), int(points.size()));
+        painter.end();
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.counters["points/s"] = benchmark::Counter(double(Points), benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BaselineDrawPointsMillion)->Unit(benchmark::kMillisecond);
+
+// A binary structured grid of double coordinates and one double scalar: 32
+// bytes a point in the file and four doubles a point in the data set.
+struct VtkFile
+{
+    std::string path;
+    long long points = 0;
+    long long bytes = 0;
+};
+
+const VtkFile& vtkFile()
+{
+    static VtkFile file = [] {
+        const char* mb = std::getenv("ORRERY_BENCH_VTK_MB");
+        const long long wanted = (mb ? std::atoll(mb) : 10) * 1000000LL;
+        VtkFile f;
+        f.path = "/tmp/orrery-demobench.vtk";
+        const long long side = 1000;
+        const long long layers = std::max(1LL, wanted / 32 / side);
+        f.points = side * layers;
+        std::ofstream out(f.path, std::ios::binary);
+        out << "# vtk DataFile Version 3.0\nbench\nBINARY\nDATASET STRUCTURED_GRID\nDIMENSIONS " << side << " "
+            << layers << " 1\nPOINTS " << f.points << " double\n";
+        std::vector<char> row(size_t(side) * 24);
+        for (long long j = 0; j < layers; ++j) {
+            for (long long i = 0; i < side; ++i) {
+                const double xyz[3] = {double(i), double(j), 0.5};
+                for (int a = 0; a < 3; ++a)
+                    qToBigEndian(xyz[a], row.data() + (i * 3 + a) * 8);
+            }
+            out.write(row.data(), std::streamsize(row.size()));
+        }
+        out << "\nPOINT_DATA " << f.points << "\nSCALARS s double\nLOOKUP_TABLE default\n";
+        for (long long j = 0; j < layers; ++j) {
+            for (long long i = 0; i < side; ++i)
+                qToBigEndian(double(i * j), row.data() + i * 8);
+            out.write(row.data(), std::streamsize(side * 8));
+        }
+        out.close();
+        f.bytes = static_cast<long long>(std::ifstream(f.path, std::ios::binary | std::ios::ate).tellg());
+        return f;
+    }();
+    return file;
+}
+
+void reportMemory(benchmark::State& state, long long peak)
+{
+    const VtkFile& f = vtkFile();
+    const double data = double(f.points) * 4 * sizeof(double);
+    state.counters["file_MB"] = double(f.bytes) / 1e6;
+    state.counters["bytes/s"] = benchmark::Counter(double(f.bytes), benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["peak_x_data"] = double(peak) / data;
+}
+
+void VtkLoad(benchmark::State& state)
+{
+    const VtkFile& f = vtkFile();
+    auto loader = orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("VTK legacy");
+    long long peak = 0;
+    for (auto _ : state) {
+        KernelTestSupport::clearDataSet();
+        g_peak = g_inUse.load();
+        const long long before = g_inUse.load();
+        std::string error;
+        if (!loader->load(f.path, error))
+            state.SkipWithError(error.c_str());
+        peak = std::max(peak, g_peak.load() - before);
+    }
+    reportMemory(state, peak);
+}
+BENCHMARK(VtkLoad)->Unit(benchmark::kMillisecond);
+
+// The file read into memory in blocks of the loader's size, nothing parsed.
+void BaselinePlainRead(benchmark::State& state)
+{
+    const VtkFile& f = vtkFile();
+    long long peak = 0;
+    for (auto _ : state) {
+        g_peak = g_inUse.load();
+        const long long before = g_inUse.load();
+        std::unique_ptr<std::FILE, int (*)(std::FILE*)> in(std::fopen(f.path.c_str(), "rb"), &std::fclose);
+        std::vector<char> all;
+        all.reserve(size_t(f.bytes));
+        std::vector<char> block(1 << 20);
+        for (size_t n; (n = std::fread(block.data(), 1, block.size(), in.get())) > 0;)
+            all.insert(all.end(), block.data(), block.data() + n);
+        benchmark::DoNotOptimize(all.data());
+        peak = std::max(peak, g_peak.load() - before);
+    }
+    reportMemory(state, peak);
+}
+BENCHMARK(BaselinePlainRead)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    std::remove("/tmp/orrery-demobench.vtk");
+    return 0;
+}

@@ -1,0 +1,108 @@
+#include "demo/HostStyle.h"
+
+#include <algorithm>
+
+#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/AppLock.h"
+#include "platform/toolbox/ArgList.h"
+#include "platform/toolbox/CheckedStyleValue.h"
+
+using orrery::sdk::AppLock;
+using orrery::toolbox::ArgList;
+using orrery::toolbox::CheckedStyleValue;
+using orrery::RawArray;
+using orrery::toolbox::StringList;
+using orrery::toolbox::StyleValue;
+
+namespace {
+
+void identifiers(const StyleValue& value, RawArray<long>& ids)
+{
+    ids.append(value.macroIDs());
+    ids.push_back(-1);
+}
+
+bool finish(SetValueReturnCode_e code, std::string* error)
+{
+    if (code == SetValue_Ok)
+        return true;
+    if (error)
+    {
+        char* text = OrrUtilStyleGetLastErrorString();
+        *error = text ? text : "The kernel declined the change.";
+        OrrUtilStringDealloc(&text);
+    }
+    return false;
+}
+
+} // namespace
+
+StringList HostStyle::path(const std::string& slashed)
+{
+    StringList names;
+    size_t start = 0;
+    while (start <= slashed.size())
+    {
+        const size_t slash = std::min(slashed.find('/', start), slashed.size());
+        names.append(slashed.substr(start, slash - start));
+        start = slash + 1;
+    }
+    return names;
+}
+
+long HostStyle::integer(const std::string& slashed, long member, long fallback)
+{
+    const CheckedStyleValue value{StyleValue(path(slashed))};
+    RawArray<long> ids;
+    identifiers(value, ids);
+    ArgList args;
+    value.setupGetValueArgList(ids, member, -1, args);
+    long raw = 0;
+    args.appendArbParamPtr("IValue", &raw);
+    return StyleValue::returnCodeOk(value.styleGetLowLevel(args)) ? raw : fallback;
+}
+
+double HostStyle::number(const std::string& slashed, long member, double fallback)
+{
+    const StyleValue value(path(slashed));
+    RawArray<long> ids;
+    identifiers(value, ids);
+    ArgList args;
+    value.setupGetValueArgList(ids, member, -1, args);
+    double result = fallback;
+    return StyleValue::returnCodeOk(value.getFinalValue(&result, args)) ? result : fallback;
+}
+
+bool HostStyle::flag(const std::string& slashed, long member, bool fallback)
+{
+    const StyleValue value(path(slashed));
+    RawArray<long> ids;
+    identifiers(value, ids);
+    ArgList args;
+    value.setupGetValueArgList(ids, member, -1, args);
+    bool result = fallback;
+    return StyleValue::returnCodeOk(value.getFinalValue(&result, args)) ? result : fallback;
+}
+
+bool HostStyle::setInteger(const std::string& slashed, long number, std::string* error)
+{
+    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+    const CheckedStyleValue value{StyleValue(path(slashed))};
+    RawArray<long> ids;
+    identifiers(value, ids);
+    ArgList args;
+    value.setupSetValueArgList(ids, nullptr, -1, -1, AssignOp_Equals, args);
+    args.appendArbParam("IValue", number);
+    return finish(value.styleSetLowLevel(args), error);
+}
+
+bool HostStyle::setFlag(const std::string& slashed, bool on, std::string* error, long member)
+{
+    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+    const StyleValue value(path(slashed));
+    RawArray<long> ids;
+    identifiers(value, ids);
+    ArgList args;
+    value.setupSetValueArgList(ids, nullptr, member, -1, AssignOp_Equals, args);
+    return finish(value.setFinalValue(on, args), error);
+}

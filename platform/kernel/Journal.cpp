@@ -1,0 +1,217 @@
+#include "platform/kernel/Journal.h"
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <system_error>
+#include "platform/sdk/AppLock.h"
+
+namespace orrery {
+namespace kernel {
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r';
+}
+
+std::string trimmed(const std::string& text)
+{
+    size_t first = 0, last = text.size();
+    while (first < last && isBlank(text[first]))
+        ++first;
+    while (last > first && isBlank(text[last - 1]))
+        --last;
+    return text.substr(first, last - first);
+}
+
+template <typename T>
+std::optional<T> number(const std::string& text)
+{
+    T value{};
+    const char* begin = text.data();
+    const char* end = begin + text.size();
+    if (begin != end && *begin == '+')
+        ++begin;
+    const auto [stop, error] = std::from_chars(begin, end, value);
+    if (error != std::errc() || stop != end || begin == end)
+        return std::nullopt;
+    return value;
+}
+
+} // namespace
+
+void Journal::clear()
+{
+    m_lines.clear();
+    m_brackets.clear();
+}
+
+bool Journal::recording() const
+{
+    return !sdk::AppLock::recordingSuppressed();
+}
+
+void Journal::add(const std::string& line)
+{
+    if (!m_brackets.empty()) {
+        m_brackets.back().lines.push_back(line);
+        return;
+    }
+    m_lines.push_back(line);
+    m_lineAdded(line);
+}
+
+void Journal::recordStyle(const toolbox::StringList& prefix, const toolbox::StringList& path, long member,
+                          const StyleDatum& value)
+{
+    if (!recording())
+        return;
+    std::string target = prefix.empty() ? path.join("/") : prefix.join("/") + "/" + path.join("/");
+    if (member > 0)
+        target += "[" + std::to_string(member) + "]";
+    add("style " + target + " " + format(value));
+}
+
+void Journal::recordUndo()
+{
+    if (recording())
+        add("undo");
+}
+
+void Journal::recordRedo()
+{
+    if (recording())
+        add("redo");
+}
+
+void Journal::beginBracket(const std::string& name)
+{
+    m_brackets.push_back({name, {}});
+}
+
+void Journal::endBracket(bool revert, bool record)
+{
+    if (m_brackets.empty())
+        return;
+    Bracket closed = std::move(m_brackets.back());
+    m_brackets.pop_back();
+    if (revert || closed.lines.empty())
+        return;
+    if (!m_brackets.empty()) {
+        std::vector<std::string>& outer = m_brackets.back().lines;
+        outer.insert(outer.end(), closed.lines.begin(), closed.lines.end());
+        return;
+    }
+    add(closed.name.empty() ? "begin" : "begin " + quote(closed.name));
+    for (const std::string& line : closed.lines)
+        add(line);
+    add(record ? "end" : "end unrecorded");
+}
+
+bool Journal::save(const std::string& path, std::string& error) const
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (out)
+        for (const std::string& line : m_lines)
+            out << line << '\n';
+    out.flush();
+    if (!out) {
+        error = "Cannot write the journal to " + path + ": " + std::strerror(errno);
+        return false;
+    }
+    return true;
+}
+
+std::string Journal::format(const StyleDatum& value)
+{
+    if (const long* l = std::get_if<long>(&value))
+        return std::to_string(*l);
+    if (const bool* b = std::get_if<bool>(&value))
+        return *b ? "true" : "false";
+    if (const double* d = std::get_if<double>(&value)) {
+        // Shortest text that reads back as the same double.
+        char buffer[64];
+        const auto result = std::to_chars(buffer, buffer + sizeof buffer, *d);
+        return std::string(buffer, result.ptr);
+    }
+    return quote(std::get<std::string>(value));
+}
+
+std::optional<StyleDatum> Journal::parse(const std::string& raw, const StyleDatum& like)
+{
+    const std::string text = trimmed(raw);
+    switch (like.index()) {
+    case 0:
+        if (auto l = number<long>(text))
+            return StyleDatum(*l);
+        break;
+    case 1:
+        if (auto d = number<double>(text))
+            return StyleDatum(*d);
+        break;
+    case 2:
+        if (text == "true" || text == "false")
+            return StyleDatum(text == "true");
+        break;
+    default: {
+        std::string rest;
+        auto s = unquote(text, &rest);
+        if (s && trimmed(rest).empty())
+            return StyleDatum(*s);
+        break;
+    }
+    }
+    return std::nullopt;
+}
+
+std::string Journal::quote(const std::string& text)
+{
+    std::string quoted = "\"";
+    for (char c : text) {
+        switch (c) {
+        case '"': quoted += "\\\""; break;
+        case '\\': quoted += "\\\\"; break;
+        case '\n': quoted += "\\n"; break;
+        case '\t': quoted += "\\t"; break;
+        case '\r': quoted += "\\r"; break;
+        default: quoted += c;
+        }
+    }
+    return quoted + "\"";
+}
+
+std::optional<std::string> Journal::unquote(const std::string& text, std::string* rest)
+{
+    if (text.empty() || text[0] != '"')
+        return std::nullopt;
+    std::string value;
+    for (size_t i = 1; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '"') {
+            if (rest)
+                *rest = text.substr(i + 1);
+            return value;
+        }
+        if (c != '\\') {
+            value += c;
+            continue;
+        }
+        if (++i == text.size())
+            break;
+        switch (text[i]) {
+        case 'n': value += '\n'; break;
+        case 't': value += '\t'; break;
+        case 'r': value += '\r'; break;
+        case '"':
+        case '\\': value += text[i]; break;
+        default: return std::nullopt;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace kernel
+} // namespace orrery

@@ -1,0 +1,74 @@
+#pragma once
+#include <optional>
+#include <string>
+#include <vector>
+#include <boost/signals2/signal.hpp>
+#include "platform/kernel/StyleDatum.h"
+#include "platform/toolbox/StringList.h"
+
+namespace orrery {
+namespace kernel {
+
+// The host's record of what the user did, one command per line:
+//
+//   style GlobalRGB/RedChannelVar 4          a style value (frame-prefixed paths
+//   style FieldMap/Scatter/Color[2] -6       such as Frame/2/... name a frame;
+//   style GlobalScatter/BaseFontFamily "Sans Serif"   [n] names a zone's member)
+//   begin "Assign Variables"                 the lines up to "end" are one undo
+//   end                                      step ("end unrecorded": no step)
+//   undo
+//   redo
+//   # a comment
+//
+// Changes are recorded unless an AppLock that suppresses implicit recording is
+// held. The lines of an undo bracket are held back until the outermost bracket
+// closes, so a bracket that is taken back leaves no lines.
+class Journal
+{
+public:
+    typedef boost::signals2::signal<void (const std::string&)> LineSignal;
+
+    const std::vector<std::string>& lines() const { return m_lines; }
+    void clear();
+
+    // A style value changed. prefix: the frame names the write used ("Frame",
+    // "2"), empty for the current frame. member 0: not a collection.
+    void recordStyle(const toolbox::StringList& prefix, const toolbox::StringList& path, long member,
+                     const StyleDatum& value);
+    void recordUndo();
+    void recordRedo();
+    void beginBracket(const std::string& name);
+    void endBracket(bool revert, bool record);
+
+    // Writes every line to path. False, with error naming the file, on failure.
+    bool save(const std::string& path, std::string& error) const;
+
+    // Fired for each line as it joins the journal.
+    LineSignal& lineAdded() { return m_lineAdded; }
+
+    // The text of a value on a journal line, and back (for a value of the
+    // type of like); nullopt when text is not such a value.
+    static std::string format(const StyleDatum& value);
+    static std::optional<StyleDatum> parse(const std::string& text, const StyleDatum& like);
+    static std::string quote(const std::string& text);
+    // Reads a quoted text at the start of text; nullopt when it is not one.
+    // rest receives what follows the closing quote.
+    static std::optional<std::string> unquote(const std::string& text, std::string* rest = nullptr);
+
+private:
+    bool recording() const;
+    void add(const std::string& line);
+
+    struct Bracket
+    {
+        std::string name;
+        std::vector<std::string> lines;
+    };
+
+    std::vector<std::string> m_lines;
+    std::vector<Bracket> m_brackets;
+    LineSignal m_lineAdded;
+};
+
+} // namespace kernel
+} // namespace orrery

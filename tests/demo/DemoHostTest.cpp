@@ -1,0 +1,236 @@
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include "demo/MainWindow.h"
+#include "demo/PlotView.h"
+#include "platform/kernel/Kernel.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/loaders/DataLoaderRepository.h"
+#include "platform/sdk/AppLock.h"
+#include "tests/support/TestSupport.h"
+
+using orrery::sdk::AppLock;
+using testsupport::Kernel;
+using testsupport::SampleKernelTest;
+using testsupport::styleValue;
+
+namespace {
+
+QRgb basic(int index)
+{
+    unsigned char r, g, b;
+    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
+    return qRgb(r, g, b);
+}
+
+int pixelsOf(const QImage& image, QRgb colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += (image.pixel(x, y) & 0xffffff) == (colour & 0xffffff);
+    return count;
+}
+
+// Pixels that are neither grey nor one of the basic colours: only RGB or
+// multi colouring paints them.
+int blendedPixels(const QImage& image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb p = image.pixel(x, y);
+            const bool grey = qRed(p) == qGreen(p) && qGreen(p) == qBlue(p);
+            bool basicColour = false;
+            for (int i = 0; i < 8; ++i)
+                basicColour |= (p & 0xffffff) == (basic(i) & 0xffffff);
+            count += !grey && !basicColour;
+        }
+    return count;
+}
+
+class DemoHost : public SampleKernelTest
+{
+protected:
+    QImage shown(PlotView& view)
+    {
+        return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+    QAction& action(MainWindow& window, const char* name)
+    {
+        QAction* found = window.findChild<QAction*>(name);
+        EXPECT_NE(found, nullptr) << name;
+        return *found;
+    }
+};
+
+TEST_F(DemoHost, ThePlotIsDrawnAnewAfterEachStateChangeAndShowsWhatTheStyleSays)
+{
+    PlotView view;
+    view.resize(400, 300);
+    const QRgb red = basic(1);
+    const QImage black = shown(view);
+    const int draws = view.drawCount();
+    EXPECT_EQ(pixelsOf(black, red), 0);
+    EXPECT_GT(pixelsOf(black, basic(0)), 0);
+    shown(view);
+    EXPECT_EQ(view.drawCount(), draws) << "a repaint without a change reuses the picture";
+
+    for (int zone = 1; zone <= 3; ++zone)
+        Kernel::setStyle({"FieldMap", "Mesh", "Color"}, 1L, zone);
+    EXPECT_GT(pixelsOf(shown(view), red), 20);
+    EXPECT_GT(view.drawCount(), draws);
+
+    // RGB colouring by three variables paints colours no basic colour has.
+    Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 4L);
+    Kernel::setStyle({"GlobalRGB", "GreenChannelVar"}, 5L);
+    Kernel::setStyle({"GlobalRGB", "BlueChannelVar"}, 2L);
+    Kernel::setStyle({"GlobalRGB", "RangeMax"}, 400.0);
+    EXPECT_EQ(blendedPixels(shown(view)), 0);
+    Kernel::setStyle({"FieldMap", "Mesh", "Color"}, -6L, 2);
+    EXPECT_GT(blendedPixels(shown(view)), 20);
+
+    // Scatter symbols sized by a variable cover more of the plot as the multiplier grows.
+    Kernel::setStyle({"FieldMap", "Scatter", "Show"}, true, 1);
+    Kernel::setStyle({"FieldMap", "Scatter", "Color"}, 3L, 1);
+    Kernel::setStyle({"GlobalScatter", "Var"}, 2L);
+    Kernel::setStyle({"GlobalScatter", "RelativeSize"}, 0.2);
+    const int small = pixelsOf(shown(view), basic(3));
+    Kernel::setStyle({"GlobalScatter", "RelativeSize"}, 0.6);
+    EXPECT_GT(small, 0);
+    EXPECT_GT(pixelsOf(shown(view), basic(3)), 2 * small);
+}
+
+TEST_F(DemoHost, VectorsLinesAndThe3DViewEachChangeThePicture)
+{
+    PlotView view;
+    view.resize(400, 300);
+    const QImage points = shown(view);
+
+    Kernel::setStyle({"GlobalTwoDVector", "UVar"}, 4L);
+    Kernel::setStyle({"GlobalTwoDVector", "VVar"}, 5L);
+    EXPECT_EQ(shown(view), points) << "the vector layer is off";
+    Kernel::setStyle({"FieldLayers", "ShowVector"}, true);
+    const QImage vectors = shown(view);
+    EXPECT_NE(vectors, points);
+
+    Kernel::setPlotType(PlotType_XYLine);
+    EXPECT_NE(shown(view), vectors);
+
+    Kernel::setPlotType(PlotType_ThreeD);
+    const QImage threeD = shown(view);
+    view.setRotation(view.yaw() + 60, view.pitch());
+    EXPECT_NE(shown(view), threeD);
+}
+
+TEST_F(DemoHost, UndoAndRedoInTheEditMenuNameTheStepAndTakeItBack)
+{
+    MainWindow window;
+    QAction& undo = action(window, "editUndo");
+    QAction& redo = action(window, "editRedo");
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_EQ(undo.shortcut(), QKeySequence(QKeySequence::Undo));
+
+    {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        OrrUtilUndoStateBegin(UndoCategory_AssignVariables);
+        Kernel::setStyle({"TwoDAxis", "XDetail", "VarNum"}, 4L);
+        Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 5L);
+        OrrUtilUndoStateEnd(false, true);
+    }
+    EXPECT_TRUE(undo.isEnabled());
+    EXPECT_EQ(undo.text(), "&Undo Assign Variables");
+    EXPECT_FALSE(redo.isEnabled());
+
+    undo.trigger();
+    EXPECT_EQ(styleValue<long>({"TwoDAxis", "XDetail", "VarNum"}), 1);
+    EXPECT_EQ(styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}), 2);
+    EXPECT_FALSE(undo.isEnabled());
+    EXPECT_EQ(redo.text(), "&Redo Assign Variables");
+
+    redo.trigger();
+    EXPECT_EQ(styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}), 5);
+    EXPECT_EQ(undo.text(), "&Undo Assign Variables");
+
+    // The view menu's own changes are steps too, and the journal shows them all.
+    action(window, "viewPlotType1").trigger();
+    EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_ThreeD);
+    EXPECT_EQ(undo.text(), "&Undo Change Plot Type");
+    action(window, "viewShowScatter").trigger();
+    EXPECT_TRUE(styleValue<bool>({"FieldMap", "Scatter", "Show"}, 3));
+    EXPECT_EQ(undo.text(), "&Undo Show Scatter");
+    const QString journal = window.findChild<QPlainTextEdit*>("journal")->toPlainText();
+    EXPECT_TRUE(journal.startsWith("begin \"Assign Variables\"\nstyle TwoDAxis/XDetail/VarNum 4\n")) << journal.toStdString();
+    EXPECT_TRUE(journal.contains("\nundo\nredo\nstyle FrameLayout/PlotType 1\nbegin \"Show Scatter\"\n")) << journal.toStdString();
+}
+
+TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNumber)
+{
+    QTemporaryDir folder;
+    const QString saved = QDir(folder.path()).filePath("session.orj");
+    {
+        MainWindow window;
+        action(window, "viewShowVectors").trigger();
+        action(window, "viewPlotType3").trigger();
+        ASSERT_TRUE(window.saveJournal(saved));
+    }
+    Kernel::resetKernel();
+    Kernel::loadSampleDataSet();
+    Kernel::captureMessageBoxes();
+    MainWindow window;
+    ASSERT_TRUE(window.replayJournal(saved)) << testsupport::messageTexts().front();
+    EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_XYLine);
+    EXPECT_TRUE(styleValue<bool>({"FieldLayers", "ShowVector"}));
+    EXPECT_TRUE(action(window, "viewShowVectors").isChecked());
+
+    const QString bad = QDir(folder.path()).filePath("bad.orj");
+    QFile file(bad);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("style FrameLayout/PlotType 1\nstyle FrameLayout/PlotType 9\nstyle FieldLayers/ShowVector false\n");
+    file.close();
+    EXPECT_FALSE(window.replayJournal(bad));
+    ASSERT_EQ(testsupport::messageTexts().size(), 1u);
+    EXPECT_NE(testsupport::messageTexts().front().find(bad.toStdString() + ", line 2: the kernel refused"),
+              std::string::npos)
+        << testsupport::messageTexts().front();
+    EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_ThreeD);
+    EXPECT_TRUE(styleValue<bool>({"FieldLayers", "ShowVector"}));
+    EXPECT_FALSE(window.saveJournal(folder.path())) << "a folder cannot be written as a journal";
+}
+
+TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
+{
+    MainWindow window;
+    QStringList opened;
+    for (const QFileInfo& info : QDir(ORRERY_TEST_SAMPLES).entryInfoList(QDir::Files, QDir::Name)) {
+        const auto loaders =
+            orrery::sdk::DataLoaderRepository::getInstance().loadersForExtension(info.suffix().toStdString());
+        if (loaders.size() != 1)
+            continue; // the loader chooser would ask; the loader tests cover those files
+        Kernel::loadSampleDataSet();
+        EXPECT_TRUE(window.loadFile(info.absoluteFilePath())) << info.fileName().toStdString();
+        EXPECT_NE(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate") << info.fileName().toStdString();
+        EXPECT_GT(OrrUtilZoneGetNumPoints(1), 0);
+        opened << info.suffix();
+    }
+    EXPECT_GE(opened.count("vtk"), 2) << opened.join(" ").toStdString();
+    EXPECT_TRUE(testsupport::messageTexts().empty());
+
+    Kernel::loadSampleDataSet();
+    QTemporaryDir folder;
+    const QString broken = QDir(folder.path()).filePath("broken.vtk");
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("# vtk DataFile Version 3.0\nx\nASCII\nDATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1\n");
+    file.close();
+    EXPECT_FALSE(window.loadFile(broken));
+    ASSERT_EQ(testsupport::messageTexts().size(), 1u);
+    EXPECT_NE(testsupport::messageTexts().front().find("broken.vtk, line "), std::string::npos)
+        << testsupport::messageTexts().front();
+    EXPECT_EQ(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate");
+}
+
+} // namespace
