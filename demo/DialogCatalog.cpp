@@ -1,6 +1,7 @@
 #include "demo/DialogCatalog.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
@@ -37,6 +38,13 @@ using namespace orrery::dialogs::prompt;
 
 namespace {
 
+// Texts the host hands to a dialog cross as Latin-1, which holds every
+// letter of the demo's translations.
+std::string translated(const char* text)
+{
+    return QCoreApplication::translate("DialogCatalog", text).toLatin1().toStdString();
+}
+
 QString yesNo(bool value)
 {
     return value ? "yes" : "no";
@@ -45,7 +53,8 @@ QString yesNo(bool value)
 // Text string prompt
 EnterTextStringDialog* openTextString(QWidget& parent)
 {
-    auto* dialog = new EnterTextStringDialog(parent, "Title of the new frame:", "Frame 1", "", false);
+    auto* dialog = new EnterTextStringDialog(parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
+                                             QCoreApplication::translate("DialogCatalog", "Frame 1"), "", false);
     dialog->setModal(true); // the host runs this prompt modally; it sets no modality itself
     return dialog;
 }
@@ -61,8 +70,10 @@ QString textStringAnswers(EnterTextStringDialog& d)
 // Three integer values prompt
 EnterThreeIntValuesDialog* openThreeInts(QWidget& parent)
 {
-    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, "Index Range", "", "&Begin", "&End", "&Skip", 1,
-                                                  1, 1);
+    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, translated(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
 }
 void driveThreeInts(EnterThreeIntValuesDialog& d)
 {
@@ -378,27 +389,32 @@ const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
 {
     using B = QDialogButtonBox;
     static const std::vector<Entry> all = {
-        entry("Text String...", openTextString, driveTextString, B::Ok, textStringAnswers),
-        entry("Three Integer Values...", openThreeInts, driveThreeInts, B::Ok, threeIntsAnswers),
-        entry("ASCII Character...", openAsciiCharacter, driveAsciiCharacter, B::Ok, asciiCharacterAnswers),
-        entry("Anchor Alignment...", openAnchorAlignment, driveAnchorAlignment, B::Cancel, anchorAlignmentAnswers),
-        entry("Choose Loader...", openLoaderChooser, driveLoaderChooser, B::Ok, loaderChooserAnswers),
-        entry("Axis Variables...", openAxisVariables, driveAxisVariables, B::Ok, variableAnswers),
-        entry("Vector Variables...", openVectorVariables, driveVectorVariables, B::Ok, variableAnswers),
-        entry("RGB Variables...", openRGBVariables, driveRGBVariables, B::Ok, variableAnswers),
-        entry("Add-on Variables...", openAddonVariables, driveAddonVariables, B::Ok, addonAnswers),
-        entry("Select Zone...", openZone, driveZone, B::Ok, zoneAnswers),
-        entry("Color Chooser...", openColorChooser, pickGridColor, B::NoButton, colorChooserAnswers),
-        entry("Color Chooser, Multi Color...", openColorChooser, pickMultiColor, B::NoButton, colorChooserAnswers),
-        entry("Color Chooser without Variable Coloring...", openColorChooserWithoutVarColoring, pickWhite,
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Text String..."), openTextString, driveTextString, B::Ok, textStringAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Three Integer Values..."), openThreeInts, driveThreeInts, B::Ok, threeIntsAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "ASCII Character..."), openAsciiCharacter, driveAsciiCharacter, B::Ok, asciiCharacterAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Anchor Alignment..."), openAnchorAlignment, driveAnchorAlignment, B::Cancel, anchorAlignmentAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Choose Loader..."), openLoaderChooser, driveLoaderChooser, B::Ok, loaderChooserAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Axis Variables..."), openAxisVariables, driveAxisVariables, B::Ok, variableAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Vector Variables..."), openVectorVariables, driveVectorVariables, B::Ok, variableAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "RGB Variables..."), openRGBVariables, driveRGBVariables, B::Ok, variableAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Add-on Variables..."), openAddonVariables, driveAddonVariables, B::Ok, addonAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Select Zone..."), openZone, driveZone, B::Ok, zoneAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser..."), openColorChooser, pickGridColor, B::NoButton, colorChooserAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, Multi Color..."), openColorChooser, pickMultiColor, B::NoButton, colorChooserAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser without Variable Coloring..."), openColorChooserWithoutVarColoring, pickWhite,
               B::NoButton, colorChooserAnswers),
-        entry("Color Chooser, RGB...", openColorChooser, pickRGB, B::NoButton, colorChooserAnswers),
-        entry("Color Button...", openColorButton, driveColorButton, B::Close, colorButtonAnswers),
-        entry("RGB Coloring Options...", openRGBColorOpts, driveRGBColorOpts, B::Close, rgbColorOptsAnswers),
-        entry("Color Chooser, RGB with Channel Variables...", openColorChooser, pickRGB, B::NoButton,
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, RGB..."), openColorChooser, pickRGB, B::NoButton, colorChooserAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Button..."), openColorButton, driveColorButton, B::Close, colorButtonAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "RGB Coloring Options..."), openRGBColorOpts, driveRGBColorOpts, B::Close, rgbColorOptsAnswers),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, RGB with Channel Variables..."), openColorChooser, pickRGB, B::NoButton,
               colorChooserAnswers),
-        entry("Scatter Size and Font...", openScatterSizeFont, driveScatterSizeFont, B::Close,
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Scatter Size and Font..."), openScatterSizeFont, driveScatterSizeFont, B::Close,
               scatterSizeFontAnswers),
     };
     return all;
+}
+
+QString DialogCatalog::title(const Entry& entry)
+{
+    return QCoreApplication::translate("DialogCatalog", entry.name.toUtf8().constData());
 }

@@ -16,7 +16,7 @@ public:
 
     struct Entry
     {
-        QString name; // menu text; also names the tour's screenshot
+        QString name; // menu text, in English: it also names the tour's screenshot
         std::function<Dialog*(QWidget& parent)> open;
         std::function<void(Dialog&)> drive;
         QDialogButtonBox::StandardButton closeWith;
@@ -25,6 +25,8 @@ public:
     };
 
     static const std::vector<Entry>& entries();
+    // The entry's menu text in the user's language.
+    static QString title(const Entry& entry);
 
 private:
     template <typename D>

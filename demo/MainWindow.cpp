@@ -178,7 +178,7 @@ MainWindow::MainWindow()
 
     QMenu* dialogs = menuBar()->addMenu(tr("&Dialogs"));
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
-        dialogs->addAction(entry.name, this, [this, &entry] { runDialog(entry); });
+        dialogs->addAction(DialogCatalog::title(entry), this, [this, &entry] { runDialog(entry); });
 
     m_undoChanged = Kernel::instance().undoStack().changedSignal().connect([this] { refreshUndoActions(); });
     m_journalGrew = Kernel::instance().journal().lineAdded().connect(
@@ -271,7 +271,7 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
     DialogCatalog::Dialog* dialog = entry.open(*this);
     QString line;
     if (!dialog->isRelevant())
-        line = tr("%1: not available now (it needs a data set)").arg(entry.name);
+        line = tr("%1: not available now (it needs a data set)").arg(DialogCatalog::title(entry));
     else
     {
         if (whileOpen)
@@ -284,7 +284,7 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
             untilClosed.exec();
         }
         line = QString("%1: %2, %3")
-                   .arg(entry.name, dialog->result() == QDialog::Accepted ? tr("accepted") : tr("cancelled"),
+                   .arg(DialogCatalog::title(entry), dialog->result() == QDialog::Accepted ? tr("accepted") : tr("cancelled"),
                         entry.answers(*dialog));
     }
     if (entry.callerOwnsDialog)

@@ -10,6 +10,7 @@
 #include "demo/DemoUser.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotView.h"
+#include "demo/TextFit.h"
 #include "platform/common/IdleQueue.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
@@ -82,6 +83,7 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     window.show();
     settle();
     bool allSaved = savePlot(window.plot(), dir.filePath("plot_start.png"));
+    bool allFit = true;
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
     {
         std::printf("%s\n", qPrintable(entry.name));
@@ -90,6 +92,11 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
             entry.drive(dialog);
             settle();
             allSaved &= save(dialog, dir.filePath(fileNameFor(entry.name)));
+            for (const QString& clipped : TextFit::clippedTexts(dialog))
+            {
+                std::fprintf(stderr, "%s: text cut off: %s\n", qPrintable(entry.name), qPrintable(clipped));
+                allFit = false;
+            }
             DemoUser::press(dialog, entry.closeWith);
         });
         std::printf("  %s\n", qPrintable(line));
@@ -99,5 +106,5 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     settle();
     allSaved &= save(window, dir.filePath("main_window.png"));
     std::fflush(stdout);
-    return allSaved ? 0 : 1;
+    return allSaved && allFit ? 0 : 1;
 }

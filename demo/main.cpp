@@ -4,6 +4,7 @@
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/Tour.h"
+#include "demo/Translations.h"
 #include "platform/kernel/KernelTestSupport.h"
 
 int main(int argc, char** argv)
@@ -24,8 +25,14 @@ int main(int argc, char** argv)
                                   "pictures in <dir>, then exit.",
                                   "dir");
     const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D, 3 XY line, 4 sketch, 5 polar line.", "n");
-    parser.addOptions({replay, tour, plotType});
+    const QCommandLineOption language("lang",
+                                      "Show the texts in <language> (for example de); the default follows the "
+                                      "system locale, en shows the original English texts.",
+                                      "language");
+    parser.addOptions({replay, tour, plotType, language});
     parser.process(app);
+    for (const QString& problem : Translations::install(app, parser.value(language)))
+        std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
 
     const QStringList files = parser.positionalArguments();
     if (files.size() > 1)

@@ -2,6 +2,7 @@
 
 #include <boost/make_shared.hpp>
 #include "framework/StateChangeDependentRelevance.h"
+#include <QtGlobal>
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 
@@ -31,7 +32,7 @@ VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
     if (plotType == PlotType_ThreeD)
         labels.push_back("&Z");
     return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2],
-                                             "Choose the variables to assign to the axes.", labels,
+                                             QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the axes."), labels,
                                              AxisVarAssignment());
 }
 

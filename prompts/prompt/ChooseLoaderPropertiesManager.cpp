@@ -114,11 +114,11 @@ void ChooseLoaderPropertiesManager::updateLoaderList(std::vector<LoaderPtr> cons
         }
     if (!suggestedNames.empty())
     {
-        model.appendHeaderRow(translated("Suggested Loaders"));
+        model.appendHeaderRow(translated(QT_TRANSLATE_NOOP("ChooseLoader", "Suggested Loaders")));
         for (const std::string& name : suggestedNames)
             model.appendRow(name);
         model.appendHeaderRow("");
-        model.appendHeaderRow(translated("Other Available Loaders"));
+        model.appendHeaderRow(translated(QT_TRANSLATE_NOOP("ChooseLoader", "Other Available Loaders")));
     }
     std::set<std::string> otherNames;
     for (const LoaderPtr& loader : m_impl->allLoaders)

@@ -1,6 +1,7 @@
 #include "prompts/prompt/ColorChooserDialog.h"
 
 #include <exception>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QIcon>
 #include "framework/LaunchHelpAction.h"
@@ -17,7 +18,11 @@ namespace dialogs {
 namespace prompt {
 
 namespace {
-const char* const BasicColorNames[8] = {"Black", "Red", "Green", "Blue", "Cyan", "Yellow", "Purple", "White"};
+const char* const BasicColorNames[8] = {
+    QT_TRANSLATE_NOOP("ColorChooser", "Black"), QT_TRANSLATE_NOOP("ColorChooser", "Red"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Green"), QT_TRANSLATE_NOOP("ColorChooser", "Blue"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Cyan"),  QT_TRANSLATE_NOOP("ColorChooser", "Yellow"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Purple"), QT_TRANSLATE_NOOP("ColorChooser", "White")};
 const int FirstCustomColor = 8;
 const int NumColors = 64;
 const int RGBColoring = -6;
@@ -51,6 +56,25 @@ std::string ColorChooserDialog::colorToString(int colorIndex, bool shortForm)
     case -10: return "Multi8";
     default: return std::string();
     }
+}
+
+QString ColorChooserDialog::colorDisplayName(int colorIndex, bool shortForm)
+{
+    if (colorIndex >= 0 && colorIndex < FirstCustomColor)
+        return QCoreApplication::translate("ColorChooser", BasicColorNames[colorIndex]);
+    const int custom = colorIndex - FirstCustomColor + 1;
+    if (colorIndex >= FirstCustomColor && colorIndex < NumColors)
+        return (shortForm ? QCoreApplication::translate("ColorChooser", "Cust %1")
+                          : QCoreApplication::translate("ColorChooser", "Custom color %1"))
+            .arg(custom);
+    if (colorIndex == RGBColoring)
+        return QCoreApplication::translate("ColorChooser", "RGBCOLOR");
+    static const int multiColorings[8] = {-1, -3, -4, -5, -7, -8, -9, -10};
+    for (int i = 0; i < 8; ++i)
+        if (colorIndex == multiColorings[i])
+            return i == 0 ? QCoreApplication::translate("ColorChooser", "Multi")
+                          : QCoreApplication::translate("ColorChooser", "Multi%1").arg(i + 1);
+    return QString();
 }
 
 const QString& ColorChooserDialog::multiColorIconPath()

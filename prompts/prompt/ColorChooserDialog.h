@@ -28,6 +28,9 @@ public:
     // The colour's name; shortForm abbreviates custom colours ("Cust 1" for
     // "CUSTOM1"). Indices that name no colour give an empty string.
     static std::string colorToString(int colorIndex, bool shortForm);
+    // colorToString in the user's language, for the screen; the long form of a
+    // custom colour reads "Custom color 3" rather than "CUSTOM3".
+    static QString colorDisplayName(int colorIndex, bool shortForm);
 
     // Where the icon of the multi colourings lives among the resources.
     static const QString& multiColorIconPath();

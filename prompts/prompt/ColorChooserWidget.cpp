@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include "prompts/prompt/ColorChooserButton.h"
+#include "prompts/prompt/ColorChooserDialog.h"
 
 namespace orrery {
 namespace dialogs {
@@ -24,6 +25,10 @@ ColorChooserWidget::ColorChooserWidget(QWidget* parent) : QWidget(parent)
         auto* button = new ColorChooserButton(this, i < 8 ? BasicColors[i] : i);
         // Named by position, not by colour: host scripts address the grid cell.
         button->setObjectName(QString("colorButton_%1").arg(i));
+        // Screen readers and tooltips announce the colour, not the cell.
+        const QString name = ColorChooserDialog::colorDisplayName(button->colorIndex(), false);
+        button->setAccessibleName(name);
+        button->setToolTip(name);
         button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         connect(button, SIGNAL(clicked()), this, SLOT(colorButtonTriggered()));
         grid->addWidget(button, i / Columns, i % Columns);

@@ -1,6 +1,7 @@
 #include "prompts/prompt/EnterASCIICharacterPropertiesManager.h"
 
 #include <boost/make_shared.hpp>
+#include <QCoreApplication>
 #include "framework/DataSetExistsRelevance.h"
 #include "core/property/Property.h"
 #include "prompts/prompt/SharedRelevance.h"
@@ -18,7 +19,9 @@ struct EnterASCIICharacterPropertiesManager::Impl
         {
             ValidationResult result;
             if (value.empty())
-                result.setErrorString("Selected character cannot be empty.");
+                result.setErrorString(
+                    QCoreApplication::translate("EnterASCIICharacter", "Selected character cannot be empty.")
+                        .toStdString());
             return result;
         }
     };

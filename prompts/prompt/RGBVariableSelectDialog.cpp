@@ -1,5 +1,6 @@
 #include "prompts/prompt/RGBVariableSelectDialog.h"
 
+#include <QtGlobal>
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"
 
@@ -24,7 +25,7 @@ VariableSelectDialog* RGBVariableSelectDialog::getInstance(QWidget& parent)
 {
     return VariableSelectDialog::getInstance(parent, {"GlobalRGB", "RedChannelVar"}, {"GlobalRGB", "GreenChannelVar"},
                                              {"GlobalRGB", "BlueChannelVar"},
-                                             "Choose the variables to assign to the R, G, and B channels.",
+                                             QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the R, G, and B channels."),
                                              {"&R", "&G", "&B"}, RGBVarAssignment());
 }
 

@@ -1,6 +1,7 @@
 #include "prompts/prompt/VariableSelectDialogImpl.h"
 
 #include <boost/make_shared.hpp>
+#include <QCoreApplication>
 #include "core/property/InvalidPropertyValueException.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/StyleValue.h"
@@ -13,9 +14,13 @@ namespace {
 // The host's undo category for style values chosen in a dialog.
 const int UndoCategoryDialogStyle = 11;
 
+// Instructions and labels come from the opening dialog class (or an add-on)
+// in English; those the library knows are translated in this layout's context.
 QString ascii(const std::string& text)
 {
-    return QString::fromLatin1(text.c_str());
+    const QString translated = QCoreApplication::translate("VariableSelectDialog", text.c_str());
+    // Untranslated texts keep their Latin-1 reading.
+    return translated == QString::fromUtf8(text.c_str()) ? QString::fromLatin1(text.c_str()) : translated;
 }
 
 // Closes the undo bracket on every way out, so that the host's undo state stays

@@ -3,6 +3,7 @@
 #include <functional>
 #include <boost/make_shared.hpp>
 #include "framework/StateChangeDependentRelevance.h"
+#include <QtGlobal>
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
@@ -43,7 +44,7 @@ VariableSelectDialog* VectorVariableSelectDialog::getInstance(QWidget& parent, P
     std::vector<std::string> labels = {"&U", "&V"};
     if (plotType == PlotType_ThreeD)
         labels.push_back("&W");
-    return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2], "Choose the vector variables.",
+    return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2], QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the vector variables."),
                                              labels, VectorVarAssignment(plotType));
 }
 

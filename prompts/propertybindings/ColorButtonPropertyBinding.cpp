@@ -54,19 +54,27 @@ void ColorButtonPropertyBinding::updateWidget()
         m_button->setIcon(QIcon(ColorChooserDialog::multiColorIconPath()));
     else
     {
-        QPixmap swatch(SwatchSize, SwatchSize);
-        if (name.empty())
-            swatch.fill(Qt::transparent); // an index the colour map does not know
-        else
+        QColor fill(Qt::transparent); // an index the colour map does not know
+        if (!name.empty())
         {
             unsigned char red = 0, green = 0, blue = 0;
             OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue);
-            swatch.fill(QColor(red, green, blue, 255));
+            fill = QColor(red, green, blue, 255);
+        }
+        // One pixmap per pixel density, so that the swatch stays sharp on a
+        // high-density screen rather than being scaled up.
+        QIcon swatch;
+        for (int ratio = 1; ratio <= 2; ++ratio)
+        {
+            QPixmap pixels(SwatchSize * ratio, SwatchSize * ratio);
+            pixels.setDevicePixelRatio(ratio);
+            pixels.fill(fill);
+            swatch.addPixmap(pixels);
         }
         m_button->setIconSize(QSize(SwatchSize, SwatchSize));
-        m_button->setIcon(QIcon(swatch));
+        m_button->setIcon(swatch);
     }
-    m_button->setText(QString::fromLatin1(name.c_str()));
+    m_button->setText(ColorChooserDialog::colorDisplayName(colorIndex, true));
 }
 
 void ColorButtonPropertyBinding::updateVisibility()

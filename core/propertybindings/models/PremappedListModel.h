@@ -1,5 +1,6 @@
 #pragma once
 #include <cstddef>
+#include <QCoreApplication>
 #include "core/propertybindings/models/ListModelAbstract.h"
 #include "core/propertybindings/models/OptionRow.h"
 
@@ -20,7 +21,11 @@ public:
 
     int size() const override { return m_count; }
     T get(int row) const override { return static_cast<T>(m_rows[row].value); }
-    std::string getStr(int row) const override { return m_rows[row].text; }
+    // Option texts are shown in the user's language; numbers pass unchanged.
+    std::string getStr(int row) const override
+    {
+        return QCoreApplication::translate("OptionTables", m_rows[row].text.c_str()).toStdString();
+    }
 
 private:
     const Row* m_rows;

@@ -6,11 +6,21 @@
 #include <QApplication>
 #include "tests/prompts/prompt/DialogTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
+#include <boost/make_shared.hpp>
+#include "core/property/Property.h"
+#include "prompts/prompt/AddonsVariableSelectDialog.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/AxisVariableSelectDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/ColorChooserDialog.h"
 #include "prompts/prompt/EnterASCIICharacterDialog.h"
 #include "prompts/prompt/EnterTextStringDialog.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/RGBColorOptsDialog.h"
+#include "prompts/prompt/RGBVariableSelectDialog.h"
+#include "prompts/prompt/ScatterSizeFontDialog.h"
+#include "prompts/prompt/VectorVariableSelectDialog.h"
+#include "prompts/prompt/ZoneSelectDialog.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define ORRERY_UNDER_ASAN 1
@@ -100,4 +110,30 @@ TEST_F(DialogLifetimeTest, AnchorAlignmentPromptLeavesTheHeapFlat)
 TEST_F(DialogLifetimeTest, TextStringPromptLeavesTheHeapFlat)
 {
     expectFlat([&] { return new EnterTextStringDialog(parent, "Name", "first", "", false); });
+}
+
+TEST_F(DialogLifetimeTest, AxisAndVectorVariableDialogsLeaveTheHeapFlat)
+{
+    expectFlat([&] { return AxisVariableSelectDialog::getInstance(parent); });
+    expectFlat([&] { return VectorVariableSelectDialog::getInstance(parent, PlotType_TwoD); });
+}
+
+TEST_F(DialogLifetimeTest, RGBAndAddonVariableDialogsLeaveTheHeapFlat)
+{
+    expectFlat([&] { return RGBVariableSelectDialog::getInstance(parent); });
+    const auto var = [] { return boost::make_shared<orrery::Property<int>>(1); };
+    const auto a = var(), b = var(), c = var();
+    expectFlat([&] { return AddonsVariableSelectDialog::getInstance(parent, "Pick", "&A", "&B", nullptr, a, b, c); });
+}
+
+TEST_F(DialogLifetimeTest, ZoneAndColourChoosersLeaveTheHeapFlat)
+{
+    expectFlat([&] { return ZoneSelectDialog::getInstance(parent, 1); });
+    expectFlat([&] { return ColorChooserDialog::getInstance(parent, true); });
+}
+
+TEST_F(DialogLifetimeTest, StyleDialogsLeaveTheHeapFlat)
+{
+    expectFlat([&] { return RGBColorOptsDialog::getInstance(parent); });
+    expectFlat([&] { return ScatterSizeFontDialog::getInstance(parent); });
 }

@@ -107,13 +107,20 @@ inline void expectTabOrder(const QWidget& root, std::initializer_list<const char
 
 } // namespace contract
 
-namespace orrery::dialogs::prompt {
-}
-
 namespace dialogtest {
 
 using namespace orrery::dialogs::prompt;
 using namespace testsupport;
+
+// Whether any of the dialog's own controls can be used; a dialog that loses its
+// relevance keeps itself and its Cancel and Help buttons enabled, but not these.
+inline bool contentEnabled(const QWidget& dialog)
+{
+    for (const QWidget* child : dialog.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (!qobject_cast<const QDialogButtonBox*>(child) && child->isEnabled())
+            return true;
+    return false;
+}
 
 inline QPushButton* standard(QWidget& dialog, QDialogButtonBox::StandardButton which)
 {

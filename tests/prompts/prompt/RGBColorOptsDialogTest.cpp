@@ -251,10 +251,10 @@ TEST_F(RGBColorOptsDialogTest, UnusableOutsideFieldPlotsAndWithoutDataButNeverBr
     EXPECT_TRUE(messageTexts().empty());
     Kernel::setPlotType(PlotType_Sketch);
     runIdle();
-    EXPECT_FALSE(dialog->isEnabled());
+    EXPECT_FALSE(contentEnabled(*dialog));
     Kernel::setFrameCount(0);
     runIdle();
-    EXPECT_FALSE(dialog->isEnabled());
+    EXPECT_FALSE(contentEnabled(*dialog));
     EXPECT_TRUE(messageTexts().empty());
 }
 

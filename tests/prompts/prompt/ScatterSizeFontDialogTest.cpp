@@ -201,7 +201,7 @@ TEST_F(ScatterSizeFontDialogTest, LinePlotRetitlesAndRetargetsTheFontOnIdle)
     // A sketch has no symbols: the dialog is unusable and the font stays on the line plot.
     Kernel::setPlotType(PlotType_Sketch);
     runIdle();
-    EXPECT_FALSE(dialog->isEnabled());
+    EXPECT_FALSE(contentEnabled(*dialog));
     EXPECT_EQ(dialog->windowTitle(), "Symbol Font");
     Kernel::setStyle({"GlobalLinePlot", "BaseFontFamily"}, std::string("Other Line Font"));
     runIdle();
@@ -248,10 +248,10 @@ TEST_F(ScatterSizeFontDialogTest, OpeningAssignsAScatterVariableAndEmptyDataOrNo
 
     Kernel::setFrameCount(0);
     runIdle();
-    EXPECT_FALSE(dialog->isEnabled());
+    EXPECT_FALSE(contentEnabled(*dialog));
     Kernel::setFrameCount(1);
     runIdle();
-    EXPECT_TRUE(dialog->isEnabled());
+    EXPECT_TRUE(contentEnabled(*dialog));
     EXPECT_TRUE(messageTexts().empty());
 }
 

@@ -1,0 +1,1575 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AnchorAlignment</name>
+    <message>
+        <source>Anchor Alignment</source>
+        <translation>Ankerausrichtung</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Cntr</source>
+        <translation>Zentr.</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Top center</source>
+        <translation>Oben Mitte</translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Middle left</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <source>Middle center</source>
+        <translation>Mitte Mitte</translation>
+    </message>
+    <message>
+        <source>Middle right</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Bottom center</source>
+        <translation>Unten Mitte</translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation>Unten rechts</translation>
+    </message>
+</context>
+<context>
+    <name>ChooseLoader</name>
+    <message>
+        <source>Choose Loader</source>
+        <translation>Lader wählen</translation>
+    </message>
+    <message>
+        <source>Multiple loaders support this kind of file.  Please choose 
+which loader you would like to use.</source>
+        <translation>Mehrere Lader unterstützen diese Dateiart.  Bitte wählen Sie, 
+welchen Lader Sie verwenden möchten.</translation>
+    </message>
+    <message>
+        <source>Choose Loader </source>
+        <translation>Lader wählen </translation>
+    </message>
+    <message>
+        <source>A loader could not be found for this file type.
+Please choose which loader you would like to use.</source>
+        <translation>Für diesen Dateityp wurde kein Lader gefunden.
+Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
+    </message>
+    <message>
+        <source>Multiple loaders support this kind of file.
+Please choose which loader you would like to use.</source>
+        <translation>Mehrere Lader unterstützen diese Dateiart.
+Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
+    </message>
+    <message>
+        <source>Suggested Loaders</source>
+        <translation>Vorgeschlagene Lader</translation>
+    </message>
+    <message>
+        <source>Other Available Loaders</source>
+        <translation>Weitere verfügbare Lader</translation>
+    </message>
+    <message>
+        <source>Loaders</source>
+        <translation>Lader</translation>
+    </message>
+</context>
+<context>
+    <name>ColorButtonDemoDialog</name>
+    <message>
+        <source>Mesh Color</source>
+        <translation>Gitterfarbe</translation>
+    </message>
+    <message>
+        <source>Mesh &amp;color of zone 1:</source>
+        <translation>Gitter&amp;farbe von Zone 1:</translation>
+    </message>
+</context>
+<context>
+    <name>ColorChooser</name>
+    <message>
+        <source>Color Chooser</source>
+        <translation>Farbauswahl</translation>
+    </message>
+    <message>
+        <source>Multi &amp;1</source>
+        <translation>Multi &amp;1</translation>
+    </message>
+    <message>
+        <source>&amp;2</source>
+        <translation>&amp;2</translation>
+    </message>
+    <message>
+        <source>&amp;3</source>
+        <translation>&amp;3</translation>
+    </message>
+    <message>
+        <source>&amp;4</source>
+        <translation>&amp;4</translation>
+    </message>
+    <message>
+        <source>&amp;5</source>
+        <translation>&amp;5</translation>
+    </message>
+    <message>
+        <source>&amp;6</source>
+        <translation>&amp;6</translation>
+    </message>
+    <message>
+        <source>&amp;7</source>
+        <translation>&amp;7</translation>
+    </message>
+    <message>
+        <source>&amp;8</source>
+        <translation>&amp;8</translation>
+    </message>
+    <message>
+        <source>&amp;RGB</source>
+        <translation>&amp;RGB</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Cyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Lila</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Cust %1</source>
+        <translation>Ben. %1</translation>
+    </message>
+    <message>
+        <source>Custom color %1</source>
+        <translation>Benutzerfarbe %1</translation>
+    </message>
+    <message>
+        <source>RGBCOLOR</source>
+        <translation>RGB-FARBE</translation>
+    </message>
+    <message>
+        <source>Multi</source>
+        <translation>Multi</translation>
+    </message>
+    <message>
+        <source>Multi%1</source>
+        <translation>Multi%1</translation>
+    </message>
+</context>
+<context>
+    <name>DialogCatalog</name>
+    <message>
+        <source>Title of the new frame:</source>
+        <translation>Titel des neuen Rahmens:</translation>
+    </message>
+    <message>
+        <source>Frame 1</source>
+        <translation>Rahmen 1</translation>
+    </message>
+    <message>
+        <source>Index Range</source>
+        <translation>Indexbereich</translation>
+    </message>
+    <message>
+        <source>&amp;Begin</source>
+        <translation>&amp;Beginn</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Schritt</translation>
+    </message>
+    <message>
+        <source>Text String...</source>
+        <translation>Textzeichenfolge...</translation>
+    </message>
+    <message>
+        <source>Three Integer Values...</source>
+        <translation>Drei ganze Zahlen...</translation>
+    </message>
+    <message>
+        <source>ASCII Character...</source>
+        <translation>ASCII-Zeichen...</translation>
+    </message>
+    <message>
+        <source>Anchor Alignment...</source>
+        <translation>Ankerausrichtung...</translation>
+    </message>
+    <message>
+        <source>Choose Loader...</source>
+        <translation>Lader wählen...</translation>
+    </message>
+    <message>
+        <source>Color Chooser...</source>
+        <translation>Farbauswahl...</translation>
+    </message>
+    <message>
+        <source>Color Chooser, Multi Color...</source>
+        <translation>Farbauswahl, Mehrfarbig...</translation>
+    </message>
+    <message>
+        <source>Color Chooser without Variable Coloring...</source>
+        <translation>Farbauswahl ohne Färbung nach Variable...</translation>
+    </message>
+    <message>
+        <source>Color Chooser, RGB...</source>
+        <translation>Farbauswahl, RGB...</translation>
+    </message>
+    <message>
+        <source>Color Button...</source>
+        <translation>Farbknopf...</translation>
+    </message>
+    <message>
+        <source>RGB Coloring Options...</source>
+        <translation>RGB-Färbungsoptionen...</translation>
+    </message>
+    <message>
+        <source>Color Chooser, RGB with Channel Variables...</source>
+        <translation>Farbauswahl, RGB mit Kanalvariablen...</translation>
+    </message>
+    <message>
+        <source>Scatter Size and Font...</source>
+        <translation>Streusymbol: Größe und Schrift...</translation>
+    </message>
+</context>
+<context>
+    <name>EnterASCIICharacter</name>
+    <message>
+        <source>Enter ASCII Character</source>
+        <translation>ASCII-Zeichen eingeben</translation>
+    </message>
+    <message>
+        <source>Enter &amp;character to use as a symbol:</source>
+        <translation>&amp;Zeichen, das als Symbol dient:</translation>
+    </message>
+    <message>
+        <source>&amp;Base</source>
+        <translation>&amp;Basis</translation>
+    </message>
+    <message>
+        <source>&amp;Math</source>
+        <translation>&amp;Mathematik</translation>
+    </message>
+    <message>
+        <source>&amp;Greek</source>
+        <translation>&amp;Griechisch</translation>
+    </message>
+    <message>
+        <source>&amp;User defined</source>
+        <translation>Ben&amp;utzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Selected character cannot be empty.</source>
+        <translation>Das gewählte Zeichen darf nicht leer sein.</translation>
+    </message>
+</context>
+<context>
+    <name>EnterTextString</name>
+    <message>
+        <source>Prompt for text string</source>
+        <translation>Texteingabe</translation>
+    </message>
+    <message>
+        <source>&amp;Enter your input string:</source>
+        <translation>&amp;Geben Sie Ihren Text ein:</translation>
+    </message>
+</context>
+<context>
+    <name>EnterThreeIntValues</name>
+    <message>
+        <source>Dialog</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>TextLabel</source>
+        <translation>Textfeld</translation>
+    </message>
+    <message>
+        <source>&amp;Begin</source>
+        <translation>&amp;Beginn</translation>
+    </message>
+    <message>
+        <source>&amp;End</source>
+        <translation>&amp;Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>&amp;Schritt</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Orrery Prompts demo</source>
+        <translation>Orrery-Prompts-Demo</translation>
+    </message>
+    <message>
+        <source>Open a dialog from the Dialogs menu; its answers appear here.</source>
+        <translation>Öffnen Sie einen Dialog im Menü „Dialoge“; seine Antworten erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>Every change is recorded here as a command.</source>
+        <translation>Jede Änderung wird hier als Befehl aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Host state</source>
+        <translation>Zustand des Hosts</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Antworten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open Sa&amp;mple</source>
+        <translation>&amp;Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Journal...</source>
+        <translation>Journal &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;Replay Journal...</source>
+        <translation>Journal &amp;abspielen...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Plot Type</source>
+        <translation>&amp;Plottyp</translation>
+    </message>
+    <message>
+        <source>&amp;3D Cartesian</source>
+        <translation>&amp;3D kartesisch</translation>
+    </message>
+    <message>
+        <source>&amp;2D Cartesian</source>
+        <translation>&amp;2D kartesisch</translation>
+    </message>
+    <message>
+        <source>&amp;XY Line</source>
+        <translation>&amp;XY-Linie</translation>
+    </message>
+    <message>
+        <source>Show &amp;Vectors</source>
+        <translation>&amp;Vektoren zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Scatter Symbols</source>
+        <translation>&amp;Streusymbole zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Dialogs</source>
+        <translation>D&amp;ialoge</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Vectors need a field plot and two variables besides the axes.</source>
+        <translation>Vektoren brauchen einen Feldplot und zwei Variablen neben den Achsen.</translation>
+    </message>
+    <message>
+        <source>%1: not available now (it needs a data set)</source>
+        <translation>%1: jetzt nicht verfügbar (braucht einen Datensatz)</translation>
+    </message>
+    <message>
+        <source>accepted</source>
+        <translation>angenommen</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>Cannot load %1: %2</source>
+        <translation>%1 kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Loaded %1 with the loader &quot;%2&quot;</source>
+        <translation>%1 mit dem Lader „%2“ geladen</translation>
+    </message>
+    <message>
+        <source>Replay stopped after %1 commands. %2</source>
+        <translation>Wiedergabe nach %1 Befehlen angehalten. %2</translation>
+    </message>
+    <message>
+        <source>Replayed %1 commands from %2</source>
+        <translation>%1 Befehle aus %2 wiedergegeben</translation>
+    </message>
+    <message>
+        <source>Saved the journal to %1</source>
+        <translation>Journal in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Open Data File</source>
+        <translation>Datendatei öffnen</translation>
+    </message>
+    <message>
+        <source>Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)</source>
+        <translation>Datendateien (*.csv *.txt *.dat *.zbk *.vtk);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Journal</source>
+        <translation>Journal speichern</translation>
+    </message>
+    <message>
+        <source>Journals (*.orj);;All files (*)</source>
+        <translation>Journale (*.orj);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Replay Journal</source>
+        <translation>Journal abspielen</translation>
+    </message>
+    <message>
+        <source>Built-in: Heated Plate</source>
+        <translation>Eingebaut: Beheizte Platte</translation>
+    </message>
+    <message>
+        <source>Loaded the built-in sample data set</source>
+        <translation>Eingebauten Beispieldatensatz geladen</translation>
+    </message>
+</context>
+<context>
+    <name>OptionTables</name>
+    <message>
+        <source>Contour Group Levels</source>
+        <translation>Konturgruppen-Niveaus</translation>
+    </message>
+    <message>
+        <source>1 Specified Value</source>
+        <translation>1 angegebener Wert</translation>
+    </message>
+    <message>
+        <source>2 Specified Values</source>
+        <translation>2 angegebene Werte</translation>
+    </message>
+    <message>
+        <source>3 Specified Values</source>
+        <translation>3 angegebene Werte</translation>
+    </message>
+    <message>
+        <source>all corners are blanked</source>
+        <translation>alle Ecken ausgeblendet sind</translation>
+    </message>
+    <message>
+        <source>any corner is blanked</source>
+        <translation>eine Ecke ausgeblendet ist</translation>
+    </message>
+    <message>
+        <source>primary value is blanked</source>
+        <translation>der Primärwert ausgeblendet ist</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>kleiner oder gleich ist</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>größer oder gleich ist</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>kleiner ist als</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>größer ist als</translation>
+    </message>
+    <message>
+        <source>is equal to</source>
+        <translation>gleich ist</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>ungleich ist</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Dashed</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dash dot</source>
+        <translation>Strich-Punkt</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Long dash</source>
+        <translation>Langer Strich</translation>
+    </message>
+    <message>
+        <source>Dash dot dot</source>
+        <translation>Strich-Punkt-Punkt</translation>
+    </message>
+    <message>
+        <source>Viewport</source>
+        <translation>Ansichtsfenster</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Before data</source>
+        <translation>Vor den Daten</translation>
+    </message>
+    <message>
+        <source>After data</source>
+        <translation>Nach den Daten</translation>
+    </message>
+    <message>
+        <source>Auto unload</source>
+        <translation>Automatisch entladen</translation>
+    </message>
+    <message>
+        <source>Never unload</source>
+        <translation>Nie entladen</translation>
+    </message>
+    <message>
+        <source>Minimize memory use</source>
+        <translation>Speicherbedarf minimieren</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Innen</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Außen</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>At angle</source>
+        <translation>Im Winkel</translation>
+    </message>
+    <message>
+        <source>Parallel</source>
+        <translation>Parallel</translation>
+    </message>
+    <message>
+        <source>Perpendicular</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>X-Planes</source>
+        <translation>X-Ebenen</translation>
+    </message>
+    <message>
+        <source>Y-Planes</source>
+        <translation>Y-Ebenen</translation>
+    </message>
+    <message>
+        <source>Z-Planes</source>
+        <translation>Z-Ebenen</translation>
+    </message>
+    <message>
+        <source>I-Planes</source>
+        <translation>I-Ebenen</translation>
+    </message>
+    <message>
+        <source>J-Planes</source>
+        <translation>J-Ebenen</translation>
+    </message>
+    <message>
+        <source>K-Planes</source>
+        <translation>K-Ebenen</translation>
+    </message>
+    <message>
+        <source>Arbitrary</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Flood</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>Lines and flood</source>
+        <translation>Linien und Flächen</translation>
+    </message>
+    <message>
+        <source>Average cell flood</source>
+        <translation>Zellmittel-Flächen</translation>
+    </message>
+    <message>
+        <source>Primary value flood</source>
+        <translation>Primärwert-Flächen</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Allow Quads (Smoother Contours)</source>
+        <translation>Vierecke zulassen (glattere Konturen)</translation>
+    </message>
+    <message>
+        <source>All Triangles (Avoids Holes)</source>
+        <translation>Nur Dreiecke (vermeidet Löcher)</translation>
+    </message>
+    <message>
+        <source>All Polygons (Preserves Mesh)</source>
+        <translation>Nur Polygone (erhält das Gitter)</translation>
+    </message>
+    <message>
+        <source>Paneled</source>
+        <translation>Flächig</translation>
+    </message>
+    <message>
+        <source>Gouraud</source>
+        <translation>Gouraud</translation>
+    </message>
+    <message>
+        <source>Specify R, G, and B</source>
+        <translation>R, G und B angeben</translation>
+    </message>
+    <message>
+        <source>Specify R&amp;G, calculate B</source>
+        <translation>R&amp;G angeben, B berechnen</translation>
+    </message>
+    <message>
+        <source>Specify R&amp;B, calculate G</source>
+        <translation>R&amp;B angeben, G berechnen</translation>
+    </message>
+    <message>
+        <source>Specify G&amp;B, calculate R</source>
+        <translation>G&amp;B angeben, R berechnen</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Backward</source>
+        <translation>Rückwärts</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beide</translation>
+    </message>
+    <message>
+        <source>Tail at point</source>
+        <translation>Ende am Punkt</translation>
+    </message>
+    <message>
+        <source>Head at point</source>
+        <translation>Spitze am Punkt</translation>
+    </message>
+    <message>
+        <source>Anchor at midpoint</source>
+        <translation>Anker in der Mitte</translation>
+    </message>
+    <message>
+        <source>Head only</source>
+        <translation>Nur Spitze</translation>
+    </message>
+    <message>
+        <source>Plain</source>
+        <translation>Einfach</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Hollow</source>
+        <translation>Hohl</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Delta</source>
+        <translation>Delta</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Gradient</translation>
+    </message>
+    <message>
+        <source>Right triangle</source>
+        <translation>Dreieck rechts</translation>
+    </message>
+    <message>
+        <source>Left triangle</source>
+        <translation>Dreieck links</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>Raute</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>Würfel</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>Octahedron</source>
+        <translation>Oktaeder</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>PieChart</source>
+        <translation>Tortendiagramm</translation>
+    </message>
+    <message>
+        <source>LineArt</source>
+        <translation>Strichzeichnung</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>Auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>To file</source>
+        <translation>In eine Datei</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Schleife</translation>
+    </message>
+    <message>
+        <source>Bounce</source>
+        <translation>Hin und her</translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation>Einfach genau</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Doppelt genau</translation>
+    </message>
+    <message>
+        <source>Long int</source>
+        <translation>Lange Ganzzahl</translation>
+    </message>
+    <message>
+        <source>Short int</source>
+        <translation>Kurze Ganzzahl</translation>
+    </message>
+    <message>
+        <source>Byte</source>
+        <translation>Byte</translation>
+    </message>
+    <message>
+        <source>Bit</source>
+        <translation>Bit</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Cell center</source>
+        <translation>Zellmitte</translation>
+    </message>
+    <message>
+        <source>Zone</source>
+        <translation>Zone</translation>
+    </message>
+    <message>
+        <source>Data set</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Variable</source>
+        <translation>Variable</translation>
+    </message>
+    <message>
+        <source>Line map</source>
+        <translation>Linienzuordnung</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Frame%</source>
+        <translation>Rahmen-%</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Zuerst</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Zuletzt</translation>
+    </message>
+    <message>
+        <source>Sm rainbow</source>
+        <translation>Kleiner Regenbogen</translation>
+    </message>
+    <message>
+        <source>Lg rainbow</source>
+        <translation>Großer Regenbogen</translation>
+    </message>
+    <message>
+        <source>Modern</source>
+        <translation>Modern</translation>
+    </message>
+    <message>
+        <source>Gray scale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Wild</source>
+        <translation>Wild</translation>
+    </message>
+    <message>
+        <source>User def</source>
+        <translation>Benutzerdef.</translation>
+    </message>
+    <message>
+        <source>Two color</source>
+        <translation>Zweifarbig</translation>
+    </message>
+    <message>
+        <source>Raw user def</source>
+        <translation>Benutzerdef. (roh)</translation>
+    </message>
+    <message>
+        <source>Diverging - brown/green</source>
+        <translation>Divergierend - Braun/Grün</translation>
+    </message>
+    <message>
+        <source>Diverging - pink/yellow/green</source>
+        <translation>Divergierend - Rosa/Gelb/Grün</translation>
+    </message>
+    <message>
+        <source>Diverging - purple/green</source>
+        <translation>Divergierend - Lila/Grün</translation>
+    </message>
+    <message>
+        <source>Diverging - orange/purple</source>
+        <translation>Divergierend - Orange/Lila</translation>
+    </message>
+    <message>
+        <source>Diverging - blue/red</source>
+        <translation>Divergierend - Blau/Rot</translation>
+    </message>
+    <message>
+        <source>Diverging - blue/yellow/red</source>
+        <translation>Divergierend - Blau/Gelb/Rot</translation>
+    </message>
+    <message>
+        <source>Doppler</source>
+        <translation>Doppler</translation>
+    </message>
+    <message>
+        <source>Elevation - above ground level</source>
+        <translation>Höhe - über Grund</translation>
+    </message>
+    <message>
+        <source>Elevation - absolute</source>
+        <translation>Höhe - absolut</translation>
+    </message>
+    <message>
+        <source>Hot metal</source>
+        <translation>Glühendes Metall</translation>
+    </message>
+    <message>
+        <source>Magma</source>
+        <translation>Magma</translation>
+    </message>
+    <message>
+        <source>Modified rainbow - dark ends</source>
+        <translation>Veränderter Regenbogen - dunkle Enden</translation>
+    </message>
+    <message>
+        <source>Modified rainbow - less green</source>
+        <translation>Veränderter Regenbogen - weniger Grün</translation>
+    </message>
+    <message>
+        <source>Qualitative - accent</source>
+        <translation>Qualitativ - Akzent</translation>
+    </message>
+    <message>
+        <source>Qualitative - dark</source>
+        <translation>Qualitativ - dunkel</translation>
+    </message>
+    <message>
+        <source>Qualitative - dark 2</source>
+        <translation>Qualitativ - dunkel 2</translation>
+    </message>
+    <message>
+        <source>Qualitative - paired</source>
+        <translation>Qualitativ - gepaart</translation>
+    </message>
+    <message>
+        <source>Qualitative - pastel</source>
+        <translation>Qualitativ - Pastell</translation>
+    </message>
+    <message>
+        <source>Qualitative - pastel 2</source>
+        <translation>Qualitativ - Pastell 2</translation>
+    </message>
+    <message>
+        <source>Qualitative - pastel 3</source>
+        <translation>Qualitativ - Pastell 3</translation>
+    </message>
+    <message>
+        <source>Sequential - blue</source>
+        <translation>Sequenziell - Blau</translation>
+    </message>
+    <message>
+        <source>Sequential - blue/green</source>
+        <translation>Sequenziell - Blau/Grün</translation>
+    </message>
+    <message>
+        <source>Sequential - blue/purple</source>
+        <translation>Sequenziell - Blau/Lila</translation>
+    </message>
+    <message>
+        <source>Sequential - green</source>
+        <translation>Sequenziell - Grün</translation>
+    </message>
+    <message>
+        <source>Sequential - green/blue</source>
+        <translation>Sequenziell - Grün/Blau</translation>
+    </message>
+    <message>
+        <source>Sequential - orange</source>
+        <translation>Sequenziell - Orange</translation>
+    </message>
+    <message>
+        <source>Sequential - orange/red</source>
+        <translation>Sequenziell - Orange/Rot</translation>
+    </message>
+    <message>
+        <source>Sequential - pink/purple</source>
+        <translation>Sequenziell - Rosa/Lila</translation>
+    </message>
+    <message>
+        <source>Sequential - purple</source>
+        <translation>Sequenziell - Lila</translation>
+    </message>
+    <message>
+        <source>Sequential - purple/blue</source>
+        <translation>Sequenziell - Lila/Blau</translation>
+    </message>
+    <message>
+        <source>Sequential - purple/blue/green</source>
+        <translation>Sequenziell - Lila/Blau/Grün</translation>
+    </message>
+    <message>
+        <source>Sequential - purple/red</source>
+        <translation>Sequenziell - Lila/Rot</translation>
+    </message>
+    <message>
+        <source>Sequential - red</source>
+        <translation>Sequenziell - Rot</translation>
+    </message>
+    <message>
+        <source>Sequential - yellow/green</source>
+        <translation>Sequenziell - Gelb/Grün</translation>
+    </message>
+    <message>
+        <source>Sequential - yellow/green/blue</source>
+        <translation>Sequenziell - Gelb/Grün/Blau</translation>
+    </message>
+    <message>
+        <source>Sequential - yellow/orange/brn</source>
+        <translation>Sequenziell - Gelb/Orange/Braun</translation>
+    </message>
+    <message>
+        <source>Sequential - yellow/orange/red</source>
+        <translation>Sequenziell - Gelb/Orange/Rot</translation>
+    </message>
+    <message>
+        <source>Nearest N</source>
+        <translation>Nächste N</translation>
+    </message>
+    <message>
+        <source>Octant</source>
+        <translation>Oktant</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Borders</source>
+        <translation>Ränder</translation>
+    </message>
+    <message>
+        <source>Creases</source>
+        <translation>Knicke</translation>
+    </message>
+    <message>
+        <source>Borders and creases</source>
+        <translation>Ränder und Knicke</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Min only</source>
+        <translation>Nur Minimum</translation>
+    </message>
+    <message>
+        <source>Max only</source>
+        <translation>Nur Maximum</translation>
+    </message>
+    <message>
+        <source>Wire frame</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Überlagert</translation>
+    </message>
+    <message>
+        <source>Hidden line</source>
+        <translation>Verdeckte Linien</translation>
+    </message>
+    <message>
+        <source>Surface nodes</source>
+        <translation>Oberflächenknoten</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Alle Knoten</translation>
+    </message>
+    <message>
+        <source>Surface cell centers</source>
+        <translation>Oberflächen-Zellmitten</translation>
+    </message>
+    <message>
+        <source>All cell centers</source>
+        <translation>Alle Zellmitten</translation>
+    </message>
+    <message>
+        <source>All connected nodes</source>
+        <translation>Alle verbundenen Knoten</translation>
+    </message>
+    <message>
+        <source>Boundary cell faces</source>
+        <translation>Randzellflächen</translation>
+    </message>
+    <message>
+        <source>Exposed cell faces</source>
+        <translation>Freiliegende Zellflächen</translation>
+    </message>
+    <message>
+        <source>IJ-Planes</source>
+        <translation>IJ-Ebenen</translation>
+    </message>
+    <message>
+        <source>JK-Planes</source>
+        <translation>JK-Ebenen</translation>
+    </message>
+    <message>
+        <source>IK-Planes</source>
+        <translation>IK-Ebenen</translation>
+    </message>
+    <message>
+        <source>IJK-Planes</source>
+        <translation>IJK-Ebenen</translation>
+    </message>
+    <message>
+        <source>All surfaces</source>
+        <translation>Alle Oberflächen</translation>
+    </message>
+    <message>
+        <source>Vertical (y=f(x))</source>
+        <translation>Vertikal (y=f(x))</translation>
+    </message>
+    <message>
+        <source>Horizontal (x=f(y))</source>
+        <translation>Horizontal (x=f(y))</translation>
+    </message>
+    <message>
+        <source>y=f(x)</source>
+        <translation>y=f(x)</translation>
+    </message>
+    <message>
+        <source>x=f(y)</source>
+        <translation>x=f(y)</translation>
+    </message>
+    <message>
+        <source>R=f(Theta)</source>
+        <translation>R=f(Theta)</translation>
+    </message>
+    <message>
+        <source>Theta=f(R)</source>
+        <translation>Theta=f(R)</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>I-Varying</source>
+        <translation>I-variierend</translation>
+    </message>
+    <message>
+        <source>J-Varying</source>
+        <translation>J-variierend</translation>
+    </message>
+    <message>
+        <source>K-Varying</source>
+        <translation>K-variierend</translation>
+    </message>
+    <message>
+        <source>Specific color</source>
+        <translation>Bestimmte Farbe</translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Using Streamtrace Placement Tool</source>
+        <translation>Mit dem Stromlinien-Platzierungswerkzeug</translation>
+    </message>
+    <message>
+        <source>On Surfaces of Selected Objects</source>
+        <translation>Auf Oberflächen ausgewählter Objekte</translation>
+    </message>
+    <message>
+        <source>On Surfaces of Active Objects</source>
+        <translation>Auf Oberflächen aktiver Objekte</translation>
+    </message>
+    <message>
+        <source>By Entering XYZ Positions</source>
+        <translation>Durch Eingabe von XYZ-Positionen</translation>
+    </message>
+    <message>
+        <source>By Entering IJK Positions</source>
+        <translation>Durch Eingabe von IJK-Positionen</translation>
+    </message>
+    <message>
+        <source>Degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Radians</source>
+        <translation>Bogenmaß</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Loading %1...</source>
+        <translation>%1 wird geladen...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>No data set: open a file or a sample.</source>
+        <translation>Kein Datensatz: Öffnen Sie eine Datei oder ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>Plot type %1 shows no data in this demo.</source>
+        <translation>Plottyp %1 zeigt in dieser Demo keine Daten.</translation>
+    </message>
+    <message>
+        <source>Choose the axis variables (Dialogs &gt; Axis Variables).</source>
+        <translation>Wählen Sie die Achsenvariablen (Dialoge &gt; Achsenvariablen).</translation>
+    </message>
+</context>
+<context>
+    <name>RGBColorOpts</name>
+    <message>
+        <source>RGB Coloring Options</source>
+        <translation>RGB-Färbungsoptionen</translation>
+    </message>
+    <message>
+        <source>&amp;Mode:</source>
+        <translation>&amp;Modus:</translation>
+    </message>
+    <message>
+        <source>Specify R, G, and B</source>
+        <translation>R, G und B angeben</translation>
+    </message>
+    <message>
+        <source>Specify R&amp;G, Calculate B</source>
+        <translation>R&amp;G angeben, B berechnen</translation>
+    </message>
+    <message>
+        <source>Specify R&amp;B, Calculate G</source>
+        <translation>R&amp;B angeben, G berechnen</translation>
+    </message>
+    <message>
+        <source>Specify G&amp;B, Calculate R</source>
+        <translation>G&amp;B angeben, R berechnen</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>&amp;Rot:</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>&amp;Grün:</translation>
+    </message>
+    <message>
+        <source>&amp;Blue:</source>
+        <translation>B&amp;lau:</translation>
+    </message>
+    <message>
+        <source>Variable Value Range</source>
+        <translation>Wertebereich der Variablen</translation>
+    </message>
+    <message>
+        <source>Mi&amp;nimum intensity:</source>
+        <translation>Mi&amp;nimale Intensität:</translation>
+    </message>
+    <message>
+        <source>Ma&amp;ximum intensity:</source>
+        <translation>Ma&amp;ximale Intensität:</translation>
+    </message>
+</context>
+<context>
+    <name>ScatterSizeFont</name>
+    <message>
+        <source>Scatter Size/Font</source>
+        <translation>Streusymbol: Größe/Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Cm/magnitude:</source>
+        <translation>&amp;cm/Betrag:</translation>
+    </message>
+    <message>
+        <source>&amp;Grid units/magnitude:</source>
+        <translation>&amp;Gittereinheiten/Betrag:</translation>
+    </message>
+    <message>
+        <source>&amp;Scatter-size variable:</source>
+        <translation>&amp;Variable der Symbolgröße:</translation>
+    </message>
+    <message>
+        <source>Size multiplier</source>
+        <translation>Größenfaktor</translation>
+    </message>
+    <message>
+        <source>ASCII symbol &amp;font:</source>
+        <translation>ASCII-Symbol&amp;schrift:</translation>
+    </message>
+    <message>
+        <source>&amp;B</source>
+        <translation>&amp;F</translation>
+    </message>
+    <message>
+        <source>&amp;I</source>
+        <translation>&amp;K</translation>
+    </message>
+    <message>
+        <source>&amp;Recalculate Size</source>
+        <translation>Größe &amp;neu berechnen</translation>
+    </message>
+    <message>
+        <source>Symbol Font</source>
+        <translation>Symbolschrift</translation>
+    </message>
+    <message>
+        <source>Centimeters per magnitude</source>
+        <translation>Zentimeter pro Betrag</translation>
+    </message>
+    <message>
+        <source>Grid units per magnitude</source>
+        <translation>Gittereinheiten pro Betrag</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+</context>
+<context>
+    <name>StateView</name>
+    <message>
+        <source>Item</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Data set</source>
+        <translation>Datensatz</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keiner)</translation>
+    </message>
+    <message>
+        <source>Zones</source>
+        <translation>Zonen</translation>
+    </message>
+    <message numerus="yes">
+        <source> (%n categories: %1)</source>
+        <translation>
+            <numerusform> (%n Kategorie: %1)</numerusform>
+            <numerusform> (%n Kategorien: %1)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation>Variablen</translation>
+    </message>
+    <message>
+        <source>Plot type</source>
+        <translation>Plottyp</translation>
+    </message>
+    <message>
+        <source>(unreadable: %1)</source>
+        <translation>(nicht lesbar: %1)</translation>
+    </message>
+</context>
+<context>
+    <name>VariableSelectDialog</name>
+    <message>
+        <source>Select Variables</source>
+        <translation>Variablen wählen</translation>
+    </message>
+    <message>
+        <source>Choose the vector variables:</source>
+        <translation>Wählen Sie die Vektorvariablen:</translation>
+    </message>
+    <message>
+        <source>&amp;U:</source>
+        <translation>&amp;U:</translation>
+    </message>
+    <message>
+        <source>&amp;V:</source>
+        <translation>&amp;V:</translation>
+    </message>
+    <message>
+        <source>&amp;W:</source>
+        <translation>&amp;W:</translation>
+    </message>
+    <message>
+        <source>Choose the variables to assign to the axes.</source>
+        <translation>Wählen Sie die Variablen für die Achsen.</translation>
+    </message>
+    <message>
+        <source>Choose the variables to assign to the R, G, and B channels.</source>
+        <translation>Wählen Sie die Variablen für die Kanäle R, G und B.</translation>
+    </message>
+    <message>
+        <source>Choose the vector variables.</source>
+        <translation>Wählen Sie die Vektorvariablen.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneSelect</name>
+    <message>
+        <source>Select Zone</source>
+        <translation>Zone wählen</translation>
+    </message>
+    <message>
+        <source>Zones</source>
+        <translation>Zonen</translation>
+    </message>
+</context>
+<context>
+    <name>orrery::dialogs::common::HelpViewer</name>
+    <message>
+        <source>&lt;h3&gt;Help not available&lt;/h3&gt;&lt;p&gt;No help page named &quot;%1&quot; is installed.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Hilfe nicht verfügbar&lt;/h3&gt;&lt;p&gt;Es ist keine Hilfeseite namens „%1“ installiert.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>orrery::dialogs::common::LaunchHelpAction</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+</TS>
