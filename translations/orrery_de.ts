@@ -293,6 +293,26 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <source>Scatter Size and Font...</source>
         <translation>Streusymbol: Größe und Schrift...</translation>
     </message>
+    <message>
+        <source>Axis Variables...</source>
+        <translation>Achsenvariablen...</translation>
+    </message>
+    <message>
+        <source>Vector Variables...</source>
+        <translation>Vektorvariablen...</translation>
+    </message>
+    <message>
+        <source>RGB Variables...</source>
+        <translation>RGB-Variablen...</translation>
+    </message>
+    <message>
+        <source>Add-on Variables...</source>
+        <translation>Add-on-Variablen...</translation>
+    </message>
+    <message>
+        <source>Select Zone...</source>
+        <translation>Zone wählen...</translation>
+    </message>
 </context>
 <context>
     <name>EnterASCIICharacter</name>
@@ -486,10 +506,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <translation>%1 mit dem Lader „%2“ geladen</translation>
     </message>
     <message>
-        <source>Replay stopped after %1 commands. %2</source>
-        <translation>Wiedergabe nach %1 Befehlen angehalten. %2</translation>
-    </message>
-    <message>
         <source>Replayed %1 commands from %2</source>
         <translation>%1 Befehle aus %2 wiedergegeben</translation>
     </message>
@@ -524,6 +540,16 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Loaded the built-in sample data set</source>
         <translation>Eingebauten Beispieldatensatz geladen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The replay stopped at a bad line; the %n command(s) before it were kept.
+%1</source>
+        <translation>
+            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; der %n Befehl davor wurde behalten.
+%1</numerusform>
+            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; die %n Befehle davor wurden behalten.
+%1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1319,6 +1345,13 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Radians</source>
         <translation>Bogenmaß</translation>
+    </message>
+</context>
+<context>
+    <name>PlotView</name>
+    <message>
+        <source>The plot cannot be drawn: %1</source>
+        <translation>Der Plot kann nicht gezeichnet werden: %1</translation>
     </message>
 </context>
 <context>

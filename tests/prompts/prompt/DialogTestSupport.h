@@ -107,6 +107,9 @@ inline void expectTabOrder(const QWidget& root, std::initializer_list<const char
 
 } // namespace contract
 
+namespace orrery::dialogs::prompt {
+}
+
 namespace dialogtest {
 
 using namespace orrery::dialogs::prompt;
