@@ -62,26 +62,31 @@ long HostStyle::integer(const std::string& slashed, long member, long fallback)
     return StyleValue::returnCodeOk(value.styleGetLowLevel(args)) ? raw : fallback;
 }
 
-double HostStyle::number(const std::string& slashed, long member, double fallback)
+namespace {
+
+// A typed style value, or the fallback when the kernel cannot give one.
+template <typename T>
+T finalValue(const StringList& stylePath, long member, T fallback)
 {
-    const StyleValue value(path(slashed));
+    const StyleValue value(stylePath);
     RawArray<long> ids;
     identifiers(value, ids);
     ArgList args;
     value.setupGetValueArgList(ids, member, -1, args);
-    double result = fallback;
+    T result = fallback;
     return StyleValue::returnCodeOk(value.getFinalValue(&result, args)) ? result : fallback;
+}
+
+} // namespace
+
+double HostStyle::number(const std::string& slashed, long member, double fallback)
+{
+    return finalValue(path(slashed), member, fallback);
 }
 
 bool HostStyle::flag(const std::string& slashed, long member, bool fallback)
 {
-    const StyleValue value(path(slashed));
-    RawArray<long> ids;
-    identifiers(value, ids);
-    ArgList args;
-    value.setupGetValueArgList(ids, member, -1, args);
-    bool result = fallback;
-    return StyleValue::returnCodeOk(value.getFinalValue(&result, args)) ? result : fallback;
+    return finalValue(path(slashed), member, fallback);
 }
 
 bool HostStyle::setInteger(const std::string& slashed, long number, std::string* error)
