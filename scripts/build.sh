@@ -13,6 +13,6 @@ case "$mode" in
   *) echo "usage: $0 [5|6|asan]" >&2; exit 2 ;;
 esac
 bash scripts/install-deps.sh "$major"
-launcher=(); command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+source scripts/compiler-cache.sh
 cmake -S . -B "$dir" -DORRERY_QT_MAJOR="$major" "${options[@]}" "${launcher[@]}" >/dev/null
 cmake --build "$dir" -j "${ORRERY_JOBS:-2}" "$@"

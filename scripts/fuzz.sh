@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 seconds="${1:-30}"; shift || true
 bash scripts/install-deps.sh 6 fuzz
 dir="build/fuzz"
-launcher=(); command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+source scripts/compiler-cache.sh
 CXX=clang++ CC=clang cmake -S . -B "$dir" -DORRERY_QT_MAJOR=6 -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DORRERY_BUILD_FUZZ=ON -DORRERY_BUILD_TESTS=OFF -DORRERY_BUILD_BENCH=OFF "${launcher[@]}" >/dev/null
 cmake --build "$dir" -j "${ORRERY_JOBS:-2}" --target orrery_fuzz

@@ -75,6 +75,20 @@ bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
     return add(index, text, reason);
 }
 
+void ColumnTable::addRow(const double* values)
+{
+    for (Column& column : m_columns)
+        column.values.push_back(*values++);
+}
+
+bool ColumnTable::allNumbers() const
+{
+    for (const Column& column : m_columns)
+        if (column.kind != Kind::Number)
+            return false;
+    return !m_columns.empty();
+}
+
 bool ColumnTable::addNumber(Column& column, std::string_view text, std::string& reason)
 {
     double value = 0;

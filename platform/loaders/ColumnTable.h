@@ -31,6 +31,9 @@ public:
     // Adds the cell to the column (0-based); a column one past the last is
     // created. False with a reason (quoting the cell) when the cell is refused.
     bool add(size_t column, std::string_view text, std::string& reason);
+    // Adds one number to each column, all of which hold numbers.
+    void addRow(const double* values);
+    bool allNumbers() const;
     size_t columnCount() const { return m_columns.size(); }
     size_t rowCount() const { return m_columns.empty() ? 0 : m_columns.front().values.size(); }
     size_t missingCount() const { return m_missing; }

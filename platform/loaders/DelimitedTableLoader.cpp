@@ -6,6 +6,7 @@
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
+#include "platform/loaders/PlainNumberRows.h"
 #include "platform/loaders/TableLayout.h"
 
 namespace orrery {
@@ -81,7 +82,16 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     FieldTokenizer::Field field;
     FieldTokenizer::Step step;
     std::string reason;
-    while ((step = tokenizer.next(field)) == FieldTokenizer::Step::Field) {
+    PlainNumberRows plainRows(layout.delimiter, layout.decimalComma);
+    bool allNumbers = false; // once every column holds numbers, plain records take the short route
+    for (;;) {
+        if (allNumbers && column == 0) {
+            size_t records = 0;
+            const size_t bytes = plainRows.read(tokenizer.bufferedRecords(), table, records);
+            tokenizer.skipRecords(bytes, records);
+        }
+        if ((step = tokenizer.next(field)) != FieldTokenizer::Step::Field)
+            break;
         if (columns && column >= columns) {
             size_t count = column + 1;
             while (!field.lastInRecord && tokenizer.next(field) == FieldTokenizer::Step::Field)
@@ -111,6 +121,7 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
             columns = column;
             column = 0;
             inHeader = false;
+            allNumbers = allNumbers || table.allNumbers();
         }
     }
     if (step == FieldTokenizer::Step::Failed) {

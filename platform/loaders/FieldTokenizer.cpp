@@ -48,6 +48,19 @@ std::string FieldTokenizer::error(const std::string& fileName) const
     return m_errorHasPlace ? fileName + ", " + m_error : m_error;
 }
 
+std::string_view FieldTokenizer::bufferedRecords() const
+{
+    if (!m_started || !m_recordStart)
+        return {};
+    return std::string_view(m_buffer.get() + m_pos, m_end - m_pos);
+}
+
+void FieldTokenizer::skipRecords(size_t bytes, size_t records)
+{
+    m_pos += bytes;
+    m_line += records;
+}
+
 bool FieldTokenizer::refill()
 {
     if (m_eof || !m_file)

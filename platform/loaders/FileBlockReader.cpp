@@ -6,10 +6,39 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 #include "platform/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace sdk {
+
+namespace {
+
+// Counting line breaks reads the whole file once more before loading it, so it
+// runs 16 bytes at a time where the processor allows.
+size_t countLineBreaks(const char* text, size_t size)
+{
+    size_t count = 0;
+    size_t done = 0;
+#ifdef __SSE2__
+    const __m128i lineBreak = _mm_set1_epi8('\n');
+    while (size - done >= 16) {
+        // Each match subtracts -1 from its byte's tally; 255 rounds at most before a byte could wrap.
+        __m128i tally = _mm_setzero_si128();
+        for (int round = 0; round < 255 && size - done >= 16; ++round, done += 16) {
+            const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + done));
+            tally = _mm_sub_epi8(tally, _mm_cmpeq_epi8(bytes, lineBreak));
+        }
+        const __m128i sums = _mm_sad_epu8(tally, _mm_setzero_si128());
+        count += static_cast<size_t>(_mm_cvtsi128_si32(sums)) + static_cast<size_t>(_mm_extract_epi16(sums, 4));
+    }
+#endif
+    return count + static_cast<size_t>(std::count(text + done, text + size, '\n'));
+}
+
+} // namespace
 
 FileBlockReader::~FileBlockReader()
 {
@@ -90,7 +119,7 @@ bool FileBlockReader::countLines(size_t& lines, std::string& error)
             return false;
         if (got == 0)
             break;
-        lines += static_cast<size_t>(std::count(block.get(), block.get() + got, '\n'));
+        lines += countLineBreaks(block.get(), got);
     }
     return rewind(error);
 }
