@@ -1,5 +1,7 @@
 #include "platform/loaders/ColumnTable.h"
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include "platform/loaders/NumberText.h"
 #ifdef __linux__
@@ -11,9 +13,9 @@ namespace sdk {
 
 namespace {
 
-// Reserves room for the rows, on large pages where the system offers them: a
+// Makes room for the rows, on large pages where the system offers them: a
 // large column then fills without a page fault every 4 KiB.
-void reserveColumn(std::vector<double>& values, size_t rows)
+void makeRoom(std::vector<double>& values, size_t rows)
 {
     values.reserve(rows);
 #if defined(__linux__) && defined(MADV_HUGEPAGE)
@@ -23,9 +25,12 @@ void reserveColumn(std::vector<double>& values, size_t rows)
     if (end > begin)
         ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE); // only advice: failure is harmless
 #endif
+    values.resize(rows);
 }
 
 } // namespace
+
+const char* const ColumnTable::NoRoomReason = "the file changed while it was being read.";
 
 ColumnTable::ColumnTable(std::vector<Kind> kinds, Options options) : m_initialKinds(std::move(kinds)), m_options(options)
 {
@@ -35,35 +40,87 @@ void ColumnTable::reserve(size_t rows)
 {
     m_reserved = rows;
     for (Column& column : m_columns)
-        reserveColumn(column.values, rows);
+        if (!column.elsewhere && column.room < rows) {
+            makeRoom(column.values, rows);
+            column.room = rows;
+        }
+}
+
+ColumnTable ColumnTable::continuation(size_t firstRow, size_t rows)
+{
+    ColumnTable rest(m_initialKinds, m_options);
+    rest.m_fixedRoom = m_fixedRoom = true;
+    for (Column& column : m_columns) {
+        Column& part = rest.m_columns.emplace_back();
+        part.kind = column.kind;
+        part.elsewhere = column.values.data() + firstRow;
+        part.room = std::min(rows, column.values.size() - std::min(firstRow, column.values.size()));
+        column.room = std::min(column.room, firstRow);
+    }
+    return rest;
+}
+
+void ColumnTable::join(ColumnTable& continuation)
+{
+    for (size_t c = 0; c < m_columns.size() && c < continuation.m_columns.size(); ++c) {
+        Column& column = m_columns[c];
+        const Column& part = continuation.m_columns[c];
+        // The part's rows start where this table's room ended; close the gap its unused room left.
+        if (part.elsewhere != column.values.data() + column.count)
+            std::memmove(column.values.data() + column.count, part.elsewhere, part.count * sizeof(double));
+        column.count += part.count;
+        column.room = column.values.size();
+    }
+    m_missing += continuation.m_missing;
+    m_fixedRoom = false;
+    continuation.m_columns.clear();
+}
+
+bool ColumnTable::put(Column& column, double value)
+{
+    if (column.count == column.room) {
+        if (m_fixedRoom || column.elsewhere)
+            return false;
+        makeRoom(column.values, std::max<size_t>(16, column.room * 2));
+        column.room = column.values.size();
+    }
+    (column.elsewhere ? column.elsewhere : column.values.data())[column.count++] = value;
+    return true;
 }
 
 bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
 {
     if (index >= m_columns.size()) {
-        if (m_columns.size() >= MaxColumns) {
-            reason = "more than " + std::to_string(MaxColumns) + " columns.";
+        if (m_columns.size() >= MaxColumns || m_fixedRoom) {
+            reason = m_fixedRoom ? NoRoomReason : "more than " + std::to_string(MaxColumns) + " columns.";
             return false;
         }
         m_columns.emplace_back();
         Column& added = m_columns.back();
         if (m_columns.size() <= m_initialKinds.size())
             added.kind = m_initialKinds[m_columns.size() - 1];
-        reserveColumn(added.values, m_reserved);
+        if (m_reserved > 0) {
+            makeRoom(added.values, m_reserved);
+            added.room = m_reserved;
+        }
         index = m_columns.size() - 1;
     }
     Column& column = m_columns[index];
     if (m_options.missingTokens && NumberText::isMissingToken(text)) {
-        column.values.push_back(std::numeric_limits<double>::quiet_NaN());
         ++m_missing;
-        return true;
+        if (put(column, std::numeric_limits<double>::quiet_NaN()))
+            return true;
+        reason = NoRoomReason;
+        return false;
     }
     switch (column.kind) {
     case Kind::Number:
         return addNumber(column, text, reason);
     case Kind::Category:
-        addCategory(column, text);
-        return true;
+        if (addCategory(column, text))
+            return true;
+        reason = NoRoomReason;
+        return false;
     case Kind::Undecided:
         break;
     }
@@ -75,10 +132,12 @@ bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
     return add(index, text, reason);
 }
 
-void ColumnTable::addRow(const double* values)
+bool ColumnTable::addRow(const double* values)
 {
     for (Column& column : m_columns)
-        column.values.push_back(*values++);
+        if (!put(column, *values++))
+            return false;
+    return true;
 }
 
 bool ColumnTable::allNumbers() const
@@ -97,17 +156,19 @@ bool ColumnTable::addNumber(Column& column, std::string_view text, std::string& 
         reason = NumberText::explain(text, verdict);
         return false;
     }
-    column.values.push_back(value);
-    return true;
+    if (put(column, value))
+        return true;
+    reason = NoRoomReason;
+    return false;
 }
 
-void ColumnTable::addCategory(Column& column, std::string_view text)
+bool ColumnTable::addCategory(Column& column, std::string_view text)
 {
     const auto [entry, added] =
         column.categoryNumbers.emplace(std::string(text), static_cast<double>(column.categories.size() + 1));
     if (added)
         column.categories.emplace_back(text);
-    column.values.push_back(entry->second);
+    return put(column, entry->second);
 }
 
 std::vector<std::vector<double>> ColumnTable::takeValues()
@@ -115,6 +176,7 @@ std::vector<std::vector<double>> ColumnTable::takeValues()
     std::vector<std::vector<double>> values;
     values.reserve(m_columns.size());
     for (Column& column : m_columns) {
+        column.values.resize(column.count);
         values.push_back(std::move(column.values));
         column.categoryNumbers.clear();
     }

@@ -1,12 +1,15 @@
 #include "platform/loaders/DelimitedTableLoader.h"
+#include <future>
 #include <new>
+#include <system_error>
+#include <thread>
 #include <QFile>
 #include <QFileInfo>
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
-#include "platform/loaders/PlainNumberRows.h"
+#include "platform/loaders/TableReader.h"
 #include "platform/loaders/TableLayout.h"
 
 namespace orrery {
@@ -30,12 +33,8 @@ bool readSample(FileBlockReader& file, std::string& sample, std::string& error)
         if (lastBreak != std::string::npos)
             sample.resize(lastBreak + 1);
     }
-    return file.rewind(error);
-}
-
-std::string where(const std::string& file, size_t line, size_t column)
-{
-    return file + ", line " + std::to_string(line) + ", column " + std::to_string(column) + ": ";
+    file.rewind();
+    return true;
 }
 
 std::string plural(size_t count, const std::string& one, const std::string& many)
@@ -44,6 +43,33 @@ std::string plural(size_t count, const std::string& one, const std::string& many
 }
 
 } // namespace
+
+bool DelimitedTableLoader::readInTwoParts(FileBlockReader& file, long long split, size_t firstRows, size_t laterRows,
+                                          const TableLayout& layout, ColumnTable& table, TableReader& reader,
+                                          std::string& error)
+{
+    FileBlockReader laterPart;
+    if (!laterPart.share(file, split, FileBlockReader::ToEnd, error))
+        return false;
+    file.endAt(split);
+    ColumnTable laterTable = table.continuation(firstRows, laterRows);
+    TableReader laterReader(laterPart, layout, laterTable, reader.columns());
+    const auto readLater = [&laterReader] { return laterReader.read(); };
+    std::future<bool> later;
+    try {
+        later = std::async(std::launch::async, readLater);
+    } catch (const std::system_error&) { // no thread to be had: read the parts one after the other
+        later = std::async(std::launch::deferred, readLater);
+    }
+    const bool firstRead = reader.read();
+    const bool laterRead = later.get();
+    if (!firstRead || !laterRead) {
+        error = !firstRead ? reader.error(file.displayName()) : laterReader.error(file.displayName(), reader.lines());
+        return false;
+    }
+    table.join(laterTable);
+    return true;
+}
 
 bool DelimitedTableLoader::load(const std::string& path, std::string& error)
 {
@@ -60,9 +86,19 @@ bool DelimitedTableLoader::load(const std::string& path, std::string& error)
 bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error)
 {
     FileBlockReader file;
+    if (!file.open(path, error))
+        return false;
+    // A long file may be read in two parts at once, split at the line start nearest its middle.
+    long long split = file.size();
+    if (file.size() >= m_twoPartsFrom && std::thread::hardware_concurrency() > 1
+        && !file.lineStartAfter(file.size() / 2, split, error))
+        return false;
+    size_t linesBefore = 0, linesAfter = 0;
+    bool quotesBefore = false, quotesAfter = false;
     std::string sample;
-    size_t lines = 0;
-    if (!file.open(path, error) || !file.countLines(lines, error) || !readSample(file, sample, error))
+    if (!file.countLines(0, split, linesBefore, quotesBefore, error)
+        || !file.countLines(split, FileBlockReader::ToEnd, linesAfter, quotesAfter, error)
+        || !readSample(file, sample, error))
         return false;
     const std::string& name = file.displayName();
     TableLayout layout;
@@ -72,66 +108,28 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     }
     sample = std::string();
 
-    FieldTokenizer tokenizer(file, layout.delimiter);
     ColumnTable table(layout.kinds, {layout.decimalComma, true});
-    table.reserve(lines + 1);
-    std::vector<std::string> headerCells;
-    size_t columns = 0; // known once the first record has been read
-    size_t column = 0;
-    bool inHeader = layout.header;
-    FieldTokenizer::Field field;
-    FieldTokenizer::Step step;
-    std::string reason;
-    PlainNumberRows plainRows(layout.delimiter, layout.decimalComma);
-    bool allNumbers = false; // once every column holds numbers, plain records take the short route
-    for (;;) {
-        if (allNumbers && column == 0) {
-            size_t records = 0;
-            const size_t bytes = plainRows.read(tokenizer.bufferedRecords(), table, records);
-            tokenizer.skipRecords(bytes, records);
-        }
-        if ((step = tokenizer.next(field)) != FieldTokenizer::Step::Field)
-            break;
-        if (columns && column >= columns) {
-            size_t count = column + 1;
-            while (!field.lastInRecord && tokenizer.next(field) == FieldTokenizer::Step::Field)
-                ++count;
-            error = where(name, field.line, columns + 1) + plural(count, "value", "values") + " where "
-                    + std::to_string(columns) + " were expected.";
-            return false;
-        }
-        if (inHeader) {
-            if (headerCells.size() >= ColumnTable::MaxColumns) {
-                error = where(name, field.line, field.column) + "more than "
-                        + std::to_string(ColumnTable::MaxColumns) + " columns.";
-                return false;
-            }
-            headerCells.emplace_back(field.text);
-        } else if (!table.add(column, field.text, reason)) {
-            error = where(name, field.line, field.column) + reason;
-            return false;
-        }
-        ++column;
-        if (field.lastInRecord) {
-            if (columns && column < columns) {
-                error = where(name, field.line, column + 1) + plural(column, "value", "values") + " where "
-                        + std::to_string(columns) + " were expected.";
-                return false;
-            }
-            columns = column;
-            column = 0;
-            inHeader = false;
-            allNumbers = allNumbers || table.allNumbers();
-        }
+    table.reserve(linesBefore + linesAfter + 1);
+    TableReader reader(file, layout, table);
+    if (!reader.read(true)) {
+        error = reader.error(name);
+        return false;
     }
-    if (step == FieldTokenizer::Step::Failed) {
-        error = tokenizer.error(name);
+    // Quotes could hold a line break across the split, so such files are read in one part.
+    const bool twoParts = split < file.size() && !quotesBefore && !quotesAfter && layout.delimiter != 0
+                          && table.allNumbers() && file.offset() <= split;
+    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, reader, error)
+                 : !reader.read()) {
+        if (!twoParts)
+            error = reader.error(name);
         return false;
     }
     if (table.rowCount() == 0) {
         error = name + " holds no rows of values.";
         return false;
     }
+    const size_t columns = reader.columns();
+    std::vector<std::string>& headerCells = reader.headerCells();
 
     const std::string title = QFileInfo(QFile::decodeName(path.c_str())).completeBaseName().toStdString();
     kernel::DataSet data(title, TableLayout::columnNames(std::move(headerCells), columns));

@@ -16,9 +16,10 @@ bool isBinary(unsigned char c)
 
 } // namespace
 
-FieldTokenizer::FieldTokenizer(FileBlockReader& file, char delimiter)
+FieldTokenizer::FieldTokenizer(FileBlockReader& file, char delimiter, bool atFileStart)
     : FieldTokenizer(&file, FileBlockReader::BlockSize, delimiter)
 {
+    m_started = !atFileStart;
 }
 
 FieldTokenizer::FieldTokenizer(std::string_view text, char delimiter)
@@ -43,9 +44,12 @@ FieldTokenizer::FieldTokenizer(FileBlockReader* file, size_t capacity, char deli
 
 FieldTokenizer::~FieldTokenizer() = default;
 
-std::string FieldTokenizer::error(const std::string& fileName) const
+std::string FieldTokenizer::error(const std::string& fileName, size_t linesBefore) const
 {
-    return m_errorHasPlace ? fileName + ", " + m_error : m_error;
+    if (!m_errorHasPlace)
+        return m_error;
+    return fileName + ", line " + std::to_string(m_errorLine + linesBefore) + ", column " + std::to_string(m_errorColumn)
+           + ": " + m_error;
 }
 
 std::string_view FieldTokenizer::bufferedRecords() const
@@ -102,7 +106,9 @@ void FieldTokenizer::skipBlanks()
 bool FieldTokenizer::fail(const std::string& what)
 {
     if (m_error.empty()) {
-        m_error = "line " + std::to_string(m_fieldLine) + ", column " + std::to_string(m_column) + ": " + what;
+        m_error = what;
+        m_errorLine = m_fieldLine;
+        m_errorColumn = m_column;
         m_errorHasPlace = true;
     }
     return false;

@@ -15,7 +15,7 @@ class FileBlockReader;
 // A field may be quoted: "..." holds delimiters and line breaks, "" stands for
 // one quote. Records end at LF, CRLF or CR. Spaces around a field are dropped,
 // blank lines and lines starting with '#' are skipped, and a UTF-8 byte-order
-// mark at the start is ignored.
+// mark at the start of a file is ignored.
 class FieldTokenizer
 {
 public:
@@ -31,8 +31,9 @@ public:
 
     static constexpr size_t MaxFieldLength = 1 << 16;
 
-    // Reads the file from its current position.
-    FieldTokenizer(FileBlockReader& file, char delimiter);
+    // Reads the file from its current position, which is the start of the
+    // file or, with atFileStart false, the start of a line within it.
+    FieldTokenizer(FileBlockReader& file, char delimiter, bool atFileStart = true);
     // Reads the given text, which is copied.
     FieldTokenizer(std::string_view text, char delimiter);
     ~FieldTokenizer();
@@ -45,8 +46,11 @@ public:
     // Moves past the first bytes of bufferedRecords(), which held that many
     // records of one line each.
     void skipRecords(size_t bytes, size_t records);
-    // What went wrong, naming the file, the line and the column.
-    std::string error(const std::string& fileName) const;
+    // What went wrong, naming the file, the line and the column; the lines
+    // are counted from 1 + linesBefore.
+    std::string error(const std::string& fileName, size_t linesBefore = 0) const;
+    // The lines read so far.
+    size_t lines() const { return m_line - 1; }
 
 private:
     FieldTokenizer(FileBlockReader* file, size_t capacity, char delimiter);
@@ -76,6 +80,8 @@ private:
     std::string m_cell;
     std::string m_error;
     bool m_errorHasPlace = false;
+    size_t m_errorLine = 0;
+    size_t m_errorColumn = 0;
     bool m_unquotedStops[256] = {};
     bool m_quotedStops[256] = {};
 };

@@ -18,23 +18,28 @@ namespace {
 
 // Counting line breaks reads the whole file once more before loading it, so it
 // runs 16 bytes at a time where the processor allows.
-size_t countLineBreaks(const char* text, size_t size)
+size_t countLineBreaks(const char* text, size_t size, bool& quotes)
 {
     size_t count = 0;
     size_t done = 0;
 #ifdef __SSE2__
     const __m128i lineBreak = _mm_set1_epi8('\n');
+    const __m128i quote = _mm_set1_epi8('"');
+    __m128i quoteSeen = _mm_setzero_si128();
     while (size - done >= 16) {
         // Each match subtracts -1 from its byte's tally; 255 rounds at most before a byte could wrap.
         __m128i tally = _mm_setzero_si128();
         for (int round = 0; round < 255 && size - done >= 16; ++round, done += 16) {
             const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + done));
             tally = _mm_sub_epi8(tally, _mm_cmpeq_epi8(bytes, lineBreak));
+            quoteSeen = _mm_or_si128(quoteSeen, _mm_cmpeq_epi8(bytes, quote));
         }
         const __m128i sums = _mm_sad_epu8(tally, _mm_setzero_si128());
         count += static_cast<size_t>(_mm_cvtsi128_si32(sums)) + static_cast<size_t>(_mm_extract_epi16(sums, 4));
     }
+    quotes = quotes || _mm_movemask_epi8(quoteSeen) != 0;
 #endif
+    quotes = quotes || std::find(text + done, text + size, '"') != text + size;
     return count + static_cast<size_t>(std::count(text + done, text + size, '\n'));
 }
 
@@ -86,10 +91,24 @@ bool FileBlockReader::open(const std::string& path, std::string& error)
     return true;
 }
 
-bool FileBlockReader::read(char* buffer, size_t capacity, size_t& got, std::string& error)
+bool FileBlockReader::share(const FileBlockReader& other, long long begin, long long end, std::string& error)
+{
+    m_displayName = other.m_displayName;
+    m_fd = ::fcntl(other.m_fd, F_DUPFD_CLOEXEC, 0);
+    if (m_fd < 0) {
+        error = failure("Cannot read", errno);
+        return false;
+    }
+    m_size = other.m_size;
+    m_begin = m_offset = begin;
+    m_end = end;
+    return true;
+}
+
+bool FileBlockReader::readAt(long long at, char* buffer, size_t capacity, size_t& got, std::string& error) const
 {
     for (;;) {
-        const ssize_t n = ::read(m_fd, buffer, capacity);
+        const ssize_t n = ::pread(m_fd, buffer, capacity, at);
         if (n >= 0) {
             got = static_cast<size_t>(n);
             return true;
@@ -101,27 +120,49 @@ bool FileBlockReader::read(char* buffer, size_t capacity, size_t& got, std::stri
     }
 }
 
-bool FileBlockReader::rewind(std::string& error)
+bool FileBlockReader::read(char* buffer, size_t capacity, size_t& got, std::string& error)
 {
-    if (::lseek(m_fd, 0, SEEK_SET) != 0) {
-        error = failure("Cannot read", errno);
+    if (m_end != ToEnd)
+        capacity = static_cast<size_t>(std::max(0LL, std::min<long long>(static_cast<long long>(capacity), m_end - m_offset)));
+    got = 0;
+    if (capacity > 0 && !readAt(m_offset, buffer, capacity, got, error))
         return false;
+    m_offset += static_cast<long long>(got);
+    return true;
+}
+
+bool FileBlockReader::countLines(long long begin, long long end, size_t& lines, bool& quotes, std::string& error) const
+{
+    const std::unique_ptr<char[]> block(new char[BlockSize]);
+    lines = 0;
+    quotes = false;
+    for (long long at = begin; end == ToEnd || at < end;) {
+        size_t got = 0;
+        const size_t wanted = end == ToEnd ? BlockSize : static_cast<size_t>(std::min<long long>(BlockSize, end - at));
+        if (!readAt(at, block.get(), wanted, got, error))
+            return false;
+        if (got == 0)
+            break;
+        lines += countLineBreaks(block.get(), got, quotes);
+        at += static_cast<long long>(got);
     }
     return true;
 }
 
-bool FileBlockReader::countLines(size_t& lines, std::string& error)
+bool FileBlockReader::lineStartAfter(long long from, long long& start, std::string& error) const
 {
-    const std::unique_ptr<char[]> block(new char[BlockSize]);
-    lines = 0;
-    for (size_t got = 0;;) {
-        if (!read(block.get(), BlockSize, got, error))
+    char block[4096];
+    for (long long at = from;;) {
+        size_t got = 0;
+        if (!readAt(at, block, sizeof block, got, error))
             return false;
-        if (got == 0)
-            break;
-        lines += countLineBreaks(block.get(), got);
+        const void* lineBreak = std::memchr(block, '\n', got);
+        if (got == 0 || lineBreak) {
+            start = got == 0 ? std::max(at, from) : at + (static_cast<const char*>(lineBreak) - block) + 1;
+            return true;
+        }
+        at += static_cast<long long>(got);
     }
-    return rewind(error);
 }
 
 } // namespace sdk

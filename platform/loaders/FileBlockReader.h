@@ -7,10 +7,13 @@ namespace sdk {
 
 // Reads a regular file in blocks, by its native (byte) name, so that a name
 // that is not valid UTF-8 still opens. Folders, pipes and devices are refused
-// before anything is read from them, so that a load never blocks.
+// before anything is read from them, so that a load never blocks. Readers
+// that share a file each read their own part of it.
 class FileBlockReader
 {
 public:
+    static constexpr long long ToEnd = -1;
+
     FileBlockReader() = default;
     ~FileBlockReader();
     FileBlockReader(const FileBlockReader&) = delete;
@@ -18,13 +21,21 @@ public:
 
     // False with error set when the path is not a readable regular file.
     bool open(const std::string& path, std::string& error);
-    // Up to capacity bytes into buffer; got is 0 at the end of the file.
+    // Reads the bytes [begin, end) of the file other has open.
+    bool share(const FileBlockReader& other, long long begin, long long end, std::string& error);
+    // Up to capacity bytes into buffer; got is 0 at the end of the file or part.
     bool read(char* buffer, size_t capacity, size_t& got, std::string& error);
-    // Back to the first byte.
-    bool rewind(std::string& error);
-    // Line breaks in the whole file, an upper bound of its rows; leaves the
-    // reader at the first byte.
-    bool countLines(size_t& lines, std::string& error);
+    // Back to the first byte of the part.
+    void rewind() { m_offset = m_begin; }
+    // Later reads stop at end.
+    void endAt(long long end) { m_end = end; }
+    // Where the next read starts.
+    long long offset() const { return m_offset; }
+    // Line breaks in [begin, end), an upper bound of the rows there, and
+    // whether a quote occurs there; reads nothing for read().
+    bool countLines(long long begin, long long end, size_t& lines, bool& quotes, std::string& error) const;
+    // Where the first line starting at or after from begins; size() if none does.
+    bool lineStartAfter(long long from, long long& start, std::string& error) const;
     long long size() const { return m_size; }
 
     // The file's name as messages show it, without its folder.
@@ -34,10 +45,14 @@ public:
     static constexpr size_t BlockSize = 1 << 20;
 
 private:
+    bool readAt(long long at, char* buffer, size_t capacity, size_t& got, std::string& error) const;
     std::string failure(const char* what, int code) const;
 
     int m_fd = -1;
     long long m_size = 0;
+    long long m_begin = 0;
+    long long m_offset = 0;
+    long long m_end = ToEnd;
     std::string m_displayName;
 };
 

@@ -90,10 +90,8 @@ size_t PlainNumberRows::read(std::string_view text, ColumnTable& table, size_t& 
     const char* begin = text.data();
     const char* end = begin + text.size();
     const char* cursor = begin;
-    for (const char* next = cursor; readRecord(next, end); cursor = next) {
-        table.addRow(m_row.data());
+    for (const char* next = cursor; readRecord(next, end) && table.addRow(m_row.data()); cursor = next)
         ++records;
-    }
     return static_cast<size_t>(cursor - begin);
 }
 

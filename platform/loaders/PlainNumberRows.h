@@ -21,7 +21,8 @@ public:
     PlainNumberRows(char delimiter, bool decimalComma);
 
     // Reads whole records from the start of text into table, whose columns
-    // must all hold numbers; returns the bytes they took and sets records.
+    // must all hold numbers, as long as it has room; returns the bytes they
+    // took and sets records.
     size_t read(std::string_view text, ColumnTable& table, size_t& records);
 
 private:

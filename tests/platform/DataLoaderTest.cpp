@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
+#include <limits>
 #include <fstream>
 #include <string>
 #include <sys/resource.h>
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include "platform/kernel/Kernel.h"
+#include "platform/loaders/CsvDataLoader.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/loaders/NumberText.h"
 #include "tests/support/TestSupport.h"
@@ -361,6 +363,50 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
     }
     EXPECT_FALSE(load("CSV table", "late.csv", mixed + "1;2;3\n"));
     EXPECT_EQ("late.csv, line " + std::to_string(5002 + 2 * 50) + ", column 3: 3 values where 2 were expected.", error);
+}
+
+TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
+{
+    // Header, comments, blank lines and gaps in the first half, so that the
+    // second half's rows must move up to follow the first half's last row.
+    std::string content = "\xEF\xBB\xBFt;p;q\r\n# logged\r\n\r\n";
+    for (int row = 0; content.size() < (3 << 20); ++row) {
+        content += std::to_string(row) + ";" + std::to_string(row / 4) + "," + std::to_string(row % 4 * 25) + ";"
+                   + (row % 97 ? "1,5" : "NA");
+        content += row % 1000 == 3 ? "\r\n\r\n# gap\n" : "\r\n";
+    }
+    const std::string path = write("two.csv", content);
+    CsvDataLoader onePart, twoParts;
+    onePart.readInTwoPartsFrom(std::numeric_limits<long long>::max());
+    twoParts.readInTwoPartsFrom(1);
+    const auto loadWith = [&](CsvDataLoader& loader, const std::string& file) {
+        error.clear();
+        return loader.load(file, error);
+    };
+    ASSERT_TRUE(loadWith(onePart, path)) << error;
+    const std::vector<std::vector<double>> expected = {column(1), column(2), column(3)};
+    ASSERT_TRUE(loadWith(twoParts, path)) << error;
+    EXPECT_EQ(onePart.lastLoadSummary(), twoParts.lastLoadSummary());
+    ASSERT_EQ(expected[0].size(), data().pointCount(1));
+    for (int c = 0; c < 3; ++c)
+        EXPECT_EQ(expected[c], column(c + 1)) << "column " << c + 1;
+
+    // A fault late in the file is reported at the same line and column
+    // either way; a fault in each half reports the first.
+    const size_t late = content.size() * 3 / 4;
+    const size_t lineStart = content.find('\n', late) + 1;
+    for (const char* fault : {"7;x;1\r\n", "7;8\r\n", "7;8;9;10\r\n", "7;\x01;9\r\n"}) {
+        std::string bad = content;
+        bad.insert(lineStart, fault);
+        for (const std::string& file : {write("bad.csv", bad), write("worse.csv", bad.insert(200, fault))}) {
+            std::string oneError;
+            EXPECT_FALSE(loadWith(onePart, file));
+            oneError = error;
+            EXPECT_FALSE(loadWith(twoParts, file));
+            EXPECT_EQ(oneError, error);
+            EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
+        }
+    }
 }
 
 TEST_F(DataLoading, RepositoryFindsLoadersByExtension)
