@@ -1,4 +1,6 @@
 #include "platform/loaders/DelimitedTableLoader.h"
+#include <algorithm>
+#include <atomic>
 #include <future>
 #include <new>
 #include <system_error>
@@ -9,6 +11,7 @@
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
+#include "platform/loaders/LoadProgress.h"
 #include "platform/loaders/TableReader.h"
 #include "platform/loaders/TableLayout.h"
 
@@ -46,11 +49,12 @@ std::string plural(size_t count, const std::string& one, const std::string& many
 
 bool DelimitedTableLoader::readInTwoParts(FileBlockReader& file, long long split, size_t firstRows, size_t laterRows,
                                           const TableLayout& layout, ColumnTable& table, TableReader& reader,
-                                          std::string& error)
+                                          const std::atomic<bool>& cancelled, std::string& error)
 {
     FileBlockReader laterPart;
     if (!laterPart.share(file, split, FileBlockReader::ToEnd, error))
         return false;
+    laterPart.setBlockHook([&cancelled](long long) { return !cancelled; });
     file.endAt(split);
     ColumnTable laterTable = table.continuation(firstRows, laterRows);
     TableReader laterReader(laterPart, layout, laterTable, reader.columns());
@@ -108,6 +112,15 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     }
     sample = std::string();
 
+    // The host hears of progress on this thread only; a second part stops once the first is cancelled.
+    std::atomic<bool> cancelled{false};
+    file.setBlockHook([&file, &cancelled](long long offset) {
+        const long long total = file.size();
+        const long long done = total == 0 || file.end() == FileBlockReader::ToEnd ? offset : offset * total / file.end();
+        cancelled = cancelled || !LoadProgress::report(static_cast<std::uint64_t>(std::min(done, total)),
+                                                       static_cast<std::uint64_t>(total));
+        return !cancelled;
+    });
     ColumnTable table(layout.kinds, {layout.decimalComma, true});
     table.reserve(linesBefore + linesAfter + 1);
     TableReader reader(file, layout, table);
@@ -118,7 +131,7 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     // Quotes could hold a line break across the split, so such files are read in one part.
     const bool twoParts = split < file.size() && !quotesBefore && !quotesAfter && layout.delimiter != 0
                           && table.allNumbers() && file.offset() <= split;
-    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, reader, error)
+    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, reader, cancelled, error)
                  : !reader.read()) {
         if (!twoParts)
             error = reader.error(name);

@@ -1,4 +1,5 @@
 #pragma once
+#include <atomic>
 #include <string>
 #include <vector>
 #include "platform/loaders/DataLoaderInterface.h"
@@ -32,7 +33,8 @@ protected:
 private:
     bool loadTable(const std::string& path, std::string& error);
     bool readInTwoParts(FileBlockReader& file, long long split, size_t firstRows, size_t laterRows,
-                        const TableLayout& layout, ColumnTable& table, TableReader& reader, std::string& error);
+                        const TableLayout& layout, ColumnTable& table, TableReader& reader,
+                        const std::atomic<bool>& cancelled, std::string& error);
 
     std::string m_summary;
     long long m_twoPartsFrom = 8 << 20;

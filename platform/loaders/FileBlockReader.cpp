@@ -128,6 +128,10 @@ bool FileBlockReader::read(char* buffer, size_t capacity, size_t& got, std::stri
     if (capacity > 0 && !readAt(m_offset, buffer, capacity, got, error))
         return false;
     m_offset += static_cast<long long>(got);
+    if (got > 0 && m_blockHook && !m_blockHook(m_offset)) {
+        error = "Loading " + m_displayName + " was cancelled.";
+        return false;
+    }
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstddef>
+#include <functional>
 #include <string>
 
 namespace orrery {
@@ -23,12 +24,18 @@ public:
     bool open(const std::string& path, std::string& error);
     // Reads the bytes [begin, end) of the file other has open.
     bool share(const FileBlockReader& other, long long begin, long long end, std::string& error);
-    // Up to capacity bytes into buffer; got is 0 at the end of the file or part.
+    // Called with the offset reached after each block read() hands out;
+    // returning false cancels the read.
+    typedef std::function<bool(long long offset)> BlockHook;
+    void setBlockHook(BlockHook hook) { m_blockHook = std::move(hook); }
+    // Up to capacity bytes into buffer; got is 0 at the end of the file or
+    // part. False with error set on a read error or a cancelled read.
     bool read(char* buffer, size_t capacity, size_t& got, std::string& error);
     // Back to the first byte of the part.
     void rewind() { m_offset = m_begin; }
     // Later reads stop at end.
     void endAt(long long end) { m_end = end; }
+    long long end() const { return m_end; }
     // Where the next read starts.
     long long offset() const { return m_offset; }
     // Line breaks in [begin, end), an upper bound of the rows there, and
@@ -54,6 +61,7 @@ private:
     long long m_offset = 0;
     long long m_end = ToEnd;
     std::string m_displayName;
+    BlockHook m_blockHook;
 };
 
 } // namespace sdk

@@ -14,6 +14,7 @@
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/CsvDataLoader.h"
 #include "platform/loaders/DataLoaderRepository.h"
+#include "platform/loaders/LoadProgress.h"
 #include "platform/loaders/NumberText.h"
 #include "tests/support/TestSupport.h"
 
@@ -406,6 +407,22 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
             EXPECT_EQ(oneError, error);
             EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
         }
+    }
+
+    // Progress is heard as the blocks come in, and cancelling stops both parts.
+    for (CsvDataLoader* loader : {&onePart, &twoParts}) {
+        std::vector<std::uint64_t> reports;
+        LoadProgress::setHandler([&](std::uint64_t done, std::uint64_t total) {
+            EXPECT_EQ(content.size(), total);
+            reports.push_back(done);
+            return reports.size() < 2;
+        });
+        EXPECT_FALSE(loadWith(*loader, write("cancelled.csv", content)));
+        LoadProgress::setHandler({});
+        EXPECT_EQ("Loading cancelled.csv was cancelled.", error);
+        ASSERT_EQ(2u, reports.size());
+        EXPECT_LT(reports[0], reports[1]);
+        EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
     }
 }
 
