@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <QFontMetrics>
 #include <QObject>
 #include <QPainter>
 #include <QPainterPath>
+#include "demo/AxisTicks.h"
 #include "demo/HostStyle.h"
+#include "platform/kernel/Kernel.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace {
@@ -45,6 +48,13 @@ bool isValue(double v)
     return std::isfinite(v);
 }
 
+const std::vector<std::string>& categories(int var)
+{
+    static const std::vector<std::string> none;
+    const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
+    return data.hasVar(var) ? data.categories(var) : none;
+}
+
 // The colour of each point of one zone's layer.
 class Colouring
 {
@@ -70,6 +80,7 @@ public:
     }
 
     bool varies() const { return m_kind != Kind::Fixed; }
+    bool ramped() const { return m_kind == Kind::Ramp; }
     QRgb fixed() const { return m_fixed; }
 
     QRgb at(long i) const
@@ -236,6 +247,7 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         QPointF from, delta;
     };
     std::vector<Arrow> arrows;
+    bool rampedByContour = false;
     painter.save();
     painter.setClipRect(area);
     for (int zone = 1; zone <= zones; ++zone) {
@@ -257,6 +269,7 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         };
 
         const Colouring meshColour(int(HostStyle::integer("FieldMap/Mesh/Color", zone)), zone, contourVar);
+        rampedByContour = rampedByContour || meshColour.ramped();
         if (lines) {
             painter.setPen(QPen(QColor(meshColour.fixed()), 2));
             QPainterPath path;
@@ -368,6 +381,35 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         }
     }
     painter.restore();
+    if (rampedByContour)
+        paintCategoryLegend(painter, plot, contourVar);
+}
+
+void PlotPainter::paintCategoryLegend(QPainter& painter, const QRectF& plot, int var) const
+{
+    const std::vector<std::string>& names = categories(var);
+    double min = 0, max = 0;
+    if (names.empty() || names.size() > AxisTicks::MaxNamed || !OrrUtilVarGetMinMax(var, &min, &max))
+        return;
+    const QFontMetrics metrics(painter.font());
+    const int row = metrics.height() + 2;
+    int width = 0;
+    for (const std::string& name : names)
+        width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(name)));
+    const QRectF box(plot.right() - width - 30, plot.top() + 4, width + 26, row * double(names.size()) + 6);
+    painter.save();
+    painter.setPen(QColor(120, 120, 120));
+    painter.setBrush(QColor(255, 255, 255, 220));
+    painter.drawRect(box);
+    for (size_t k = 0; k < names.size(); ++k) {
+        const double y = box.top() + 3 + row * double(k);
+        painter.fillRect(QRectF(box.left() + 5, y + 3, 10, row - 6),
+                         QColor(ramp((double(k + 1) - min) / (max > min ? max - min : 1.0))));
+        painter.setPen(Qt::black);
+        painter.drawText(QRectF(box.left() + 20, y, width + 4, row), Qt::AlignLeft | Qt::AlignVCenter,
+                         QString::fromStdString(names[k]));
+    }
+    painter.restore();
 }
 
 void PlotPainter::paintFrame2D(QPainter& painter, const QRectF& plot, const Axis& x, const Axis& y) const
@@ -375,17 +417,18 @@ void PlotPainter::paintFrame2D(QPainter& painter, const QRectF& plot, const Axis
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(plot);
-    const int ticks = 4;
-    for (int t = 0; t <= ticks; ++t) {
-        const double f = double(t) / ticks;
-        const double px = plot.left() + f * plot.width();
-        const double py = plot.bottom() - f * plot.height();
+    const QFontMetrics metrics(painter.font());
+    for (const AxisTicks::Tick& tick : AxisTicks::of(x.min, x.max, categories(x.var))) {
+        const double px = plot.left() + (tick.value - x.min) / (x.max - x.min) * plot.width();
         painter.drawLine(QPointF(px, plot.bottom()), QPointF(px, plot.bottom() + 4));
-        painter.drawLine(QPointF(plot.left() - 4, py), QPointF(plot.left(), py));
         painter.drawText(QRectF(px - 40, plot.bottom() + 5, 80, 16), Qt::AlignHCenter | Qt::AlignTop,
-                         QString::number(x.min + f * (x.max - x.min), 'g', 4));
+                         metrics.elidedText(tick.label, Qt::ElideRight, 80));
+    }
+    for (const AxisTicks::Tick& tick : AxisTicks::of(y.min, y.max, categories(y.var))) {
+        const double py = plot.bottom() - (tick.value - y.min) / (y.max - y.min) * plot.height();
+        painter.drawLine(QPointF(plot.left() - 4, py), QPointF(plot.left(), py));
         painter.drawText(QRectF(plot.left() - 70, py - 8, 64, 16), Qt::AlignRight | Qt::AlignVCenter,
-                         QString::number(y.min + f * (y.max - y.min), 'g', 4));
+                         metrics.elidedText(tick.label, Qt::ElideRight, 64));
     }
     painter.drawText(QRectF(plot.left(), plot.bottom() + 22, plot.width(), 18), Qt::AlignHCenter, x.name);
     painter.save();

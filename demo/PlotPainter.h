@@ -30,6 +30,8 @@ private:
     void paintField(QPainter& painter, const QRectF& area, bool threeD, bool lines) const;
     void paintFrame2D(QPainter& painter, const QRectF& plot, const Axis& x, const Axis& y) const;
     void paintBox3D(QPainter& painter, const Projection& projection, const Axis axes[3]) const;
+    // The names of the categories the points are coloured by, beside their colours.
+    void paintCategoryLegend(QPainter& painter, const QRectF& plot, int var) const;
     void paintMessage(QPainter& painter, const QRectF& area, const QString& text) const;
 
     double m_yaw;

@@ -201,6 +201,24 @@ TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNum
     EXPECT_FALSE(window.saveJournal(folder.path())) << "a folder cannot be written as a journal";
 }
 
+TEST_F(DemoHost, PointsColouredByCategoriesGetALegendOfTheirNames)
+{
+    std::string error;
+    ASSERT_TRUE(orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("CSV table")->load(
+        std::string(ORRERY_TEST_SAMPLES) + "/text-column.csv", error))
+        << error;
+    Kernel::setStyle({"TwoDAxis", "XDetail", "VarNum"}, 2L);
+    Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 3L);
+    PlotView view;
+    view.resize(400, 300);
+    // The first category's swatch, in the plot's top right corner.
+    const QRgb firstCategory = qRgb(0, 0, 127);
+    const auto swatchPixels = [&] { return pixelsOf(shown(view).copy(240, 20, 160, 80), firstCategory); };
+    EXPECT_EQ(0, swatchPixels()) << "plain colour: no legend";
+    Kernel::setStyle({"FieldMap", "Mesh", "Color"}, -1L, 1);
+    EXPECT_GT(swatchPixels(), 50);
+}
+
 TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
 {
     MainWindow window;
