@@ -32,6 +32,13 @@ AddonInputs& addonInputs()
     return inputs;
 }
 
+// Before a variable dialog opens: a dialog of its own, and a fresh record.
+void prepareVariableDialog()
+{
+    SelectionPrompts::dropVariableDialog();
+    styleWrites.start();
+}
+
 } // namespace
 
 void SelectionPrompts::dropVariableDialog()
@@ -41,8 +48,7 @@ void SelectionPrompts::dropVariableDialog()
 
 VariableSelectDialog* SelectionPrompts::openAxisVariables(QWidget& parent)
 {
-    dropVariableDialog();
-    styleWrites.start();
+    prepareVariableDialog();
     return AxisVariableSelectDialog::getInstance(parent);
 }
 
@@ -53,8 +59,7 @@ void SelectionPrompts::driveAxisVariables(VariableSelectDialog& d)
 
 VariableSelectDialog* SelectionPrompts::openVectorVariables(QWidget& parent)
 {
-    dropVariableDialog();
-    styleWrites.start();
+    prepareVariableDialog();
     return VectorVariableSelectDialog::getInstance(parent, OrrUtilFrameGetPlotType());
 }
 
@@ -65,8 +70,7 @@ void SelectionPrompts::driveVectorVariables(VariableSelectDialog& d)
 
 VariableSelectDialog* SelectionPrompts::openRGBVariables(QWidget& parent)
 {
-    dropVariableDialog();
-    styleWrites.start();
+    prepareVariableDialog();
     return RGBVariableSelectDialog::getInstance(parent);
 }
 
