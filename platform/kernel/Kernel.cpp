@@ -111,32 +111,28 @@ Frame* Kernel::frameByID(long uniqueID)
 
 void Kernel::setEnabledZones(const toolbox::Set& zones)
 {
-    Frame* frame = currentFrame();
-    if (!frame)
-        return;
-    toolbox::Set kept;
-    for (int zone : zones)
-        if (m_dataSet.hasZone(zone))
-            kept.add(zone);
-    if (kept == frame->enabledZones)
-        return;
-    frame->enabledZones = kept;
-    announce(StateChange_EnabledZonesChanged);
+    setEnabled(&Frame::enabledZones, zones, &DataSet::hasZone, StateChange_EnabledZonesChanged);
 }
 
 void Kernel::setEnabledVars(const toolbox::Set& vars)
+{
+    setEnabled(&Frame::enabledVars, vars, &DataSet::hasVar, StateChange_EnabledVarsChanged);
+}
+
+void Kernel::setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,
+                        StateChange_e code)
 {
     Frame* frame = currentFrame();
     if (!frame)
         return;
     toolbox::Set kept;
-    for (int var : vars)
-        if (m_dataSet.hasVar(var))
-            kept.add(var);
-    if (kept == frame->enabledVars)
+    for (int index : wanted)
+        if ((m_dataSet.*exists)(index))
+            kept.add(index);
+    if (kept == frame->*enabled)
         return;
-    frame->enabledVars = kept;
-    announce(StateChange_EnabledVarsChanged);
+    frame->*enabled = kept;
+    announce(code);
 }
 
 StyleDatum Kernel::currentStyle(const std::string& key, long member) const
