@@ -9,7 +9,21 @@ namespace kernel {
 
 namespace {
 const char* const PlotTypeKey = "FrameLayout/PlotType";
+
+// Puts the style back as an undo or redo step says and journals the step;
+// false when there was no step to take.
+bool takeStep(const UndoStack::Step& step, bool undoing, StyleAccess& style, Journal& journal)
+{
+    style.restore(step, undoing);
+    if (step.empty())
+        return false;
+    if (undoing)
+        journal.recordUndo();
+    else
+        journal.recordRedo();
+    return true;
 }
+} // namespace
 
 Kernel& Kernel::instance()
 {
@@ -171,20 +185,12 @@ void Kernel::axisRange(const std::string& axisKey, double& min, double& max) con
 
 bool Kernel::undo()
 {
-    const UndoStack::Step step = m_undo.undo();
-    m_style.restore(step, true);
-    if (!step.empty())
-        m_journal.recordUndo();
-    return !step.empty();
+    return takeStep(m_undo.undo(), true, m_style, m_journal);
 }
 
 bool Kernel::redo()
 {
-    const UndoStack::Step step = m_undo.redo();
-    m_style.restore(step, false);
-    if (!step.empty())
-        m_journal.recordRedo();
-    return !step.empty();
+    return takeStep(m_undo.redo(), false, m_style, m_journal);
 }
 
 void Kernel::announce(StateChange_e code, const toolbox::StringList& stylePath) const
