@@ -9,7 +9,21 @@ namespace kernel {
 
 namespace {
 const char* const PlotTypeKey = "FrameLayout/PlotType";
+
+// Puts the style back as an undo or redo step says and journals the step;
+// false when there was no step to take.
+bool takeStep(const UndoStack::Step& step, bool undoing, StyleAccess& style, Journal& journal)
+{
+    style.restore(step, undoing);
+    if (step.empty())
+        return false;
+    if (undoing)
+        journal.recordUndo();
+    else
+        journal.recordRedo();
+    return true;
 }
+} // namespace
 
 Kernel& Kernel::instance()
 {
@@ -111,32 +125,28 @@ Frame* Kernel::frameByID(long uniqueID)
 
 void Kernel::setEnabledZones(const toolbox::Set& zones)
 {
-    Frame* frame = currentFrame();
-    if (!frame)
-        return;
-    toolbox::Set kept;
-    for (int zone : zones)
-        if (m_dataSet.hasZone(zone))
-            kept.add(zone);
-    if (kept == frame->enabledZones)
-        return;
-    frame->enabledZones = kept;
-    announce(StateChange_EnabledZonesChanged);
+    setEnabled(&Frame::enabledZones, zones, &DataSet::hasZone, StateChange_EnabledZonesChanged);
 }
 
 void Kernel::setEnabledVars(const toolbox::Set& vars)
+{
+    setEnabled(&Frame::enabledVars, vars, &DataSet::hasVar, StateChange_EnabledVarsChanged);
+}
+
+void Kernel::setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,
+                        StateChange_e code)
 {
     Frame* frame = currentFrame();
     if (!frame)
         return;
     toolbox::Set kept;
-    for (int var : vars)
-        if (m_dataSet.hasVar(var))
-            kept.add(var);
-    if (kept == frame->enabledVars)
+    for (int index : wanted)
+        if ((m_dataSet.*exists)(index))
+            kept.add(index);
+    if (kept == frame->*enabled)
         return;
-    frame->enabledVars = kept;
-    announce(StateChange_EnabledVarsChanged);
+    frame->*enabled = kept;
+    announce(code);
 }
 
 StyleDatum Kernel::currentStyle(const std::string& key, long member) const
@@ -175,20 +185,12 @@ void Kernel::axisRange(const std::string& axisKey, double& min, double& max) con
 
 bool Kernel::undo()
 {
-    const UndoStack::Step step = m_undo.undo();
-    m_style.restore(step, true);
-    if (!step.empty())
-        m_journal.recordUndo();
-    return !step.empty();
+    return takeStep(m_undo.undo(), true, m_style, m_journal);
 }
 
 bool Kernel::redo()
 {
-    const UndoStack::Step step = m_undo.redo();
-    m_style.restore(step, false);
-    if (!step.empty())
-        m_journal.recordRedo();
-    return !step.empty();
+    return takeStep(m_undo.redo(), false, m_style, m_journal);
 }
 
 void Kernel::announce(StateChange_e code, const toolbox::StringList& stylePath) const

@@ -72,6 +72,10 @@ private:
     void addFrame();
     void useWholeDataSet(Frame& frame) const;
     void clearLostVariables(Frame& frame);
+    // Enables those of the wanted zones or variables that exist in the current
+    // frame; announces the change only when the enabled set changed.
+    void setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,
+                    StateChange_e code);
     void axisRange(const std::string& axisKey, double& min, double& max) const;
 
     StyleSchema m_schema;

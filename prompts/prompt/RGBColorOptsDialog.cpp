@@ -1,14 +1,12 @@
 #include "prompts/prompt/RGBColorOptsDialog.h"
 
-#include <boost/make_shared.hpp>
-#include <boost/ptr_container/ptr_vector.hpp>
 #include "core/propertybindings/ComboBoxPropertyBinding.h"
 #include "framework/LaunchHelpAction.h"
-#include "framework/RelevanceApplier.h"
 #include "framework/SpinBoxDoublePropertyBinding.h"
 #include "prompts/propertymanager/IntensitySpinBoxIncDecCalculator.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesManager.h"
+#include "prompts/prompt/StyleSetDialogParts.h"
 #include "ui_RGBColorOpts.h"
 
 namespace orrery {
@@ -19,15 +17,10 @@ namespace pb = sdk::ui::dialogs::propertybindings;
 namespace pm = sdk::ui::propertymanager;
 
 struct RGBColorOptsDialog::Impl
+    : StyleSetDialogParts<::Ui::RGBColorOpts, pm::RGBColorOptsPropertiesGenerated, pm::RGBColorOptsPropertiesManager>
 {
-    explicit Impl(QDialog& dialog)
+    explicit Impl(QDialog& dialog) : StyleSetDialogParts(dialog)
     {
-        ui.setupUi(&dialog);
-        // A modeless dialog edits the style directly; a modal one would
-        // collect the edits until submitted.
-        generated = boost::make_shared<pm::RGBColorOptsPropertiesGenerated>(
-            dialog.windowModality() != Qt::NonModal, toolbox::StringList());
-        manager.reset(new pm::RGBColorOptsPropertiesManager(generated));
         bindPropertiesToControls(ui, *generated);
         bindRelevanciesToControls(ui);
     }
@@ -63,11 +56,6 @@ struct RGBColorOptsDialog::Impl
                                                         pb::BindingInterface::WidgetUpdateMode_OnIdle));
     }
 
-    ::Ui::RGBColorOpts ui;
-    boost::shared_ptr<pm::RGBColorOptsPropertiesGenerated> generated;
-    std::unique_ptr<pm::RGBColorOptsPropertiesManager> manager;
-    boost::ptr_vector<pb::BindingInterface> bindings;
-    boost::ptr_vector<pb::RelevanceApplier> appliers;
 };
 
 RGBColorOptsDialog* RGBColorOptsDialog::getInstance(QWidget& parent)

@@ -1,6 +1,5 @@
 #include "prompts/prompt/ScatterSizeFontDialog.h"
 
-#include <boost/ptr_container/ptr_vector.hpp>
 #include <boost/signals2/connection.hpp>
 #include <QPushButton>
 #include "core/propertybindings/ComboBoxPropertyBinding.h"
@@ -9,9 +8,9 @@
 #include "framework/ButtonBinding.h"
 #include "framework/FontComboBoxPropertyBinding.h"
 #include "framework/LaunchHelpAction.h"
-#include "framework/RelevanceApplier.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ScatterSizeFontPropertiesManager.h"
+#include "prompts/prompt/StyleSetDialogParts.h"
 #include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
 #include "ui_ScatterSizeFont.h"
 
@@ -23,14 +22,10 @@ namespace pb = sdk::ui::dialogs::propertybindings;
 namespace pm = sdk::ui::propertymanager;
 
 struct ScatterSizeFontDialog::Impl
+    : StyleSetDialogParts<Ui_ScatterSizeFont, pm::ScatterSizeFontPropertiesGenerated, ScatterSizeFontPropertiesManager>
 {
-    explicit Impl(ScatterSizeFontDialog& dialog)
+    explicit Impl(ScatterSizeFontDialog& dialog) : StyleSetDialogParts(dialog)
     {
-        ui.setupUi(&dialog);
-        // A modeless dialog edits the style directly.
-        generated.reset(
-            new pm::ScatterSizeFontPropertiesGenerated(dialog.windowModality() != Qt::NonModal, toolbox::StringList()));
-        manager.reset(new ScatterSizeFontPropertiesManager(*generated));
         QPushButton* recalculate = ui.scatterSizeFont_buttonBox->addButton(
             QCoreApplication::translate("ScatterSizeFont", "&Recalculate Size"), QDialogButtonBox::ActionRole);
         recalculate->setObjectName("scatterSizeFont_RecalculateSize_Button");
@@ -78,12 +73,7 @@ struct ScatterSizeFontDialog::Impl
                                                     {ui.scatterSizeFont_SizeCm_1Text}, sensitivity, onIdle));
     }
 
-    Ui_ScatterSizeFont ui;
-    boost::scoped_ptr<pm::ScatterSizeFontPropertiesGenerated> generated;
-    boost::scoped_ptr<ScatterSizeFontPropertiesManager> manager;
     boost::signals2::scoped_connection plotTypeChanged;
-    boost::ptr_vector<pb::BindingInterface> bindings;
-    boost::ptr_vector<pb::RelevanceApplier> appliers;
 };
 
 ScatterSizeFontDialog* ScatterSizeFontDialog::getInstance(QWidget& parent)

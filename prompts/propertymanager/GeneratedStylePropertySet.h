@@ -75,11 +75,26 @@ private:
 } // namespace sdk
 } // namespace orrery
 
-// Declares the accessor, the setter and the entry of one generated style value.
-#define ORRERY_GENERATED_STYLE_ENTRY(T, accessor, setter)                                        \
+// The two constructors of a generated set: the virtual base takes the given
+// modality, or the parent (whose modality the set then shares).
+#define ORRERY_GENERATED_STYLE_SET(Set)                                                          \
+public:                                                                                          \
+    Set(bool modal, const toolbox::StringList& prefix)                                           \
+        : UIKernelStylePropertiesAbstract(modal), GeneratedStylePropertySet(prefix)              \
+    {                                                                                            \
+    }                                                                                            \
+    Set(UIKernelStylePropertiesAbstract* parent, const toolbox::StringList& prefix)              \
+        : UIKernelStylePropertiesAbstract(parent), GeneratedStylePropertySet(prefix)             \
+    {                                                                                            \
+    }
+
+// One style value of a generated set: its accessor, its setter, and its entry,
+// made from the style group and value name as the set is constructed (entries
+// are made in the order they are declared).
+#define ORRERY_GENERATED_STYLE_ENTRY(T, accessor, setter, group, name)                           \
 public:                                                                                          \
     boost::shared_ptr<PropertyAbstract<T>> accessor() const { return m_##accessor.property; }    \
     void setter(const boost::shared_ptr<PropertyAbstract<T>>& property) { m_##accessor.property = property; } \
                                                                                                  \
 private:                                                                                         \
-    GeneratedStyleEntry<T> m_##accessor;
+    GeneratedStyleEntry<T> m_##accessor = makeEntry<T>(group, name);

@@ -1,30 +1,19 @@
 #pragma once
 #include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
-namespace orrery {
-namespace sdk {
-namespace ui {
-namespace propertymanager {
+namespace orrery::sdk::ui::propertymanager {
 
 // The RGB colouring style values of a field plot.
 class RGBColorOptsPropertiesGenerated : public GeneratedStylePropertySet
 {
-public:
-    RGBColorOptsPropertiesGenerated(bool modal, const toolbox::StringList& prefix);
-    RGBColorOptsPropertiesGenerated(UIKernelStylePropertiesAbstract* parent, const toolbox::StringList& prefix);
+    ORRERY_GENERATED_STYLE_SET(RGBColorOptsPropertiesGenerated)
 
-    ORRERY_GENERATED_STYLE_ENTRY(RGBMode_e, rgbMode, setRgbMode)
-    ORRERY_GENERATED_STYLE_ENTRY(int, redVar, setRedVar)
-    ORRERY_GENERATED_STYLE_ENTRY(int, greenVar, setGreenVar)
-    ORRERY_GENERATED_STYLE_ENTRY(int, blueVar, setBlueVar)
-    ORRERY_GENERATED_STYLE_ENTRY(double, rangeMin, setRangeMin)
-    ORRERY_GENERATED_STYLE_ENTRY(double, rangeMax, setRangeMax)
-
-private:
-    void makeEntries();
+    ORRERY_GENERATED_STYLE_ENTRY(RGBMode_e, rgbMode, setRgbMode, "GlobalRGB", "RGBMode")
+    ORRERY_GENERATED_STYLE_ENTRY(int, redVar, setRedVar, "GlobalRGB", "RedChannelVar")
+    ORRERY_GENERATED_STYLE_ENTRY(int, greenVar, setGreenVar, "GlobalRGB", "GreenChannelVar")
+    ORRERY_GENERATED_STYLE_ENTRY(int, blueVar, setBlueVar, "GlobalRGB", "BlueChannelVar")
+    ORRERY_GENERATED_STYLE_ENTRY(double, rangeMin, setRangeMin, "GlobalRGB", "RangeMin")
+    ORRERY_GENERATED_STYLE_ENTRY(double, rangeMax, setRangeMax, "GlobalRGB", "RangeMax")
 };
 
-} // namespace propertymanager
-} // namespace ui
-} // namespace sdk
-} // namespace orrery
+} // namespace orrery::sdk::ui::propertymanager

@@ -2,33 +2,23 @@
 #include <string>
 #include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
-namespace orrery {
-namespace sdk {
-namespace ui {
-namespace propertymanager {
+namespace orrery::sdk::ui::propertymanager {
 
 // The scatter symbol size and font style values, and the line plot symbol font.
 class ScatterSizeFontPropertiesGenerated : public GeneratedStylePropertySet
 {
-public:
-    ScatterSizeFontPropertiesGenerated(bool modal, const toolbox::StringList& prefix);
-    ScatterSizeFontPropertiesGenerated(UIKernelStylePropertiesAbstract* parent, const toolbox::StringList& prefix);
+    ORRERY_GENERATED_STYLE_SET(ScatterSizeFontPropertiesGenerated)
 
-    ORRERY_GENERATED_STYLE_ENTRY(std::string, scatterFont, setScatterFont)
-    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterFontBold, setScatterFontBold)
-    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterFontItalic, setScatterFontItalic)
-    ORRERY_GENERATED_STYLE_ENTRY(int, scatterSizeVariable, setScatterSizeVariable)
-    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterSizeInGridUnits, setScatterSizeInGridUnits)
-    ORRERY_GENERATED_STYLE_ENTRY(double, scatterRelativeSize, setScatterRelativeSize)
-    ORRERY_GENERATED_STYLE_ENTRY(std::string, symbolFont, setSymbolFont)
-    ORRERY_GENERATED_STYLE_ENTRY(bool, symbolFontBold, setSymbolFontBold)
-    ORRERY_GENERATED_STYLE_ENTRY(bool, symbolFontItalic, setSymbolFontItalic)
-
-private:
-    void makeEntries();
+    ORRERY_GENERATED_STYLE_ENTRY(std::string, scatterFont, setScatterFont, "GlobalScatter", "BaseFontFamily")
+    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterFontBold, setScatterFontBold, "GlobalScatter", "BaseFontIsBold")
+    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterFontItalic, setScatterFontItalic, "GlobalScatter", "BaseFontIsItalic")
+    ORRERY_GENERATED_STYLE_ENTRY(int, scatterSizeVariable, setScatterSizeVariable, "GlobalScatter", "Var")
+    ORRERY_GENERATED_STYLE_ENTRY(bool, scatterSizeInGridUnits, setScatterSizeInGridUnits, "GlobalScatter",
+                                 "RelativeSizeInGridUnits")
+    ORRERY_GENERATED_STYLE_ENTRY(double, scatterRelativeSize, setScatterRelativeSize, "GlobalScatter", "RelativeSize")
+    ORRERY_GENERATED_STYLE_ENTRY(std::string, symbolFont, setSymbolFont, "GlobalLinePlot", "BaseFontFamily")
+    ORRERY_GENERATED_STYLE_ENTRY(bool, symbolFontBold, setSymbolFontBold, "GlobalLinePlot", "BaseFontIsBold")
+    ORRERY_GENERATED_STYLE_ENTRY(bool, symbolFontItalic, setSymbolFontItalic, "GlobalLinePlot", "BaseFontIsItalic")
 };
 
-} // namespace propertymanager
-} // namespace ui
-} // namespace sdk
-} // namespace orrery
+} // namespace orrery::sdk::ui::propertymanager

@@ -252,16 +252,20 @@ TEST_P(EveryDialog, ReachesEveryControlByTab)
             start = start->nextInFocusChain();
         ASSERT_NE(start, &dialog) << "nothing takes the focus";
         start->setFocus(Qt::TabFocusReason);
+        // One round of Tab visits each control once and comes back to the start.
         std::set<QWidget*> reached;
-        for (int i = 0; i < 200; ++i)
+        bool wrapped = false;
+        for (int i = 0; i < 200 && !wrapped; ++i)
         {
             QWidget* current = dialog.focusWidget();
             ASSERT_NE(current, nullptr) << "Tab lost the focus";
-            reached.insert(current);
+            ASSERT_TRUE(reached.insert(current).second)
+                << "Tab comes back to " << describe(*current).toStdString() << " before returning to "
+                << describe(*start).toStdString();
             QTest::keyClick(current, Qt::Key_Tab);
-            if (dialog.focusWidget() == start)
-                break;
+            wrapped = dialog.focusWidget() == start;
         }
+        EXPECT_TRUE(wrapped) << "Tab never returns to " << describe(*start).toStdString();
         for (QWidget* widget : dialog.findChildren<QWidget*>())
         {
             if (!shown(*widget, dialog) || !widget->isEnabled() || !interactive(*widget) || reached.count(widget))

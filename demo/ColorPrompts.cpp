@@ -1,0 +1,73 @@
+#include "demo/ColorPrompts.h"
+
+#include <QDialogButtonBox>
+#include <QTimer>
+#include <QToolButton>
+#include "demo/ColorButtonDemoDialog.h"
+#include "demo/DemoUser.h"
+#include "demo/SelectionPrompts.h"
+#include "prompts/prompt/ColorChooserDialog.h"
+
+ColorPrompts::ColorChooserDialog* ColorPrompts::openColorChooser(QWidget& parent)
+{
+    return ColorChooserDialog::getInstance(parent, true);
+}
+
+ColorPrompts::ColorChooserDialog* ColorPrompts::openColorChooserWithoutVarColoring(QWidget& parent)
+{
+    return ColorChooserDialog::getInstance(parent, false);
+}
+
+void ColorPrompts::pickGridColor(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("colorButton_12"));
+}
+
+void ColorPrompts::pickMultiColor(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("C3"));
+}
+
+void ColorPrompts::pickWhite(ColorChooserDialog& d)
+{
+    DemoUser::click(*d.findChild<QToolButton*>("colorButton_1"));
+}
+
+void ColorPrompts::pickRGB(ColorChooserDialog& d)
+{
+    SelectionPrompts::dropVariableDialog();
+    QTimer::singleShot(0, &d, [&d] {
+        for (QDialog* asked : d.findChildren<QDialog*>())
+            if (asked->isVisible())
+                DemoUser::press(*asked, QDialogButtonBox::Ok);
+    });
+    DemoUser::click(*d.findChild<QToolButton*>("RGB"));
+    if (d.isVisible()) // the variables were not given: the user gives up
+        DemoUser::press(d, QDialogButtonBox::Close);
+}
+
+QString ColorPrompts::colorChooserAnswers(ColorChooserDialog& d)
+{
+    return QString("color = %1 (%2)")
+        .arg(d.selectedColor())
+        .arg(QString::fromStdString(ColorChooserDialog::colorToString(d.selectedColor(), false)));
+}
+
+ColorButtonDemoDialog* ColorPrompts::openColorButton(QWidget& parent)
+{
+    return new ColorButtonDemoDialog(parent);
+}
+
+void ColorPrompts::driveColorButton(ColorButtonDemoDialog& d)
+{
+    QTimer::singleShot(0, &d, [] {
+        if (ColorChooserDialog* chooser = ColorChooserDialog::liveInstance())
+            DemoUser::click(*chooser->findChild<QToolButton*>("colorButton_4"));
+    });
+    DemoUser::click(*d.colorButton());
+}
+
+QString ColorPrompts::colorButtonAnswers(ColorButtonDemoDialog& d)
+{
+    return QString("mesh color of zone 1 = %1, button shows \"%2\"").arg(d.meshColor()).arg(d.colorButton()->text());
+}

@@ -1,0 +1,119 @@
+#include "demo/SimplePrompts.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QSpinBox>
+#include "demo/DemoUser.h"
+#include "platform/loaders/DataLoaderRepository.h"
+#include "prompts/prompt/AnchorAlignmentDialog.h"
+#include "prompts/prompt/ChooseLoaderDialog.h"
+#include "prompts/prompt/EnterASCIICharacterDialog.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
+
+namespace {
+
+// Texts the host hands to a dialog cross as Latin-1, which holds every
+// letter of the demo's translations.
+std::string translated(const char* text)
+{
+    return QCoreApplication::translate("DialogCatalog", text).toLatin1().toStdString();
+}
+
+QString yesNo(bool value)
+{
+    return value ? "yes" : "no";
+}
+
+} // namespace
+
+SimplePrompts::EnterTextStringDialog* SimplePrompts::openTextString(QWidget& parent)
+{
+    auto* dialog = new EnterTextStringDialog(parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
+                                             QCoreApplication::translate("DialogCatalog", "Frame 1"), "", false);
+    dialog->setModal(true); // the host runs this prompt modally; it sets no modality itself
+    return dialog;
+}
+
+void SimplePrompts::driveTextString(EnterTextStringDialog& d)
+{
+    DemoUser::typeInto(*d.findChild<QLineEdit*>("EnterTextString_lineEdit"), "Pressure over time");
+}
+
+QString SimplePrompts::textStringAnswers(EnterTextStringDialog& d)
+{
+    return QString("text = \"%1\"").arg(d.text());
+}
+
+SimplePrompts::EnterThreeIntValuesDialog* SimplePrompts::openThreeInts(QWidget& parent)
+{
+    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, translated(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
+                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
+}
+
+void SimplePrompts::driveThreeInts(EnterThreeIntValuesDialog& d)
+{
+    DemoUser::typeInto(*d.findChild<QSpinBox*>("value2"), "250");
+    DemoUser::typeInto(*d.findChild<QSpinBox*>("value3"), "5");
+    DemoUser::moveFocusTo(*d.findChild<QSpinBox*>("value1"));
+}
+
+QString SimplePrompts::threeIntsAnswers(EnterThreeIntValuesDialog& d)
+{
+    return QString("values = %1, %2, %3").arg(d.value1()).arg(d.value2()).arg(d.value3());
+}
+
+SimplePrompts::EnterASCIICharacterDialog* SimplePrompts::openAsciiCharacter(QWidget& parent)
+{
+    return EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Greek);
+}
+
+void SimplePrompts::driveAsciiCharacter(EnterASCIICharacterDialog& d)
+{
+    DemoUser::typeInto(*d.findChild<QLineEdit*>("selectedCharacter_lineEdit"), "q");
+    DemoUser::click(*d.findChild<QRadioButton*>("useGreekFont_RadioButton"));
+}
+
+QString SimplePrompts::asciiCharacterAnswers(EnterASCIICharacterDialog& d)
+{
+    return QString("character = '%1', type face = %2, base font = %3")
+        .arg(QString::fromStdString(d.selectedChar()))
+        .arg(int(d.typeFaceOverride()))
+        .arg(yesNo(d.useBaseFont()));
+}
+
+SimplePrompts::AnchorAlignmentDialog* SimplePrompts::openAnchorAlignment(QWidget& parent)
+{
+    return AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomLeft, parent);
+}
+
+void SimplePrompts::driveAnchorAlignment(AnchorAlignmentDialog& d)
+{
+    DemoUser::click(*d.findChild<QRadioButton*>("anchorAlignment_MiddleCenter_RadioButton"));
+}
+
+QString SimplePrompts::anchorAlignmentAnswers(AnchorAlignmentDialog& d)
+{
+    return QString("alignment = %1").arg(int(d.selectedAlignment()));
+}
+
+SimplePrompts::ChooseLoaderDialog* SimplePrompts::openLoaderChooser(QWidget& parent)
+{
+    return ChooseLoaderDialog::getInstance(
+        parent, orrery::sdk::DataLoaderRepository::getInstance().loadersForExtension("dat"), {".dat"});
+}
+
+void SimplePrompts::driveLoaderChooser(ChooseLoaderDialog& d)
+{
+    DemoUser::selectRow(*d.findChild<QListView*>("LoadersList"), "Text table");
+}
+
+QString SimplePrompts::loaderChooserAnswers(ChooseLoaderDialog& d)
+{
+    const ChooseLoaderDialog::LoaderPtr loader = d.selectedLoader();
+    return QString("loader = %1").arg(loader ? QString::fromStdString(loader->properties().name) : "(none)");
+}

@@ -1,0 +1,48 @@
+#include "demo/StyleWrites.h"
+
+#include <sstream>
+#include <variant>
+#include "platform/kernel/KernelTestSupport.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/StateChangeEventObservable.h"
+
+void StyleWrites::start()
+{
+    m_paths.clear();
+    m_connection = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
+        [this](const orrery::sdk::integration::StateChangeEventInterface& event) {
+            const QString path = QString::fromStdString(event.stylePath().join("/"));
+            if (event.code() == StateChange_Style && !m_paths.contains(path))
+                m_paths << path;
+        });
+}
+
+QString StyleWrites::report()
+{
+    m_connection.disconnect();
+    QStringList lines;
+    for (const QString& path : m_paths)
+        lines << QString("%1 = %2").arg(path, valueAt(path));
+    return lines.isEmpty() ? QString("no style written") : "wrote " + lines.join(", ");
+}
+
+QString StyleWrites::valueAt(const QString& path)
+{
+    orrery::toolbox::StringList names;
+    for (const QString& name : path.split('/'))
+        names.append(name.toStdString());
+    try
+    {
+        return std::visit(
+            [](const auto& value) {
+                std::ostringstream text;
+                text << value;
+                return QString::fromStdString(text.str());
+            },
+            orrery::kernel::testing::KernelTestSupport::styleValue(names));
+    }
+    catch (const std::exception&)
+    {
+        return "?";
+    }
+}
