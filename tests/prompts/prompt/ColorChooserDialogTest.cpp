@@ -91,7 +91,7 @@ TEST_F(ColorChooserDialogTest, GridShowsBasicColorsFirstThenCustomColorsByPositi
     }
 }
 
-TEST_F(ColorChooserDialogTest, ClickingASwatchAnswersItsColorAndClosesTheDialog)
+TEST_F(ColorChooserDialogTest, ClickingASwatchAnswersItsColorAndClosesTheDialogCloseKeepsThatAnswer)
 {
     ColorChooserDialog* dialog = chooser();
     user::click(swatch(*dialog, 1));
@@ -99,9 +99,12 @@ TEST_F(ColorChooserDialogTest, ClickingASwatchAnswersItsColorAndClosesTheDialog)
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_FALSE(dialog->isVisible());
 
-    ColorChooserDialog::getInstance(parent, true);
-    user::open(*dialog);
+    chooser();
     user::click(swatch(*dialog, 63));
+    EXPECT_EQ(dialog->selectedColor(), 63);
+    chooser();
+    user::press(*dialog, QDialogButtonBox::Close);
+    EXPECT_EQ(dialog->result(), QDialog::Rejected);
     EXPECT_EQ(dialog->selectedColor(), 63);
 }
 
@@ -117,16 +120,6 @@ TEST_F(ColorChooserDialogTest, MultiButtonsAnswerTheHostsMultiIndices)
         EXPECT_EQ(dialog->selectedColor(), expected[i]);
         EXPECT_EQ(ColorChooserDialog::colorToString(expected[i], false), i == 0 ? "Multi" : "Multi" + std::to_string(i + 1));
     }
-}
-
-TEST_F(ColorChooserDialogTest, CloseKeepsThePreviousAnswerAndRejects)
-{
-    ColorChooserDialog* dialog = chooser();
-    user::click(swatch(*dialog, 2));
-    chooser();
-    user::press(*dialog, QDialogButtonBox::Close);
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
-    EXPECT_EQ(dialog->selectedColor(), 1);
 }
 
 TEST_F(ColorChooserDialogTest, ColorNamesCoverTheWholeTableInBothForms)
@@ -171,17 +164,7 @@ TEST_F(ColorChooserDialogTest, VarColoringCanBeDisabledPerCallWhileTheGridStaysU
     dialog->setParent(&parent); // otherParent goes first
 }
 
-TEST_F(ColorChooserDialogTest, RGBWithAssignedChannelVariablesAnswersRGBColoringAtOnce)
-{
-    assignRGBChannels(3, 4, 5);
-    ColorChooserDialog* dialog = chooser();
-    user::click(button(*dialog, "RGB"));
-    EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(dialog->selectedColor(), -6);
-    EXPECT_FALSE(dialog->isVisible());
-}
-
-TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAsksForThemAndDecliningStoresNothing)
+TEST_F(ColorChooserDialogTest, RGBAsksForChannelVariablesOnlyWhenNoneAreAssignedAndDecliningStoresNothing)
 {
     ColorChooserDialog* dialog = chooser();
     user::click(swatch(*dialog, 2));
@@ -194,12 +177,8 @@ TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAsksForThemAndDeclining
     EXPECT_EQ(dialog->selectedColor(), 1);
     EXPECT_EQ(Kernel::styleWriteCount(), 0);
     EXPECT_TRUE(messageTexts().empty());
-}
 
-TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAnswersRGBColoringOnceTheyAreChosen)
-{
-    ColorChooserDialog* dialog = chooser();
-    bool asked = false;
+    asked = false;
     answerVariableDialog(*dialog, QDialogButtonBox::Ok, asked);
     user::click(button(*dialog, "RGB"));
     EXPECT_TRUE(asked);
@@ -207,6 +186,14 @@ TEST_F(ColorChooserDialogTest, RGBWithoutChannelVariablesAnswersRGBColoringOnceT
     EXPECT_EQ(dialog->selectedColor(), -6);
     for (const char* channel : {"RedChannelVar", "GreenChannelVar", "BlueChannelVar"})
         EXPECT_NE(styleValue<long>({"GlobalRGB", channel}), 0) << channel;
+
+    // Once assigned, RGB answers at once.
+    assignRGBChannels(3, 4, 5);
+    chooser();
+    user::click(button(*dialog, "RGB"));
+    EXPECT_EQ(dialog->result(), QDialog::Accepted);
+    EXPECT_EQ(dialog->selectedColor(), -6);
+    EXPECT_FALSE(dialog->isVisible());
 }
 
 } // namespace
