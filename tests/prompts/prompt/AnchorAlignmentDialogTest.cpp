@@ -99,18 +99,4 @@ TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndALaterGetInstan
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
 }
 
-TEST_F(AnchorAlignmentDialogTest, AFreshDialogIsBuiltAfterTheLiveOneIsDestroyed)
-{
-    auto* parentOfFirst = new QWidget;
-    QPointer<AnchorAlignmentDialog> first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, *parentOfFirst);
-    delete parentOfFirst;
-    EXPECT_TRUE(first.isNull());
-    EXPECT_EQ(AnchorAlignmentDialog::liveInstance(), nullptr);
-
-    AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_MiddleRight, parent);
-    ASSERT_NE(second, nullptr);
-    EXPECT_EQ(second->parentWidget(), &parent);
-    EXPECT_EQ(checked(*second), AnchorAlignment_MiddleRight);
-}
-
 } // namespace
