@@ -52,6 +52,13 @@ int blendedPixels(const QImage& image)
     return count;
 }
 
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
 class DemoHost : public SampleKernelTest
 {
 protected:
@@ -187,10 +194,7 @@ TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNum
     EXPECT_TRUE(action(window, "viewShowVectors").isChecked());
 
     const QString bad = QDir(folder.path()).filePath("bad.orj");
-    QFile file(bad);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("style FrameLayout/PlotType 1\nstyle FrameLayout/PlotType 9\nstyle FieldLayers/ShowVector false\n");
-    file.close();
+    writeFile(bad, "style FrameLayout/PlotType 1\nstyle FrameLayout/PlotType 9\nstyle FieldLayers/ShowVector false\n");
     EXPECT_FALSE(window.replayJournal(bad));
     ASSERT_EQ(testsupport::messageTexts().size(), 1u);
     EXPECT_NE(testsupport::messageTexts().front().find(bad.toStdString() + ", line 2: the kernel refused"),
@@ -240,10 +244,7 @@ TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
     Kernel::loadSampleDataSet();
     QTemporaryDir folder;
     const QString broken = QDir(folder.path()).filePath("broken.vtk");
-    QFile file(broken);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("# vtk DataFile Version 3.0\nx\nASCII\nDATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1\n");
-    file.close();
+    writeFile(broken, "# vtk DataFile Version 3.0\nx\nASCII\nDATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1\n");
     EXPECT_FALSE(window.loadFile(broken));
     ASSERT_EQ(testsupport::messageTexts().size(), 1u);
     EXPECT_NE(testsupport::messageTexts().front().find("broken.vtk, line "), std::string::npos)

@@ -15,68 +15,18 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
-#include <boost/make_shared.hpp>
 #include <functional>
 #include <map>
 #include <set>
-#include "core/property/Property.h"
 #include "demo/TextFit.h"
 #include "demo/Translations.h"
-#include "platform/loaders/DataLoaderRepository.h"
-#include "prompts/prompt/AddonsVariableSelectDialog.h"
-#include "prompts/prompt/AnchorAlignmentDialog.h"
-#include "prompts/prompt/AxisVariableSelectDialog.h"
-#include "prompts/prompt/ChooseLoaderDialog.h"
-#include "prompts/prompt/ColorChooserDialog.h"
-#include "prompts/prompt/EnterASCIICharacterDialog.h"
-#include "prompts/prompt/EnterTextStringDialog.h"
-#include "prompts/prompt/EnterThreeIntValuesDialog.h"
-#include "prompts/prompt/RGBColorOptsDialog.h"
-#include "prompts/prompt/ScatterSizeFontDialog.h"
-#include "prompts/prompt/ZoneSelectDialog.h"
+#include "tests/support/EveryDialog.h"
 #include "tests/support/TestSupport.h"
 
-using namespace orrery::dialogs::prompt;
 using orrery::dialogs::common::QtDialogAbstract;
 using testsupport::Kernel;
 
 namespace {
-
-struct Opener
-{
-    const char* name;
-    std::function<QtDialogAbstract*(QWidget&)> open;
-};
-
-std::vector<Opener> everyDialog()
-{
-    auto var = [](int v) { return boost::make_shared<orrery::Property<int>>(v); };
-    return {
-        {"text string", [](QWidget& p) { return new EnterTextStringDialog(p, "", "Frame 1", "", false); }},
-        {"three integer values",
-         [](QWidget& p) {
-             return EnterThreeIntValuesDialog::getInstance(p, 1, 10, 1, "Index Range", "", "&Begin", "&End", "&Skip",
-                                                           1, 1, 1);
-         }},
-        {"ASCII character", [](QWidget& p) { return EnterASCIICharacterDialog::getInstance(p, "A", true, Font_Greek); }},
-        {"anchor alignment", [](QWidget& p) { return AnchorAlignmentDialog::getInstance(AnchorAlignment_MiddleCenter, p); }},
-        {"loader chooser",
-         [](QWidget& p) {
-             return ChooseLoaderDialog::getInstance(
-                 p, orrery::sdk::DataLoaderRepository::getInstance().loadersForExtension("dat"), {".dat"});
-         }},
-        {"colour chooser", [](QWidget& p) { return ColorChooserDialog::getInstance(p, true); }},
-        {"RGB colouring options", [](QWidget& p) { return RGBColorOptsDialog::getInstance(p); }},
-        {"scatter size and font", [](QWidget& p) { return ScatterSizeFontDialog::getInstance(p); }},
-        {"zone selection", [](QWidget& p) { return ZoneSelectDialog::getInstance(p, 1); }},
-        {"axis variables", [](QWidget& p) { return AxisVariableSelectDialog::getInstance(p); }},
-        {"add-on variables",
-         [var](QWidget& p) {
-             return AddonsVariableSelectDialog::getInstance(p, "Choose the inputs.", "&First:", "&Second:",
-                                                            "&Third:", var(1), var(2), var(3));
-         }},
-    };
-}
 
 bool shown(const QWidget& widget, const QWidget& dialog)
 {
@@ -151,7 +101,7 @@ protected:
     // cancels it.
     void forEachDialog(const std::function<void(QtDialogAbstract&)>& check)
     {
-        for (const Opener& opener : everyDialog())
+        for (const everydialog::Opener& opener : everydialog::openers())
         {
             SCOPED_TRACE(opener.name);
             QtDialogAbstract* dialog = opener.open(parent);
@@ -167,8 +117,7 @@ protected:
             dialog->launch();
             while (!checked)
                 QCoreApplication::processEvents();
-            if (!dialog->parent())
-                delete dialog;
+            delete dialog; // the variable dialogs share one instance, rebuilt for each kind
         }
     }
 

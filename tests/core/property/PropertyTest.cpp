@@ -60,15 +60,12 @@ TEST(PropertySetValue, OnlyAValidChangeIsStoredAndTheValueReadBackIsAnnouncedOnB
     EXPECT_EQ(std::vector<long>{7}, rec.values);
     EXPECT_EQ(1, untyped);
 
-    // The untyped signal alone, and nothing after disconnecting.
+    // The untyped signal with no typed listener.
     Property<std::string> s("a");
     int calls = 0;
     boost::signals2::scoped_connection c = s.connectToPropertyChangedSignal([&] { ++calls; });
     s.setValue("a");
     s.setValue("b");
-    EXPECT_EQ(1, calls);
-    c.disconnect();
-    s.setValue("c");
     EXPECT_EQ(1, calls);
 
     // A store that adjusts the value, as a kernel would: the value read back is announced.

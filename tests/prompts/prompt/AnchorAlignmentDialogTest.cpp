@@ -1,4 +1,3 @@
-#include <QFrame>
 #include "tests/prompts/prompt/DialogTestSupport.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 
@@ -36,7 +35,6 @@ TEST_F(AnchorAlignmentDialogTest, LayoutContract)
     AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
     contract::expectWidgets(*dialog, {
         {"AnchorAlignment", "orrery::dialogs::prompt::AnchorAlignmentDialog", "Anchor Alignment"},
-        {"frame", "QFrame", nullptr},
         {"anchorAlignment_Top_Static", "QLabel", "Top"},
         {"anchorAlignment_Middle_Static", "QLabel", "Middle"},
         {"anchorAlignment_Bottom_Static", "QLabel", "Bottom"},
@@ -46,33 +44,10 @@ TEST_F(AnchorAlignmentDialogTest, LayoutContract)
         {"buttonBox", "QDialogButtonBox", nullptr},
     });
     for (int a = 0; a < 9; ++a)
-    {
         contract::expectWidgets(*dialog, {{ButtonNames[a], "QRadioButton", ""}});
-        contract::expectGrid(*dialog, {{"gridLayout1", ButtonNames[a], a / 3, a % 3 + 1, 1, 1}});
-        EXPECT_EQ(button(*dialog, a)->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    }
-    contract::expectGrid(*dialog, {
-        {"gridLayout", "frame", 0, 0, 1, 2},
-        {"gridLayout", "buttonBox", 2, 1, 1, 1},
-        {"gridLayout1", "anchorAlignment_Top_Static", 0, 0, 1, 1},
-        {"gridLayout1", "anchorAlignment_Middle_Static", 1, 0, 1, 1},
-        {"gridLayout1", "anchorAlignment_Bottom_Static", 2, 0, 1, 1},
-        {"gridLayout1", "anchorAlignment_Left_Static", 3, 1, 1, 1},
-        {"gridLayout1", "anchorAlignment_Center_Static", 3, 2, 1, 1},
-        {"gridLayout1", "anchorAlignment_Right_Static", 3, 3, 1, 1},
-    });
-    EXPECT_EQ(dialog->findChild<QLabel*>("anchorAlignment_Left_Static")->sizePolicy().verticalPolicy(),
-              QSizePolicy::Fixed);
-    EXPECT_EQ(dialog->findChild<QGridLayout*>("gridLayout")->contentsMargins(), QMargins(6, 6, 6, 6));
-    EXPECT_EQ(dialog->findChild<QGridLayout*>("gridLayout1")->contentsMargins(), QMargins(0, 0, 0, 0));
-    EXPECT_EQ(dialog->findChild<QFrame*>("frame")->frameShape(), QFrame::NoFrame);
     auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
     EXPECT_EQ(box->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_TRUE(box->centerButtons());
-    EXPECT_EQ(dialog->size(), QSize(198, 85));
-    EXPECT_TRUE(dialog->isModal());
     EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
-    EXPECT_EQ(dialog->layoutDirection(), Qt::LeftToRight);
     ASSERT_NE(dialog->helpAction(), nullptr);
 }
 
@@ -122,20 +97,6 @@ TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndALaterGetInstan
     QTest::keyClick(dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->selectedAlignment(), AnchorAlignment_BottomRight);
-}
-
-TEST_F(AnchorAlignmentDialogTest, AFreshDialogIsBuiltAfterTheLiveOneIsDestroyed)
-{
-    auto* parentOfFirst = new QWidget;
-    QPointer<AnchorAlignmentDialog> first = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, *parentOfFirst);
-    delete parentOfFirst;
-    EXPECT_TRUE(first.isNull());
-    EXPECT_EQ(AnchorAlignmentDialog::liveInstance(), nullptr);
-
-    AnchorAlignmentDialog* second = AnchorAlignmentDialog::getInstance(AnchorAlignment_MiddleRight, parent);
-    ASSERT_NE(second, nullptr);
-    EXPECT_EQ(second->parentWidget(), &parent);
-    EXPECT_EQ(checked(*second), AnchorAlignment_MiddleRight);
 }
 
 } // namespace

@@ -6,22 +6,7 @@
 #include <QApplication>
 #include <QPixmapCache>
 #include "tests/prompts/prompt/DialogTestSupport.h"
-#include "platform/loaders/DataLoaderRepository.h"
-#include <boost/make_shared.hpp>
-#include "core/property/Property.h"
-#include "prompts/prompt/AddonsVariableSelectDialog.h"
-#include "prompts/prompt/AnchorAlignmentDialog.h"
-#include "prompts/prompt/AxisVariableSelectDialog.h"
-#include "prompts/prompt/ChooseLoaderDialog.h"
-#include "prompts/prompt/ColorChooserDialog.h"
-#include "prompts/prompt/EnterASCIICharacterDialog.h"
-#include "prompts/prompt/EnterTextStringDialog.h"
-#include "prompts/prompt/EnterThreeIntValuesDialog.h"
-#include "prompts/prompt/RGBColorOptsDialog.h"
-#include "prompts/prompt/RGBVariableSelectDialog.h"
-#include "prompts/prompt/ScatterSizeFontDialog.h"
-#include "prompts/prompt/VectorVariableSelectDialog.h"
-#include "prompts/prompt/ZoneSelectDialog.h"
+#include "tests/support/EveryDialog.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define ORRERY_UNDER_ASAN 1
@@ -47,7 +32,7 @@ const int Rounds = 100;
 size_t allocatedBytes() { return mallinfo2().uordblks; }
 #endif
 
-class DialogLifetimeTest : public DialogTest
+class DialogLifetimeTest : public DialogTest, public ::testing::WithParamInterface<everydialog::Opener>
 {
 protected:
     // Opens the dialog as a host would, lets it settle, then destroys it.
@@ -87,60 +72,10 @@ protected:
 } // namespace
 
 // One case per dialog, so that each runs in a process of its own within the time limit.
-TEST_F(DialogLifetimeTest, LoaderChooserLeavesTheHeapFlat)
+TEST_P(DialogLifetimeTest, LeavesTheHeapFlat)
 {
-    const auto loaders = orrery::sdk::DataLoaderRepository::getInstance().dataLoaderInterfaces(false);
-    expectFlat([&] { return ChooseLoaderDialog::getInstance(parent, {loaders.front()}, {".csv"}); });
+    expectFlat([&] { return GetParam().open(parent); });
 }
 
-TEST_F(DialogLifetimeTest, ThreeIntegerPromptLeavesTheHeapFlat)
-{
-    expectFlat([&] {
-        return EnterThreeIntValuesDialog::getInstance(parent, 1, 2, 3, "Range", "", "a", "b", "c", 1, 1, 1);
-    });
-}
-
-TEST_F(DialogLifetimeTest, ASCIICharacterPromptLeavesTheHeapFlat)
-{
-    expectFlat([&] { return EnterASCIICharacterDialog::getInstance(parent, "a", true, Font_Greek); });
-}
-
-TEST_F(DialogLifetimeTest, AnchorAlignmentPromptLeavesTheHeapFlat)
-{
-    expectFlat([&] { return AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent); });
-}
-
-TEST_F(DialogLifetimeTest, TextStringPromptLeavesTheHeapFlat)
-{
-    expectFlat([&] { return new EnterTextStringDialog(parent, "Name", "first", "", false); });
-}
-
-TEST_F(DialogLifetimeTest, AxisAndVectorVariableDialogsLeaveTheHeapFlat)
-{
-    expectFlat([&] { return AxisVariableSelectDialog::getInstance(parent); });
-    expectFlat([&] { return VectorVariableSelectDialog::getInstance(parent, PlotType_TwoD); });
-}
-
-TEST_F(DialogLifetimeTest, RGBAndAddonVariableDialogsLeaveTheHeapFlat)
-{
-    expectFlat([&] { return RGBVariableSelectDialog::getInstance(parent); });
-    const auto var = [] { return boost::make_shared<orrery::Property<int>>(1); };
-    const auto a = var(), b = var(), c = var();
-    expectFlat([&] { return AddonsVariableSelectDialog::getInstance(parent, "Pick", "&A", "&B", nullptr, a, b, c); });
-}
-
-TEST_F(DialogLifetimeTest, ZonePromptLeavesTheHeapFlat)
-{
-    expectFlat([&] { return ZoneSelectDialog::getInstance(parent, 1); });
-}
-
-TEST_F(DialogLifetimeTest, ColourChooserLeavesTheHeapFlat)
-{
-    expectFlat([&] { return ColorChooserDialog::getInstance(parent, true); });
-}
-
-TEST_F(DialogLifetimeTest, StyleDialogsLeaveTheHeapFlat)
-{
-    expectFlat([&] { return RGBColorOptsDialog::getInstance(parent); });
-    expectFlat([&] { return ScatterSizeFontDialog::getInstance(parent); });
-}
+INSTANTIATE_TEST_SUITE_P(EveryDialog, DialogLifetimeTest, ::testing::ValuesIn(everydialog::openers()),
+                         [](const ::testing::TestParamInfo<everydialog::Opener>& info) { return info.param.name; });

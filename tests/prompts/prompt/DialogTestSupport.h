@@ -1,9 +1,10 @@
 #pragma once
 // Shared by the dialog tests: table-driven checks of a layout's contract (object
-// names, classes, texts, grid positions and tab order, as host code and
-// translations rely on them), and a fixture for driving dialogs as a user would.
+// names, classes, texts and tab order, as host code and translations rely on
+// them), and a fixture for driving dialogs as a user would.
+#include <QBoxLayout>
 #include <QDialogButtonBox>
-#include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -26,13 +27,6 @@ struct WidgetRow
     const char* text; // nullptr: not checked
 };
 
-struct GridRow
-{
-    const char* layout;
-    const char* item; // a widget or a nested layout
-    int row, column, rowSpan, columnSpan;
-};
-
 inline QString textOf(const QObject& object)
 {
     if (auto* label = qobject_cast<const QLabel*>(&object))
@@ -41,6 +35,8 @@ inline QString textOf(const QObject& object)
         return button->text();
     if (auto* edit = qobject_cast<const QLineEdit*>(&object))
         return edit->text();
+    if (auto* box = qobject_cast<const QGroupBox*>(&object))
+        return box->title();
     auto* widget = qobject_cast<const QWidget*>(&object);
     return widget && widget->isWindow() ? widget->windowTitle() : QString();
 }
@@ -56,29 +52,6 @@ inline void expectWidgets(const QWidget& root, std::initializer_list<WidgetRow> 
         if (row.text) {
             EXPECT_EQ(textOf(*object), QString::fromUtf8(row.text));
         }
-    }
-}
-
-inline void expectGrid(const QWidget& root, std::initializer_list<GridRow> rows)
-{
-    for (const GridRow& row : rows)
-    {
-        SCOPED_TRACE(std::string(row.layout) + " / " + row.item);
-        auto* grid = root.findChild<QGridLayout*>(row.layout);
-        ASSERT_NE(grid, nullptr);
-        int found = -1;
-        for (int i = 0; i < grid->count(); ++i)
-        {
-            QLayoutItem* item = grid->itemAt(i);
-            const QObject* object = item->widget() ? static_cast<QObject*>(item->widget()) : item->layout();
-            if (object && object->objectName() == row.item)
-                found = i;
-        }
-        ASSERT_GE(found, 0) << "not in this layout";
-        int r, c, rs, cs;
-        grid->getItemPosition(found, &r, &c, &rs, &cs);
-        EXPECT_EQ(std::vector<int>({r, c, rs, cs}),
-                  std::vector<int>({row.row, row.column, row.rowSpan, row.columnSpan}));
     }
 }
 

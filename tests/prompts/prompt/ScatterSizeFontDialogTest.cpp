@@ -59,8 +59,6 @@ TEST_F(ScatterSizeFontDialogTest, LayoutContract)
     ScatterSizeFontDialog* dialog = ScatterSizeFontDialog::getInstance(parent);
     contract::expectWidgets(*dialog, {
         {"ScatterSizeFont", "orrery::dialogs::prompt::ScatterSizeFontDialog", "Scatter Size/Font"},
-        {"gridLayout_2", "QGridLayout", nullptr},
-        {"gridLayout_3", "QGridLayout", nullptr},
         {"scatterSizeFont_buttonBox", "QDialogButtonBox", nullptr},
         {"scatterSizeFont_SizeCm_1Text", "QLineEdit", nullptr},
         {"scatterSizeFont_SizeCm_radioButton", "QRadioButton", "&Cm/magnitude:"},
@@ -69,40 +67,17 @@ TEST_F(ScatterSizeFontDialogTest, LayoutContract)
         {"scatterSizeFont_SizeVaiable_ComboBox", "QComboBox", nullptr},
         {"scatterSizeFont_SizeVaiable_Label", "QLabel", "&Scatter-size variable:"},
         {"scatterSizeFont_SizeMultiplier_Label", "QLabel", "Size multiplier"},
-        {"horizontalLayout", "QHBoxLayout", nullptr},
         {"scatterSizeFont_SymbolsFont_Label", "QLabel", "ASCII symbol &font:"},
         {"scatterSizeFont_SymbolsFont_ComboBox", "QFontComboBox", nullptr},
         {"scatterSizeFont_SymbolsFontBold_Button", "QToolButton", "&B"},
         {"scatterSizeFont_SymbolsFontItalic_Button", "QToolButton", "&I"},
     });
-    contract::expectGrid(*dialog, {
-        {"gridLayout_2", "gridLayout_3", 0, 0, 1, 1},
-        {"gridLayout_3", "scatterSizeFont_buttonBox", 6, 0, 1, 5},
-        {"gridLayout_3", "scatterSizeFont_SizeCm_1Text", 4, 2, 1, 2},
-        {"gridLayout_3", "scatterSizeFont_SizeCm_radioButton", 4, 1, 1, 1},
-        {"gridLayout_3", "scatterSizeFont_SizeGrid_1Text", 3, 2, 1, 2},
-        {"gridLayout_3", "scatterSizeFont_SizeGrid_radioButton", 3, 1, 1, 1},
-        {"gridLayout_3", "scatterSizeFont_SizeVaiable_ComboBox", 1, 2, 1, 3},
-        {"gridLayout_3", "scatterSizeFont_SizeVaiable_Label", 1, 0, 1, 2},
-        {"gridLayout_3", "scatterSizeFont_SizeMultiplier_Label", 2, 0, 1, 4},
-        {"gridLayout_3", "horizontalLayout", 0, 0, 1, 5},
-    });
     contract::expectTabOrder(*dialog, {"scatterSizeFont_SymbolsFont_ComboBox", "scatterSizeFont_SymbolsFontBold_Button",
                                        "scatterSizeFont_SymbolsFontItalic_Button", "scatterSizeFont_SizeVaiable_ComboBox",
                                        "scatterSizeFont_SizeGrid_radioButton", "scatterSizeFont_SizeGrid_1Text",
                                        "scatterSizeFont_SizeCm_radioButton", "scatterSizeFont_SizeCm_1Text"});
-    auto* grid = child<QGridLayout>(*dialog, "gridLayout_3");
-    EXPECT_EQ(std::vector<int>({grid->columnStretch(2), grid->columnStretch(3), grid->columnStretch(4)}),
-              std::vector<int>({2, 1, 2}));
-    EXPECT_EQ(child<QHBoxLayout>(*dialog, "horizontalLayout")->stretch(1), 1);
     for (const char* name : {"scatterSizeFont_SymbolsFontBold_Button", "scatterSizeFont_SymbolsFontItalic_Button"})
-    {
-        auto* b = child<QToolButton>(*dialog, name);
-        EXPECT_TRUE(b->isCheckable()) << name;
-        EXPECT_EQ(b->toolButtonStyle(), Qt::ToolButtonTextOnly) << name;
-        EXPECT_EQ(b->focusPolicy(), Qt::StrongFocus) << name;
-        EXPECT_EQ(b->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding) << name;
-    }
+        EXPECT_TRUE(child<QToolButton>(*dialog, name)->isCheckable()) << name;
     EXPECT_TRUE(child<QToolButton>(*dialog, "scatterSizeFont_SymbolsFontBold_Button")->font().bold());
     EXPECT_TRUE(child<QToolButton>(*dialog, "scatterSizeFont_SymbolsFontItalic_Button")->font().italic());
     EXPECT_EQ(child<QLabel>(*dialog, "scatterSizeFont_SizeVaiable_Label")->buddy(),
@@ -112,7 +87,6 @@ TEST_F(ScatterSizeFontDialogTest, LayoutContract)
     ASSERT_NE(recalculate(*dialog), nullptr);
     EXPECT_EQ(child<QDialogButtonBox>(*dialog, "scatterSizeFont_buttonBox")->buttonRole(recalculate(*dialog)),
               QDialogButtonBox::ActionRole);
-    EXPECT_EQ(dialog->size(), QSize(341, 174));
     EXPECT_FALSE(dialog->isModal());
 }
 

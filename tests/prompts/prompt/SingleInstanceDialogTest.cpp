@@ -1,4 +1,5 @@
 #include <stdexcept>
+#include <QPointer>
 #include <QWidget>
 #include <gtest/gtest.h>
 #include "prompts/prompt/SingleInstanceDialog.h"
@@ -18,14 +19,21 @@ public:
     static Probe* getInstance(QWidget& parent, bool fail = false) { return obtain(parent, fail); }
 };
 
-TEST(SingleInstanceDialogTest, AFailedConstructionOrAnotherObjectOfTheClassLeavesTheRegistrationAlone)
+TEST(SingleInstanceDialogTest, AFailedConstructionOrAnotherObjectLeavesTheRegistrationAloneADestroyedOneIsRebuilt)
 {
+    auto* firstParent = new QWidget;
+    QPointer<Probe> first = Probe::getInstance(*firstParent);
+    delete firstParent; // takes the live dialog with it
+    EXPECT_TRUE(first.isNull());
+    EXPECT_EQ(Probe::liveInstance(), nullptr);
+
     QWidget parent;
     EXPECT_THROW(Probe::getInstance(parent, true), std::runtime_error);
     EXPECT_EQ(Probe::liveInstance(), nullptr);
     EXPECT_TRUE(parent.findChildren<Probe*>().isEmpty());
     Probe* probe = Probe::getInstance(parent);
     EXPECT_EQ(Probe::liveInstance(), probe);
+    EXPECT_EQ(probe->parentWidget(), &parent);
     EXPECT_EQ(Probe::getInstance(parent, true), probe); // a live instance is not rebuilt
     {
         Probe directlyBuilt(parent, false);

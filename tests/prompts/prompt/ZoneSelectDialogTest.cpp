@@ -56,19 +56,13 @@ TEST_F(ZoneSelectDialogTest, LayoutContract)
     ZoneSelectDialog dialog(parent, 7);
     contract::expectWidgets(dialog, {
         {"ZoneSelect", "orrery::dialogs::prompt::ZoneSelectDialog", "Select Zone"},
-        {"verticalLayout", "QVBoxLayout", nullptr},
         {"Zone_Source_MList", "QListView", nullptr},
         {"buttonBox", "QDialogButtonBox", nullptr},
     });
-    auto* layout = dialog.findChild<QVBoxLayout*>("verticalLayout");
-    EXPECT_EQ(layout->indexOf(list(dialog)), 0);
-    EXPECT_EQ(layout->indexOf(dialog.findChild<QDialogButtonBox*>("buttonBox")), 1);
     contract::expectTabOrder(dialog, {"Zone_Source_MList", "buttonBox"});
     EXPECT_EQ(dialog.findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
               QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_EQ(dialog.findChild<QDialogButtonBox*>("buttonBox")->layoutDirection(), Qt::LeftToRight);
     EXPECT_EQ(list(dialog)->selectionMode(), QAbstractItemView::SingleSelection);
-    EXPECT_EQ(dialog.size(), QSize(274, 270));
     EXPECT_TRUE(dialog.isModal());
     ASSERT_NE(dialog.helpAction(), nullptr);
     // The constructor's zone is not a choice.
