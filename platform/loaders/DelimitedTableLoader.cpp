@@ -129,8 +129,8 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
         return false;
     }
     // Quotes could hold a line break across the split, so such files are read in one part.
-    const bool twoParts = split < file.size() && !quotesBefore && !quotesAfter && layout.delimiter != 0
-                          && table.allNumbers() && file.offset() <= split;
+    const bool twoParts =
+        split < file.size() && !quotesBefore && !quotesAfter && table.allNumbers() && file.offset() <= split;
     if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, reader, cancelled, error)
                  : !reader.read()) {
         if (!twoParts)

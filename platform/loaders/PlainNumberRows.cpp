@@ -84,7 +84,7 @@ PlainNumberRows::PlainNumberRows(char delimiter, bool decimalComma)
 size_t PlainNumberRows::read(std::string_view text, ColumnTable& table, size_t& records)
 {
     records = 0;
-    if (m_delimiter == 0 || table.columnCount() == 0)
+    if (table.columnCount() == 0)
         return 0;
     m_row.resize(table.columnCount());
     const char* begin = text.data();
@@ -95,19 +95,35 @@ size_t PlainNumberRows::read(std::string_view text, ColumnTable& table, size_t& 
     return static_cast<size_t>(cursor - begin);
 }
 
+bool PlainNumberRows::isSeparator(char c) const
+{
+    return m_delimiter ? c == m_delimiter : c == ' ' || c == '\t';
+}
+
+void PlainNumberRows::skipBlanks(const char*& p, const char* end) const
+{
+    if (!m_delimiter)
+        while (p != end && isSeparator(*p))
+            ++p;
+}
+
 bool PlainNumberRows::readRecord(const char*& cursor, const char* end)
 {
     const char* p = cursor;
     const size_t last = m_row.size() - 1;
     for (size_t column = 0; column <= last; ++column) {
+        skipBlanks(p, end);
         if (!readNumber(p, end, m_row[column]) || p == end)
             return false;
         if (column < last) {
-            if (*p++ != m_delimiter)
+            if (!isSeparator(*p++))
                 return false;
-        } else if (*p == '\n') {
+            continue;
+        }
+        skipBlanks(p, end);
+        if (p != end && *p == '\n') {
             ++p;
-        } else if (*p == '\r' && end - p > 1 && p[1] == '\n') {
+        } else if (end - p > 1 && p[0] == '\r' && p[1] == '\n') {
             p += 2;
         } else {
             return false;
@@ -123,7 +139,7 @@ bool PlainNumberRows::readNumber(const char*& cursor, const char* end, double& v
         return true;
     // Long or extreme numbers go the full way, judged as the cell they fill.
     const char* p = cursor;
-    while (p != end && *p != m_delimiter && *p != '\n' && *p != '\r')
+    while (p != end && !isSeparator(*p) && *p != '\n' && *p != '\r')
         ++p;
     if (p == end
         || NumberText::parse(std::string_view(cursor, static_cast<size_t>(p - cursor)), m_decimalComma, value)

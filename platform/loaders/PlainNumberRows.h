@@ -10,7 +10,9 @@ class ColumnTable;
 
 // Reads the shape most numeric tables are written in at full speed: records
 // of exactly as many decimal numbers as the table has columns, separated by
-// one delimiter character, nothing else in them, each ending in LF or CRLF.
+// one delimiter character (or, with delimiter 0, by runs of spaces and tabs,
+// which may also begin and end a record), nothing else in them, each ending
+// in LF or CRLF.
 // A run stops before the first record of any other shape (quotes, spaces,
 // missing or text cells, comments, blank lines, a record cut off by the end
 // of the text), which the field-by-field reader then takes and, if need be,
@@ -26,6 +28,8 @@ public:
     size_t read(std::string_view text, ColumnTable& table, size_t& records);
 
 private:
+    bool isSeparator(char c) const;
+    void skipBlanks(const char*& p, const char* end) const;
     bool readRecord(const char*& cursor, const char* end);
     bool readNumber(const char*& cursor, const char* end, double& value) const;
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <iterator>
 #include <limits>
+#include <memory>
 #include <fstream>
 #include <string>
 #include <sys/resource.h>
@@ -15,6 +16,7 @@
 #include "platform/loaders/CsvDataLoader.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/loaders/LoadProgress.h"
+#include "platform/loaders/TextTableDataLoader.h"
 #include "platform/loaders/NumberText.h"
 #include "tests/support/TestSupport.h"
 
@@ -323,7 +325,7 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
     const char* shapes[] = {"%.17g", "%.6f", "%.3e", "%+.0f", "%.22e", "%.1f", "%g"};
     const char* specials[] = {"-0", "0e5", "9007199254740993", "1e22", "1e23", "1e-22", "4.9e-324", "123456789012345678901",
                               "0.30000000000000004", "+.5", "5.", "1.7976931348623157e308", "-2.2250738585072014e-308"};
-    std::string content = "a,b,c\n";
+    std::string content = "a,b,c\n", blankSeparated;
     std::vector<std::vector<std::string>> cells(3);
     unsigned state = 7;
     for (int row = 0; row < 20000; ++row) {
@@ -339,16 +341,19 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
             }
             cells[c].push_back(text);
             content += text + std::string(c < 2 ? "," : row % 3 ? "\n" : "\r\n");
+            blankSeparated += std::string(c == 0 && row % 2 ? " " : "") + text + (c < 2 ? " \t " : row % 3 ? "\n" : " \r\n");
         }
     }
-    ASSERT_TRUE(load("CSV table", "exact.csv", content)) << error;
-    ASSERT_EQ(20000u, data().pointCount(1));
-    for (int c = 0; c < 3; ++c)
-        for (size_t r = 0; r < cells[c].size(); ++r) {
-            double expected = 0;
-            ASSERT_EQ(NumberText::Verdict::Number, NumberText::parse(cells[c][r], false, expected)) << cells[c][r];
-            ASSERT_EQ(0, std::memcmp(&expected, &data().values(1, c + 1)[r], sizeof expected)) << cells[c][r];
-        }
+    for (const auto& [loader, file] : {std::make_pair("CSV table", content), std::make_pair("Text table", blankSeparated)}) {
+        ASSERT_TRUE(load(loader, "exact.csv", file)) << error;
+        ASSERT_EQ(20000u, data().pointCount(1));
+        for (int c = 0; c < 3; ++c)
+            for (size_t r = 0; r < cells[c].size(); ++r) {
+                double expected = 0;
+                ASSERT_EQ(NumberText::Verdict::Number, NumberText::parse(cells[c][r], false, expected)) << cells[c][r];
+                ASSERT_EQ(0, std::memcmp(&expected, &data().values(1, c + 1)[r], sizeof expected)) << cells[c][r];
+            }
+    }
 
     // Plain rows between rows the field-by-field reader takes: order, gaps and
     // line numbers come out the same, whichever reader took a row.
@@ -368,61 +373,71 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
 
 TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
 {
-    // Header, comments, blank lines and gaps in the first half, so that the
-    // second half's rows must move up to follow the first half's last row.
-    std::string content = "\xEF\xBB\xBFt;p;q\r\n# logged\r\n\r\n";
-    for (int row = 0; content.size() < (3 << 20); ++row) {
-        content += std::to_string(row) + ";" + std::to_string(row / 4) + "," + std::to_string(row % 4 * 25) + ";"
-                   + (row % 97 ? "1,5" : "NA");
-        content += row % 1000 == 3 ? "\r\n\r\n# gap\n" : "\r\n";
-    }
-    const std::string path = write("two.csv", content);
-    CsvDataLoader onePart, twoParts;
-    onePart.readInTwoPartsFrom(std::numeric_limits<long long>::max());
-    twoParts.readInTwoPartsFrom(1);
-    const auto loadWith = [&](CsvDataLoader& loader, const std::string& file) {
-        error.clear();
-        return loader.load(file, error);
+    // Semicolons with decimal commas, and runs of blanks with blanks before some rows.
+    struct Format
+    {
+        std::string separator, mark, indent;
+        std::unique_ptr<DelimitedTableLoader> onePart, twoParts;
     };
-    ASSERT_TRUE(loadWith(onePart, path)) << error;
-    const std::vector<std::vector<double>> expected = {column(1), column(2), column(3)};
-    ASSERT_TRUE(loadWith(twoParts, path)) << error;
-    EXPECT_EQ(onePart.lastLoadSummary(), twoParts.lastLoadSummary());
-    ASSERT_EQ(expected[0].size(), data().pointCount(1));
-    for (int c = 0; c < 3; ++c)
-        EXPECT_EQ(expected[c], column(c + 1)) << "column " << c + 1;
+    Format formats[] = {{";", ",", "", std::make_unique<CsvDataLoader>(), std::make_unique<CsvDataLoader>()},
+                        {" \t", ".", "  ", std::make_unique<TextTableDataLoader>(), std::make_unique<TextTableDataLoader>()}};
+    for (Format& format : formats) {
+        SCOPED_TRACE("separator '" + format.separator + "'");
+        const std::string& sep = format.separator;
+        // Header, comments, blank lines and gaps in the first half, so that the
+        // second half's rows must move up to follow the first half's last row.
+        std::string content = "\xEF\xBB\xBFt" + sep + "p" + sep + "q\r\n# logged\r\n\r\n";
+        for (int row = 0; content.size() < (3 << 20); ++row) {
+            content += (row % 5 ? "" : format.indent) + std::to_string(row) + sep + std::to_string(row / 4) + format.mark
+                       + std::to_string(row % 4 * 25) + sep + (row % 97 ? "1" + format.mark + "5" : "NA");
+            content += row % 1000 == 3 ? "\r\n\r\n# gap\n" : "\r\n";
+        }
+        const std::string path = write("two.csv", content);
+        format.onePart->readInTwoPartsFrom(std::numeric_limits<long long>::max());
+        format.twoParts->readInTwoPartsFrom(1);
+        const auto loadWith = [&](DelimitedTableLoader& loader, const std::string& file) {
+            error.clear();
+            return loader.load(file, error);
+        };
+        ASSERT_TRUE(loadWith(*format.onePart, path)) << error;
+        const std::vector<std::vector<double>> expected = {column(1), column(2), column(3)};
+        ASSERT_TRUE(loadWith(*format.twoParts, path)) << error;
+        EXPECT_EQ(format.onePart->lastLoadSummary(), format.twoParts->lastLoadSummary());
+        ASSERT_EQ(expected[0].size(), data().pointCount(1));
+        for (int c = 0; c < 3; ++c)
+            EXPECT_EQ(expected[c], column(c + 1)) << "column " << c + 1;
 
-    // A fault late in the file is reported at the same line and column
-    // either way; a fault in each half reports the first.
-    const size_t late = content.size() * 3 / 4;
-    const size_t lineStart = content.find('\n', late) + 1;
-    for (const char* fault : {"7;x;1\r\n", "7;8\r\n", "7;8;9;10\r\n", "7;\x01;9\r\n"}) {
-        std::string bad = content;
-        bad.insert(lineStart, fault);
-        for (const std::string& file : {write("bad.csv", bad), write("worse.csv", bad.insert(200, fault))}) {
-            std::string oneError;
-            EXPECT_FALSE(loadWith(onePart, file));
-            oneError = error;
-            EXPECT_FALSE(loadWith(twoParts, file));
-            EXPECT_EQ(oneError, error);
+        // A fault late in the file is reported at the same line and column
+        // either way; a fault in each half reports the first.
+        const size_t lineStart = content.find('\n', content.size() * 3 / 4) + 1;
+        for (const std::string& fault : {"7" + sep + "x" + sep + "1\r\n", "7" + sep + "8\r\n",
+                                         "7" + sep + "8" + sep + "9" + sep + "10\r\n", "7" + sep + "\x01" + sep + "9\r\n"}) {
+            std::string bad = content;
+            bad.insert(lineStart, fault);
+            for (const std::string& file : {write("bad.csv", bad), write("worse.csv", bad.insert(200, fault))}) {
+                EXPECT_FALSE(loadWith(*format.onePart, file));
+                const std::string oneError = error;
+                EXPECT_FALSE(loadWith(*format.twoParts, file));
+                EXPECT_EQ(oneError, error);
+                EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
+            }
+        }
+
+        // Progress is heard as the blocks come in, and cancelling stops both parts.
+        for (DelimitedTableLoader* loader : {format.onePart.get(), format.twoParts.get()}) {
+            std::vector<std::uint64_t> reports;
+            LoadProgress::setHandler([&](std::uint64_t done, std::uint64_t total) {
+                EXPECT_EQ(content.size(), total);
+                reports.push_back(done);
+                return reports.size() < 2;
+            });
+            EXPECT_FALSE(loadWith(*loader, write("cancelled.csv", content)));
+            LoadProgress::setHandler({});
+            EXPECT_EQ("Loading cancelled.csv was cancelled.", error);
+            ASSERT_EQ(2u, reports.size());
+            EXPECT_LT(reports[0], reports[1]);
             EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
         }
-    }
-
-    // Progress is heard as the blocks come in, and cancelling stops both parts.
-    for (CsvDataLoader* loader : {&onePart, &twoParts}) {
-        std::vector<std::uint64_t> reports;
-        LoadProgress::setHandler([&](std::uint64_t done, std::uint64_t total) {
-            EXPECT_EQ(content.size(), total);
-            reports.push_back(done);
-            return reports.size() < 2;
-        });
-        EXPECT_FALSE(loadWith(*loader, write("cancelled.csv", content)));
-        LoadProgress::setHandler({});
-        EXPECT_EQ("Loading cancelled.csv was cancelled.", error);
-        ASSERT_EQ(2u, reports.size());
-        EXPECT_LT(reports[0], reports[1]);
-        EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
     }
 }
 
