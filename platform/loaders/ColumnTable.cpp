@@ -14,7 +14,8 @@ namespace sdk {
 namespace {
 
 // Makes room for the rows, on large pages where the system offers them: a
-// large column then fills without a page fault every 4 KiB.
+// large column then fills without a page fault every 4 KiB. The room is not
+// touched until rows are added.
 void makeRoom(std::vector<double>& values, size_t rows)
 {
     values.reserve(rows);
@@ -25,7 +26,6 @@ void makeRoom(std::vector<double>& values, size_t rows)
     if (end > begin)
         ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE); // only advice: failure is harmless
 #endif
-    values.resize(rows);
 }
 
 } // namespace
@@ -40,10 +40,8 @@ void ColumnTable::reserve(size_t rows)
 {
     m_reserved = rows;
     for (Column& column : m_columns)
-        if (!column.elsewhere && column.room < rows) {
+        if (!column.elsewhere)
             makeRoom(column.values, rows);
-            column.room = rows;
-        }
 }
 
 ColumnTable ColumnTable::continuation(size_t firstRow, size_t rows)
@@ -51,11 +49,13 @@ ColumnTable ColumnTable::continuation(size_t firstRow, size_t rows)
     ColumnTable rest(m_initialKinds, m_options);
     rest.m_fixedRoom = m_fixedRoom = true;
     for (Column& column : m_columns) {
+        // From here on rows are written in place, in the room both parts share.
+        column.values.resize(std::max(column.values.size(), firstRow + rows));
+        column.room = firstRow;
         Column& part = rest.m_columns.emplace_back();
         part.kind = column.kind;
         part.elsewhere = column.values.data() + firstRow;
-        part.room = std::min(rows, column.values.size() - std::min(firstRow, column.values.size()));
-        column.room = std::min(column.room, firstRow);
+        part.room = rows;
     }
     return rest;
 }
@@ -69,7 +69,7 @@ void ColumnTable::join(ColumnTable& continuation)
         if (part.elsewhere != column.values.data() + column.count)
             std::memmove(column.values.data() + column.count, part.elsewhere, part.count * sizeof(double));
         column.count += part.count;
-        column.room = column.values.size();
+        column.values.resize(column.count);
     }
     m_missing += continuation.m_missing;
     m_fixedRoom = false;
@@ -78,12 +78,13 @@ void ColumnTable::join(ColumnTable& continuation)
 
 bool ColumnTable::put(Column& column, double value)
 {
-    if (column.count == column.room) {
-        if (m_fixedRoom || column.elsewhere)
-            return false;
-        makeRoom(column.values, std::max<size_t>(16, column.room * 2));
-        column.room = column.values.size();
+    if (!m_fixedRoom) {
+        column.values.push_back(value);
+        column.count = column.values.size();
+        return true;
     }
+    if (column.count == column.room)
+        return false;
     (column.elsewhere ? column.elsewhere : column.values.data())[column.count++] = value;
     return true;
 }
@@ -99,10 +100,7 @@ bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
         Column& added = m_columns.back();
         if (m_columns.size() <= m_initialKinds.size())
             added.kind = m_initialKinds[m_columns.size() - 1];
-        if (m_reserved > 0) {
-            makeRoom(added.values, m_reserved);
-            added.room = m_reserved;
-        }
+        makeRoom(added.values, m_reserved);
         index = m_columns.size() - 1;
     }
     Column& column = m_columns[index];

@@ -61,8 +61,8 @@ private:
         Kind kind = Kind::Undecided;
         std::vector<double> values; // the rows, unless they go into another table's column
         double* elsewhere = nullptr;
-        size_t count = 0;
-        size_t room = 0;
+        size_t count = 0; // rows added
+        size_t room = 0;  // rows this part may hold while it shares the column
         std::vector<std::string> categories;
         std::unordered_map<std::string, double> categoryNumbers;
     };
