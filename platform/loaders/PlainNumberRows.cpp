@@ -84,7 +84,9 @@ PlainNumberRows::PlainNumberRows(char delimiter, bool decimalComma)
 size_t PlainNumberRows::read(std::string_view text, ColumnTable& table, size_t& records)
 {
     records = 0;
-    if (table.columnCount() == 0)
+    // A comma that both separates and marks decimals splits the cell first,
+    // which this route, reading numbers whole, would not do.
+    if (table.columnCount() == 0 || (m_decimalComma && m_delimiter == ','))
         return 0;
     m_row.resize(table.columnCount());
     const char* begin = text.data();
