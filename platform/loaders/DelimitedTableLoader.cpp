@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <atomic>
 #include <future>
+#include <memory>
 #include <new>
 #include <system_error>
 #include <thread>
@@ -121,28 +122,41 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
                                                        static_cast<std::uint64_t>(total));
         return !cancelled;
     });
+    const size_t rows = linesBefore + linesAfter + 1;
     ColumnTable table(layout.kinds, {layout.decimalComma, true});
-    table.reserve(linesBefore + linesAfter + 1);
-    TableReader reader(file, layout, table);
-    if (!reader.read(true)) {
-        error = reader.error(name);
+    table.reserve(rows);
+    // The first half is read up to its first record of values, which tells whether the second half may be read
+    // beside it. Quotes could hold a line break across the split, so such files are read in one part.
+    bool twoParts = split < file.size() && !quotesBefore && !quotesAfter;
+    if (twoParts)
+        file.endAt(split);
+    auto reader = std::make_unique<TableReader>(file, layout, table);
+    if (!reader->read(true)) {
+        error = reader->error(name);
         return false;
     }
-    // Quotes could hold a line break across the split, so such files are read in one part.
-    const bool twoParts =
-        split < file.size() && !quotesBefore && !quotesAfter && table.allNumbers() && file.offset() <= split;
-    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, reader, cancelled, error)
-                 : !reader.read()) {
+    if (twoParts && !table.allNumbers()) {
+        twoParts = false;
+        file.endAt(FileBlockReader::ToEnd);
+        if (reader->finished()) { // the first half held no record of values: read the file afresh in one part
+            file.rewind();
+            table = ColumnTable(layout.kinds, {layout.decimalComma, true});
+            table.reserve(rows);
+            reader = std::make_unique<TableReader>(file, layout, table);
+        }
+    }
+    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, *reader, cancelled, error)
+                 : !reader->read()) {
         if (!twoParts)
-            error = reader.error(name);
+            error = reader->error(name);
         return false;
     }
     if (table.rowCount() == 0) {
         error = name + " holds no rows of values.";
         return false;
     }
-    const size_t columns = reader.columns();
-    std::vector<std::string>& headerCells = reader.headerCells();
+    const size_t columns = reader->columns();
+    std::vector<std::string>& headerCells = reader->headerCells();
 
     const std::string title = QFileInfo(QFile::decodeName(path.c_str())).completeBaseName().toStdString();
     kernel::DataSet data(title, TableLayout::columnNames(std::move(headerCells), columns));

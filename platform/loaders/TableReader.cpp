@@ -88,6 +88,7 @@ bool TableReader::read(bool firstRecordOnly)
         }
     }
     m_tokenizerFailed = step == FieldTokenizer::Step::Failed;
+    m_finished = step == FieldTokenizer::Step::End;
     return !m_tokenizerFailed;
 }
 

@@ -27,6 +27,8 @@ public:
     // values is complete when firstRecordOnly is set. False on a refused
     // record or a read error.
     bool read(bool firstRecordOnly = false);
+    // True once the end of the file or part has been reached.
+    bool finished() const { return m_finished; }
     // Cells per record, known once the first has been read; 0 before.
     size_t columns() const { return m_columns; }
     std::vector<std::string>& headerCells() { return m_headerCells; }
@@ -47,6 +49,7 @@ private:
     size_t m_column = 0;
     std::vector<std::string> m_headerCells;
     bool m_tokenizerFailed = false;
+    bool m_finished = false;
     size_t m_errorLine = 0;
     size_t m_errorColumn = 0;
     std::string m_error;

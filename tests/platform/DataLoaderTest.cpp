@@ -439,6 +439,19 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
             EXPECT_EQ(expected[0].size(), data().pointCount(1)) << "the data set is kept";
         }
     }
+
+    // Short files split anyway: a first half without values, or with text, is read in one part after all.
+    CsvDataLoader onePart, twoParts;
+    onePart.readInTwoPartsFrom(std::numeric_limits<long long>::max());
+    twoParts.readInTwoPartsFrom(1);
+    for (const std::string& content : {"a,b\n# " + std::string(100, 'c') + "\n1,2\n3,4\n", "a,b\nx,1\ny,2\nz,3\n"s,
+                                       "a,b\n1,2\n3,4\n5,6\n7,8\n"s}) {
+        const std::string path = write("short.csv", content);
+        ASSERT_TRUE(onePart.load(path, error)) << error;
+        const std::vector<std::vector<double>> expected = {column(1), column(2)};
+        ASSERT_TRUE(twoParts.load(path, error)) << error;
+        EXPECT_EQ(expected, (std::vector<std::vector<double>>{column(1), column(2)})) << content;
+    }
 }
 
 TEST_F(DataLoading, RepositoryFindsLoadersByExtension)
