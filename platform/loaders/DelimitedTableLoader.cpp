@@ -56,7 +56,6 @@ bool DelimitedTableLoader::readInTwoParts(FileBlockReader& file, long long split
     if (!laterPart.share(file, split, FileBlockReader::ToEnd, error))
         return false;
     laterPart.setBlockHook([&cancelled](long long) { return !cancelled; });
-    file.endAt(split);
     ColumnTable laterTable = table.continuation(firstRows, laterRows);
     TableReader laterReader(laterPart, layout, laterTable, reader.columns());
     const auto readLater = [&laterReader] { return laterReader.read(); };
