@@ -10,6 +10,13 @@ const StringList ScatterColor{"FieldMap", "Scatter", "Color"};
 const StringList Mode{"GlobalRGB", "RGBMode"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
 using Events = StateChangeRecorder::Events;
+using Values = std::vector<std::optional<long>>;
+
+// The scatter colour of each of the three field maps.
+Values scatterColors()
+{
+    return {readLong(ScatterColor, 1), readLong(ScatterColor, 2), readLong(ScatterColor, 3)};
+}
 
 typedef SampleKernelTest StyleWrite; // five variables
 
@@ -125,14 +132,10 @@ typedef SampleKernelTest StyleCollection; // three zones, so three field maps
 TEST_F(StyleCollection, AnOffsetOrASetSelectsTheMembersWrittenOthersAreRefused)
 {
     EXPECT_EQ(SetValue_Ok, writeLong(ScatterColor, 1, 2));
-    EXPECT_EQ((std::vector<std::optional<long>>{0, 1, 0}),
-              (std::vector<std::optional<long>>{readLong(ScatterColor, 1), readLong(ScatterColor, 2),
-                                                readLong(ScatterColor, 3)}));
+    EXPECT_EQ((Values{0, 1, 0}), scatterColors());
     const Set members{1, 3};
     EXPECT_EQ(SetValue_Ok, writeLong(ScatterColor, 5, -1, &members));
-    EXPECT_EQ((std::vector<std::optional<long>>{5, 1, 5}),
-              (std::vector<std::optional<long>>{readLong(ScatterColor, 1), readLong(ScatterColor, 2),
-                                                readLong(ScatterColor, 3)}));
+    EXPECT_EQ((Values{5, 1, 5}), scatterColors());
     // Members of removed zones are forgotten.
     Kernel::loadSampleDataSet("Small");
     Kernel::loadSampleDataSet("Sample");
