@@ -11,12 +11,7 @@ const StringList Mode{"GlobalRGB", "RGBMode"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
 using Events = StateChangeRecorder::Events;
 using Values = std::vector<std::optional<long>>;
-
-// The scatter colour of each of the three field maps.
-Values scatterColors()
-{
-    return {readLong(ScatterColor, 1), readLong(ScatterColor, 2), readLong(ScatterColor, 3)};
-}
+Values scatterColors() { return {readLong(ScatterColor, 1), readLong(ScatterColor, 2), readLong(ScatterColor, 3)}; }
 
 typedef SampleKernelTest StyleWrite; // five variables
 

@@ -68,28 +68,9 @@ void choose(QComboBox* box, const QString& name)
     ASSERT_EQ(box->currentText(), name);
 }
 
-Texts rows(QWidget& d)
-{
-    return {row(d, 1), row(d, 2), row(d, 3)};
-}
-
-long style(const StringList& path)
-{
-    return styleValue<long>(path);
-}
-
-std::vector<long> styles(const std::vector<StringList>& paths)
-{
-    std::vector<long> values;
-    for (const StringList& path : paths)
-        values.push_back(style(path));
-    return values;
-}
-
-std::vector<long> channels()
-{
-    return styles({Red, Green, Blue});
-}
+Texts rows(QWidget& d) { return {row(d, 1), row(d, 2), row(d, 3)}; }
+long style(const StringList& path) { return styleValue<long>(path); }
+std::vector<long> channels() { return {style(Red), style(Green), style(Blue)}; }
 
 struct NoAssignment : VariableSelectDialog::DefaultVarAssignmentInterface
 {
@@ -180,9 +161,9 @@ TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseC
         choose(combo(*dialog, 1), "Temperature");
         choose(combo(*dialog, 3), "X");
     });
-    EXPECT_EQ((std::vector<long>{5, 2, 1}),
-              styles({{"ThreeDAxis", "XDetail", "VarNum"}, {"ThreeDAxis", "YDetail", "VarNum"},
-                      {"ThreeDAxis", "ZDetail", "VarNum"}}));
+    EXPECT_EQ(5, style({"ThreeDAxis", "XDetail", "VarNum"}));
+    EXPECT_EQ(2, style({"ThreeDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ(1, style({"ThreeDAxis", "ZDetail", "VarNum"}));
     EXPECT_EQ(4, style(Y2D)) << "the 2D axes are not the 3D frame's";
 }
 
@@ -194,7 +175,8 @@ TEST_F(VariableSelectDialogTest, VectorDialogStartsFromTheCandidatesAndWritesThe
         // The variables after the axes' X and Y.
         EXPECT_EQ((Texts{"&U Z", "&V Pressure", "hidden"}), rows(*dialog));
     });
-    EXPECT_EQ((std::vector<long>{3, 4}), styles({U2D, V2D}));
+    EXPECT_EQ(3, style(U2D));
+    EXPECT_EQ(4, style(V2D));
     EXPECT_EQ(2, Kernel::styleWriteCount());
     delete dialog;
 
@@ -208,8 +190,9 @@ TEST_F(VariableSelectDialogTest, VectorDialogStartsFromTheCandidatesAndWritesThe
         EXPECT_EQ((Texts{"&U u", "&V V", "&W w"}), rows(*dialog));
         choose(combo(*dialog, 3), "P");
     });
-    EXPECT_EQ((std::vector<long>{7, 6, 4}),
-              styles({{"GlobalThreeDVector", "UVar"}, {"GlobalThreeDVector", "VVar"}, {"GlobalThreeDVector", "WVar"}}));
+    EXPECT_EQ(7, style({"GlobalThreeDVector", "UVar"}));
+    EXPECT_EQ(6, style({"GlobalThreeDVector", "VVar"}));
+    EXPECT_EQ(4, style({"GlobalThreeDVector", "WVar"}));
 }
 
 TEST_F(VariableSelectDialogTest, OkIsOneUndoStepAndCancelWritesNothing)
@@ -427,7 +410,8 @@ TEST_F(VariableSelectDialogTest, VectorStrategyAsksOnlyWhenTheStyleHasNoUsableVe
         });
         EXPECT_EQ(accept, mayTurnOnVectors(PlotType_TwoD));
     }
-    EXPECT_EQ((std::vector<long>{3, 4}), styles({U2D, V2D}));
+    EXPECT_EQ(3, style(U2D));
+    EXPECT_EQ(4, style(V2D));
 
     // Now the style names usable components: no dialog.
     delete VariableSelectDialog::liveInstance();
