@@ -230,7 +230,7 @@ TEST_F(VariableSelectDialogTest, OkIsOneUndoStepAndCancelWritesNothing)
     EXPECT_EQ(0.5, styleValue<double>({"GlobalRGB", "RangeMax"}));
 }
 
-TEST_F(VariableSelectDialogTest, OkWithoutChangesWritesNothingButStillRunsTheActionInABalancedStep)
+TEST_F(VariableSelectDialogTest, OkRunsTheLastActionInABalancedStepAndARefusalKeepsTheDialogOpen)
 {
     VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
     int first = 0, second = 0;
@@ -245,11 +245,7 @@ TEST_F(VariableSelectDialogTest, OkWithoutChangesWritesNothingButStillRunsTheAct
     ASSERT_TRUE(OrrUtilUndoPerform());
     EXPECT_EQ(1, style(X2D));
     EXPECT_FALSE(OrrUtilUndoPerform());
-}
 
-TEST_F(VariableSelectDialogTest, RefusedValueIsShownTheDialogStaysOpenAndTheHostIsLeftBalanced)
-{
-    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
     // The action writes a value the kernel refuses, after the axis was written.
     dialog->setPostAssignmentAction([] {
         orrery::sdk::styleproperties::KernelProperty<int> u{orrery::toolbox::StyleValue(U2D)};
