@@ -168,10 +168,9 @@ TEST_F(KernelDataSet, VectorLayerAndRGBChannelsNeedEnabledVariables)
     EXPECT_TRUE(okToTurnOnVectorLayer(PlotType_TwoD));
     EXPECT_FALSE(okToTurnOnVectorLayer(PlotType_ThreeD)); // not what the frame shows
 
-    EXPECT_TRUE(checkRGBChannelVars(3, 4, 5));
-    EXPECT_TRUE(checkRGBChannelVars(3, 3, 3));
-    EXPECT_FALSE(checkRGBChannelVars(3, 4, 0));
-    EXPECT_FALSE(checkRGBChannelVars(3, 4, 6));
+    EXPECT_EQ((std::vector<bool>{true, true, false, false}),
+              (std::vector<bool>{checkRGBChannelVars(3, 4, 5), checkRGBChannelVars(3, 3, 3),
+                                 checkRGBChannelVars(3, 4, 0), checkRGBChannelVars(3, 4, 6)}));
     const StyleValue group("GlobalRGB");
     EXPECT_FALSE(checkRGBChannelVars(group));
     writeLong({"GlobalRGB", "RedChannelVar"}, 1);

@@ -96,12 +96,9 @@ TEST_F(JournalRecording, BracketLinesAppearWhenTheOutermostBracketClosesAndNotWh
     EXPECT_EQ(undoName(), "Assign Variables");
 
     EXPECT_TRUE(OrrUtilUndoPerform());
-    EXPECT_EQ(styleValue<long>({"TwoDAxis", "XDetail", "VarNum"}), 1);
-    EXPECT_EQ(styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}), 2);
     EXPECT_EQ(journal().back(), "undo");
     EXPECT_TRUE(OrrUtilRedoPerform());
     EXPECT_EQ(journal().back(), "redo");
-    EXPECT_EQ(styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}), 5);
 }
 
 TEST_F(JournalRecording, SavedJournalReplayedOnTheSameDataSetGivesTheSameStyle)
@@ -197,15 +194,16 @@ TEST_F(JournalRecording, EveryKindOfBadLineIsRefusedWithAReasonAndChangesNothing
         {"style X/" + std::string(JournalReplayer::MaxLineLength, 'x'), "longer than"},
     };
     for (const auto& [line, reason] : bad) {
+        SCOPED_TRACE(line.substr(0, 60));
         Kernel::resetKernel();
         Kernel::loadSampleDataSet();
         const JournalReplayer::Result result = replay(line + "\n");
-        EXPECT_FALSE(result.ok) << line.substr(0, 60);
-        EXPECT_EQ(result.line, 1) << line.substr(0, 60);
+        EXPECT_FALSE(result.ok);
+        EXPECT_EQ(result.line, 1);
         EXPECT_NE(result.message.find(reason), std::string::npos) << result.message.substr(0, 200);
         EXPECT_EQ(result.message.rfind("session.orj, line 1: ", 0), 0u) << result.message.substr(0, 200);
-        EXPECT_TRUE(journal().empty()) << line.substr(0, 60);
-        EXPECT_EQ(undoName(), "") << line.substr(0, 60);
+        EXPECT_TRUE(journal().empty());
+        EXPECT_EQ(undoName(), "");
     }
 }
 

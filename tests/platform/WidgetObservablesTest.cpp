@@ -51,17 +51,14 @@ TEST(HostSpinBoxesTest, ScientificSpinBoxTellsFinishedUnfinishedAndImpossibleTex
     spin.setValue(0.1);
     EXPECT_EQ(spin.text(), QStringLiteral("0.1")); // plain when it reads well, as 1.5e-07 otherwise
     int position = 0;
-    QString text;
     const std::vector<std::pair<QString, QValidator::State>> cases = {
         {QStringLiteral("2.5e-3"), QValidator::Acceptable}, {QStringLiteral("-"), QValidator::Intermediate},
         {QStringLiteral("1e"), QValidator::Intermediate},    {QStringLiteral(""), QValidator::Intermediate},
         {QStringLiteral("1x"), QValidator::Invalid},         {QStringLiteral("1,5"), QValidator::Invalid}};
-    for (const auto& c : cases) {
-        text = c.first;
-        EXPECT_EQ(spin.validate(text, position), c.second) << c.first.toStdString();
-    }
+    for (auto [text, state] : cases)
+        EXPECT_EQ(spin.validate(text, position), state) << text.toStdString();
     spin.setRange(0.0, 1.0);
-    text = QStringLiteral("2");
+    QString text = QStringLiteral("2");
     EXPECT_EQ(spin.validate(text, position), QValidator::Intermediate);
     EXPECT_DOUBLE_EQ(spin.value(), 0.1);
 }

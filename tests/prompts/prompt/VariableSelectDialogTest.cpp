@@ -28,6 +28,8 @@ const StringList Y2D{"TwoDAxis", "YDetail", "VarNum"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
 const StringList Green{"GlobalRGB", "GreenChannelVar"};
 const StringList Blue{"GlobalRGB", "BlueChannelVar"};
+const StringList U2D{"GlobalTwoDVector", "UVar"};
+const StringList V2D{"GlobalTwoDVector", "VVar"};
 
 QComboBox* combo(QWidget& d, int i)
 {
@@ -66,10 +68,9 @@ void choose(QComboBox* box, const QString& name)
     ASSERT_EQ(box->currentText(), name);
 }
 
-long style(const StringList& path)
-{
-    return styleValue<long>(path);
-}
+Texts rows(QWidget& d) { return {row(d, 1), row(d, 2), row(d, 3)}; }
+long style(const StringList& path) { return styleValue<long>(path); }
+std::vector<long> channels() { return {style(Red), style(Green), style(Blue)}; }
 
 struct NoAssignment : VariableSelectDialog::DefaultVarAssignmentInterface
 {
@@ -104,18 +105,23 @@ protected:
     }
     // Presses OK and expects the dialog to close.
     static void ok(QDialog& d) { user::press(d, QDialogButtonBox::Ok); }
+    // Runs the dialog, lets whileOpen act, then accepts it with OK.
+    static void accept(orrery::dialogs::common::QtDialogAbstract& d, const std::function<void()>& whileOpen = [] {})
+    {
+        EXPECT_EQ(QDialog::Accepted, run(d, [&] {
+            whileOpen();
+            ok(d);
+        }));
+    }
 };
 
 TEST_F(VariableSelectDialogTest, LayoutContract)
 {
     VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
-    // Before launch the layout shows its own placeholder texts.
+    // The rows' placeholder texts are replaced at launch; the runs below check what is shown.
     contract::expectWidgets(*dialog, {
         {"VariableSelectDialog", "orrery::dialogs::prompt::VariableSelectDialog", "Select Variables"},
-        {"instructions_label", "QLabel", "Choose the vector variables:"},
-        {"var1_label", "QLabel", "&U:"},
-        {"var2_label", "QLabel", "&V:"},
-        {"var3_label", "QLabel", "&W:"},
+        {"instructions_label", "QLabel", nullptr},
     });
     for (int i = 1; i <= 3; ++i)
     {
@@ -135,15 +141,14 @@ TEST_F(VariableSelectDialogTest, LayoutContract)
 TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseChanged)
 {
     VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+    accept(*dialog, [&] {
         EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(),
                   "Choose the variables to assign to the axes.");
-        EXPECT_EQ((Texts{"&X X", "&Y Y", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        EXPECT_EQ((Texts{"&X X", "&Y Y", "hidden"}), rows(*dialog));
         EXPECT_EQ((Texts{"X", "Y", "Z", "Pressure", "Temperature"}), listed(combo(*dialog, 1)));
         choose(combo(*dialog, 2), "Pressure");
         EXPECT_EQ(0, Kernel::styleWriteCount()) << "nothing reaches the kernel before OK";
-        ok(*dialog);
-    }));
+    });
     EXPECT_EQ(1, Kernel::styleWriteCount());
     EXPECT_EQ(4, style(Y2D));
     EXPECT_EQ(1, Kernel::styleWriteCount(Y2D));
@@ -151,12 +156,11 @@ TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseC
 
     Kernel::setPlotType(PlotType_ThreeD);
     dialog = AxisVariableSelectDialog::getInstance(parent);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
-        EXPECT_EQ((Texts{"&X X", "&Y Y", "&Z Z"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+    accept(*dialog, [&] {
+        EXPECT_EQ((Texts{"&X X", "&Y Y", "&Z Z"}), rows(*dialog));
         choose(combo(*dialog, 1), "Temperature");
         choose(combo(*dialog, 3), "X");
-        ok(*dialog);
-    }));
+    });
     EXPECT_EQ(5, style({"ThreeDAxis", "XDetail", "VarNum"}));
     EXPECT_EQ(2, style({"ThreeDAxis", "YDetail", "VarNum"}));
     EXPECT_EQ(1, style({"ThreeDAxis", "ZDetail", "VarNum"}));
@@ -166,14 +170,13 @@ TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseC
 TEST_F(VariableSelectDialogTest, VectorDialogStartsFromTheCandidatesAndWritesTheComponents)
 {
     VariableSelectDialog* dialog = VectorVariableSelectDialog::getInstance(parent, PlotType_TwoD);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+    accept(*dialog, [&] {
         EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(), "Choose the vector variables.");
         // The variables after the axes' X and Y.
-        EXPECT_EQ((Texts{"&U Z", "&V Pressure", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
-        ok(*dialog);
-    }));
-    EXPECT_EQ(3, style({"GlobalTwoDVector", "UVar"}));
-    EXPECT_EQ(4, style({"GlobalTwoDVector", "VVar"}));
+        EXPECT_EQ((Texts{"&U Z", "&V Pressure", "hidden"}), rows(*dialog));
+    });
+    EXPECT_EQ(3, style(U2D));
+    EXPECT_EQ(4, style(V2D));
     EXPECT_EQ(2, Kernel::styleWriteCount());
     delete dialog;
 
@@ -183,11 +186,10 @@ TEST_F(VariableSelectDialogTest, VectorDialogStartsFromTheCandidatesAndWritesThe
     Kernel::setDataSet(flow);
     Kernel::setPlotType(PlotType_ThreeD);
     dialog = VectorVariableSelectDialog::getInstance(parent, PlotType_ThreeD);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
-        EXPECT_EQ((Texts{"&U u", "&V V", "&W w"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+    accept(*dialog, [&] {
+        EXPECT_EQ((Texts{"&U u", "&V V", "&W w"}), rows(*dialog));
         choose(combo(*dialog, 3), "P");
-        ok(*dialog);
-    }));
+    });
     EXPECT_EQ(7, style({"GlobalThreeDVector", "UVar"}));
     EXPECT_EQ(6, style({"GlobalThreeDVector", "VVar"}));
     EXPECT_EQ(4, style({"GlobalThreeDVector", "WVar"}));
@@ -210,33 +212,31 @@ TEST_F(VariableSelectDialogTest, OkIsOneUndoStepAndCancelWritesNothing)
         ++actions;
         Kernel::setStyle({"GlobalRGB", "RangeMax"}, 0.5);
     });
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
-        EXPECT_EQ((Texts{"&R X", "&G Pressure", "&B Temperature"}),
-                  (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}))
-            << "Cancel keeps the dialog's choices for its next run";
-        ok(*dialog);
-    }));
+    accept(*dialog, [&] {
+        // Cancel kept the dialog's choice for its next run.
+        EXPECT_EQ((Texts{"&R X", "&G Pressure", "&B Temperature"}), rows(*dialog));
+    });
     EXPECT_EQ(1, actions);
-    EXPECT_EQ((std::vector<long>{1, 4, 5}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ((std::vector<long>{1, 4, 5}), channels());
     EXPECT_EQ(0.5, styleValue<double>({"GlobalRGB", "RangeMax"}));
     EXPECT_EQ(0, orrery::sdk::AppLock::depth());
 
     ASSERT_TRUE(OrrUtilUndoPerform());
-    EXPECT_EQ((std::vector<long>{0, 0, 0}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ((std::vector<long>{0, 0, 0}), channels());
     EXPECT_EQ(1.0, styleValue<double>({"GlobalRGB", "RangeMax"})) << "the action's writes belong to the step";
     EXPECT_FALSE(OrrUtilUndoPerform());
     ASSERT_TRUE(OrrUtilRedoPerform());
-    EXPECT_EQ((std::vector<long>{1, 4, 5}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    EXPECT_EQ((std::vector<long>{1, 4, 5}), channels());
     EXPECT_EQ(0.5, styleValue<double>({"GlobalRGB", "RangeMax"}));
 }
 
-TEST_F(VariableSelectDialogTest, OkWithoutChangesWritesNothingButStillRunsTheActionInABalancedStep)
+TEST_F(VariableSelectDialogTest, OkRunsTheLastActionInABalancedStepAndARefusalKeepsTheDialogOpen)
 {
     VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
     int first = 0, second = 0;
     dialog->setPostAssignmentAction([&] { ++first; });
     dialog->setPostAssignmentAction([&] { ++second; });
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    accept(*dialog);
     EXPECT_EQ(0, Kernel::styleWriteCount());
     EXPECT_EQ(0, first) << "only the last action set runs";
     EXPECT_EQ(1, second);
@@ -245,17 +245,13 @@ TEST_F(VariableSelectDialogTest, OkWithoutChangesWritesNothingButStillRunsTheAct
     ASSERT_TRUE(OrrUtilUndoPerform());
     EXPECT_EQ(1, style(X2D));
     EXPECT_FALSE(OrrUtilUndoPerform());
-}
 
-TEST_F(VariableSelectDialogTest, RefusedValueIsShownTheDialogStaysOpenAndTheHostIsLeftBalanced)
-{
-    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
     // The action writes a value the kernel refuses, after the axis was written.
     dialog->setPostAssignmentAction([] {
-        orrery::sdk::styleproperties::KernelProperty<int> u(orrery::toolbox::StyleValue(StringList{"GlobalTwoDVector", "UVar"}));
+        orrery::sdk::styleproperties::KernelProperty<int> u{orrery::toolbox::StyleValue(U2D)};
         u.setValue(9);
     });
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+    accept(*dialog, [&] {
         choose(combo(*dialog, 1), "Z");
         ok(*dialog);
         EXPECT_TRUE(dialog->isVisible());
@@ -263,8 +259,7 @@ TEST_F(VariableSelectDialogTest, RefusedValueIsShownTheDialogStaysOpenAndTheHost
         EXPECT_EQ(0, orrery::sdk::AppLock::depth());
         EXPECT_EQ(3, style(X2D)) << "what was written before the refusal stays";
         dialog->setPostAssignmentAction({});
-        ok(*dialog);
-    }));
+    });
     // The refused OK's partial step; the second OK wrote nothing.
     ASSERT_TRUE(OrrUtilUndoPerform());
     EXPECT_EQ(1, style(X2D));
@@ -285,11 +280,10 @@ TEST_F(VariableSelectDialogTest, LiveDialogIsReusedWithItsOwnPathsAndTextsUntilD
 {
     VariableSelectDialog* rgb = RGBVariableSelectDialog::getInstance(parent);
     EXPECT_EQ(rgb, AxisVariableSelectDialog::getInstance(parent));
-    EXPECT_EQ(QDialog::Accepted, run(*rgb, [&] {
+    accept(*rgb, [&] {
         EXPECT_EQ("&R Z", row(*rgb, 1));
         choose(combo(*rgb, 1), "Y");
-        ok(*rgb);
-    }));
+    });
     EXPECT_EQ(2, style(Red));
     EXPECT_EQ(1, style(X2D));
     delete rgb;
@@ -307,11 +301,10 @@ TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
     Kernel::loadSampleDataSet("Small");
     VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
     // Candidates X, Y and none: the blue list shows its first variable, and OK writes what is shown.
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
-        EXPECT_EQ((Texts{"&R X", "&G Y", "&B X"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
-        ok(*dialog);
-    }));
-    EXPECT_EQ((std::vector<long>{1, 2, 1}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    accept(*dialog, [&] {
+        EXPECT_EQ((Texts{"&R X", "&G Y", "&B X"}), rows(*dialog));
+    });
+    EXPECT_EQ((std::vector<long>{1, 2, 1}), channels());
     delete dialog;
 
     // Variables named for the channels win over the order of the data set.
@@ -319,22 +312,21 @@ TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
     image.addZone("Pixels", {{0}, {0}, {0}, {0}, {0}});
     Kernel::setDataSet(image);
     dialog = RGBVariableSelectDialog::getInstance(parent);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
-        EXPECT_EQ((Texts{"&R R", "&G Green", "&B blue"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
-        ok(*dialog);
-    }));
-    EXPECT_EQ((std::vector<long>{5, 4, 3}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    accept(*dialog, [&] {
+        EXPECT_EQ((Texts{"&R R", "&G Green", "&B blue"}), rows(*dialog));
+    });
+    EXPECT_EQ((std::vector<long>{5, 4, 3}), channels());
 }
 
 TEST_F(VariableSelectDialogTest, ListsFollowTheDataSetWhileOpenAndVanishedChoicesAreDropped)
 {
     VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+    accept(*dialog, [&] {
         EXPECT_EQ("&G Pressure", row(*dialog, 2));
         Kernel::setEnabledVars({1, 2, 3, 5});
         runIdle();
         EXPECT_EQ((Texts{"X", "Y", "Z", "Temperature"}), listed(combo(*dialog, 2)));
-        EXPECT_EQ((Texts{"&R Z", "&G X", "&B Temperature"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+        EXPECT_EQ((Texts{"&R Z", "&G X", "&B Temperature"}), rows(*dialog));
         // A file loaded while the dialog is open brings its variables.
         orrery::kernel::DataSet more("More", {"X", "Y", "Z", "Pressure", "Temperature", "Density"});
         more.addZone("All", {{0}, {0}, {0}, {0}, {0}, {0}});
@@ -342,9 +334,8 @@ TEST_F(VariableSelectDialogTest, ListsFollowTheDataSetWhileOpenAndVanishedChoice
         runIdle();
         EXPECT_EQ("Density", listed(combo(*dialog, 3)).back());
         choose(combo(*dialog, 3), "Density");
-        ok(*dialog);
-    }));
-    EXPECT_EQ((std::vector<long>{3, 1, 6}), (std::vector<long>{style(Red), style(Green), style(Blue)}));
+    });
+    EXPECT_EQ((std::vector<long>{3, 1, 6}), channels());
 }
 
 TEST_F(VariableSelectDialogTest, MissingLabelsFailBeforeShowingAndFailedAssignmentLeavesNoDialog)
@@ -381,7 +372,7 @@ TEST_F(VariableSelectDialogTest, AxisAndVectorDialogsNeedAFrameWithAFieldPlot)
     // Built anyway, on empty paths: nothing to write, nothing breaks.
     const int writes = Kernel::styleWriteCount();
     VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    accept(*dialog);
     EXPECT_EQ(writes, Kernel::styleWriteCount());
     delete dialog;
     Kernel::setPlotType(PlotType_ThreeD);
@@ -389,7 +380,7 @@ TEST_F(VariableSelectDialogTest, AxisAndVectorDialogsNeedAFrameWithAFieldPlot)
     Kernel::setFrameCount(0);
     EXPECT_EQ(std::make_pair(false, false), relevant());
     dialog = VectorVariableSelectDialog::getInstance(parent, OrrUtilFrameGetPlotType());
-    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] { ok(*dialog); }));
+    accept(*dialog);
     delete dialog;
     Kernel::setFrameCount(1);
     Kernel::setPageCount(0);
@@ -415,8 +406,8 @@ TEST_F(VariableSelectDialogTest, VectorStrategyAsksOnlyWhenTheStyleHasNoUsableVe
         });
         EXPECT_EQ(accept, mayTurnOnVectors(PlotType_TwoD));
     }
-    EXPECT_EQ(3, style({"GlobalTwoDVector", "UVar"}));
-    EXPECT_EQ(4, style({"GlobalTwoDVector", "VVar"}));
+    EXPECT_EQ(3, style(U2D));
+    EXPECT_EQ(4, style(V2D));
 
     // Now the style names usable components: no dialog.
     delete VariableSelectDialog::liveInstance();
@@ -435,7 +426,7 @@ TEST_F(VariableSelectDialogTest, AddonDialogSkipsNullLabelsAndEditsTheAddonsProp
     user::open(*dialog);
     runIdle();
     EXPECT_EQ(dialog->findChild<QLabel*>("instructions_label")->text(), "Pick the add-on's inputs.");
-    EXPECT_EQ((Texts{"A X", "C Y", "hidden"}), (Texts{row(*dialog, 1), row(*dialog, 2), row(*dialog, 3)}));
+    EXPECT_EQ((Texts{"A X", "C Y", "hidden"}), rows(*dialog));
     choose(combo(*dialog, 2), "Temperature");
     EXPECT_EQ(5, var2->getValue()) << "the second row edits the second property";
     var3->setValue(4);
