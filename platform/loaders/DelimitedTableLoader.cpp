@@ -3,7 +3,6 @@
 #include <atomic>
 #include <future>
 #include <memory>
-#include <new>
 #include <system_error>
 #include <thread>
 #include <QFile>
@@ -12,6 +11,7 @@
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
+#include "platform/loaders/LoadGuard.h"
 #include "platform/loaders/LoadProgress.h"
 #include "platform/loaders/TableReader.h"
 #include "platform/loaders/TableLayout.h"
@@ -77,14 +77,7 @@ bool DelimitedTableLoader::readInTwoParts(FileBlockReader& file, long long split
 
 bool DelimitedTableLoader::load(const std::string& path, std::string& error)
 {
-    try {
-        return loadTable(path, error);
-    } catch (const std::bad_alloc&) {
-        error = "Not enough memory to load " + FileBlockReader::displayName(path) + ".";
-    } catch (const std::exception& e) {
-        error = "Cannot load " + FileBlockReader::displayName(path) + ": " + e.what();
-    }
-    return false;
+    return LoadGuard::run(path, error, [&] { return loadTable(path, error); });
 }
 
 bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error)

@@ -1,11 +1,11 @@
 #include "platform/loaders/ZoneBlockDataLoader.h"
-#include <new>
 #include <utility>
 #include <vector>
 #include "platform/kernel/Kernel.h"
 #include "platform/loaders/ColumnTable.h"
 #include "platform/loaders/FieldTokenizer.h"
 #include "platform/loaders/FileBlockReader.h"
+#include "platform/loaders/LoadGuard.h"
 
 namespace orrery {
 namespace sdk {
@@ -35,14 +35,7 @@ DataLoaderInterface::Properties ZoneBlockDataLoader::properties() const
 
 bool ZoneBlockDataLoader::load(const std::string& path, std::string& error)
 {
-    try {
-        return loadZones(path, error);
-    } catch (const std::bad_alloc&) {
-        error = "Not enough memory to load " + FileBlockReader::displayName(path) + ".";
-    } catch (const std::exception& e) {
-        error = "Cannot load " + FileBlockReader::displayName(path) + ": " + e.what();
-    }
-    return false;
+    return LoadGuard::run(path, error, [&] { return loadZones(path, error); });
 }
 
 bool ZoneBlockDataLoader::loadZones(const std::string& path, std::string& error)

@@ -16,24 +16,14 @@ using testsupport::SampleKernelTest;
 
 namespace {
 
-QByteArray bigEndianFloats(const std::vector<float>& values)
+template <typename T>
+QByteArray bigEndian(const std::vector<T>& values)
 {
     QByteArray out;
-    for (float v : values) {
-        char bytes[4];
+    for (T v : values) {
+        char bytes[sizeof(T)];
         qToBigEndian(v, bytes);
-        out.append(bytes, 4);
-    }
-    return out;
-}
-
-QByteArray bigEndianDoubles(const std::vector<double>& values)
-{
-    QByteArray out;
-    for (double v : values) {
-        char bytes[8];
-        qToBigEndian(v, bytes);
-        out.append(bytes, 8);
+        out.append(bytes, sizeof(T));
     }
     return out;
 }
@@ -112,9 +102,9 @@ TEST_F(VtkLoading, BinaryStructuredGridIsReadBigEndianWhateverTheBytesLookLike)
     const std::vector<double> temperature{2.5, -1e-3, 1e300, 7};
     QByteArray file = "# vtk DataFile Version 3.0\nBinary grid\nBINARY\nDATASET STRUCTURED_GRID\n"
                       "DIMENSIONS 2 2 1\nPOINTS 4 float\n";
-    file += bigEndianFloats(points);
+    file += bigEndian(points);
     file += "\nPOINT_DATA 4\nSCALARS temperature double 1\nLOOKUP_TABLE default\n";
-    file += bigEndianDoubles(temperature);
+    file += bigEndian(temperature);
     file += "\nSCALARS flag unsigned_char\nLOOKUP_TABLE default\n";
     file += QByteArray("\x0a\x00\xff\x41", 4);
     file += "\n";
@@ -139,7 +129,7 @@ TEST_F(VtkLoading, UnstructuredGridsOfBothCellLayoutsKeepPointsAndPointDataOnly)
 
     QByteArray binary = "# vtk DataFile Version 5.1\nNew layout\nBINARY\nDATASET UNSTRUCTURED_GRID\n"
                         "POINTS 2 double\n";
-    binary += bigEndianDoubles({1, 2, 3, 4, 5, 6});
+    binary += bigEndian<double>({1, 2, 3, 4, 5, 6});
     binary += "\nCELLS 2 2\nOFFSETS vtktypeint64\n";
     binary += QByteArray("\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x02", 16);
     binary += "\nCONNECTIVITY vtktypeint64\n";
@@ -147,7 +137,7 @@ TEST_F(VtkLoading, UnstructuredGridsOfBothCellLayoutsKeepPointsAndPointDataOnly)
     binary += "\nCELL_TYPES 1\n";
     binary += QByteArray("\0\0\0\x03", 4);
     binary += "\nPOINT_DATA 2\nNORMALS n float\n";
-    binary += bigEndianFloats({0, 0, 1, 0, 1, 0});
+    binary += bigEndian<float>({0, 0, 1, 0, 1, 0});
     ASSERT_TRUE(load(binary)) << error;
     EXPECT_EQ(values("Y"), (std::vector<double>{2, 5}));
     EXPECT_EQ(values("n_Z"), (std::vector<double>{1, 0}));
@@ -225,7 +215,7 @@ TEST_F(VtkLoading, ALongLoadReportsProgressAndCancellingItKeepsTheDataSet)
     QByteArray file = "# vtk DataFile Version 3.0\nbig\nBINARY\nDATASET STRUCTURED_POINTS\n";
     file += "DIMENSIONS " + QByteArray::number(n) + " 1 1\nPOINT_DATA " + QByteArray::number(n) +
             "\nSCALARS s double\nLOOKUP_TABLE default\n";
-    file += bigEndianDoubles(std::vector<double>(size_t(n), 1.0));
+    file += bigEndian(std::vector<double>(size_t(n), 1.0));
     std::vector<std::uint64_t> reports;
     LoadProgress::setHandler([&](std::uint64_t done, std::uint64_t total) {
         EXPECT_EQ(total, std::uint64_t(file.size()));
