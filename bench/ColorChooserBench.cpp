@@ -13,7 +13,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 #include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ColorChooserDialog.h"
 
@@ -131,7 +131,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+    orrery::kernel::KernelDriver::loadSampleDataSet();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -19,11 +19,11 @@
 #include <QPainter>
 #include <QtEndian>
 #include "demo/PlotView.h"
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/loaders/DataLoaderRepository.h"
 
-using orrery::kernel::testing::KernelTestSupport;
+using orrery::kernel::KernelDriver;
 
 // Heap bytes in use and the most since the last reset, counted for every
 // allocation of the program.
@@ -78,8 +78,8 @@ void putMillionPoints()
     }
     orrery::kernel::DataSet data("Million", {"X", "Y"});
     data.addZone("Cloud", values);
-    KernelTestSupport::resetKernel();
-    KernelTestSupport::setDataSet(data);
+    KernelDriver::resetKernel();
+    KernelDriver::setDataSet(data);
 }
 
 void PlotRedrawMillionPoints(benchmark::State& state)
@@ -176,7 +176,7 @@ void VtkLoad(benchmark::State& state)
     auto loader = orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("VTK legacy");
     long long peak = 0;
     for (auto _ : state) {
-        KernelTestSupport::clearDataSet();
+        KernelDriver::clearDataSet();
         g_peak = g_inUse.load();
         const long long before = g_inUse.load();
         std::string error;

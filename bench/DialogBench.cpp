@@ -15,7 +15,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
@@ -224,7 +224,7 @@ int main(int argc, char** argv)
     QTemporaryDir settings; // the loader chooser reads its history from here
     qputenv("ORRERY_SETTINGS_DIR", settings.path().toUtf8());
     QApplication app(argc, argv);
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+    orrery::kernel::KernelDriver::loadSampleDataSet();
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 3 && arguments[1] == "--cold-start")
         return coldStartChild(arguments[2]);

@@ -24,9 +24,9 @@
 #include <csv.h>
 #endif
 
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/KernelTestSupport.h"
-#include "platform/loaders/CsvDataLoader.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/KernelDriver.h"
+#include "host/loaders/CsvDataLoader.h"
 
 namespace {
 
@@ -213,7 +213,7 @@ void CsvLoad(benchmark::State& state, bool oneThread)
     double peakRatio = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        orrery::kernel::testing::KernelTestSupport::clearDataSet();
+        orrery::kernel::KernelDriver::clearDataSet();
         const long long before = g_current;
         g_peak = before;
         state.ResumeTiming();

@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <boost/signals2/signal.hpp>
 
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "core/property/Property.h"
 #include "core/propertymanager/KernelProperty.h"
 
@@ -80,7 +80,7 @@ BENCHMARK(SetValueChangedTypedAndUntypedListeners);
 
 void KernelPropertyRead(benchmark::State& state)
 {
-    kernel::testing::KernelTestSupport::resetKernel();
+    kernel::KernelDriver::resetKernel();
     sdk::styleproperties::KernelProperty<double> p{toolbox::StyleValue("GlobalRGB", "RangeMax")};
     for (auto _ : state)
         benchmark::DoNotOptimize(p.getValue());
@@ -89,7 +89,7 @@ BENCHMARK(KernelPropertyRead);
 
 void KernelPropertyWrite(benchmark::State& state)
 {
-    kernel::testing::KernelTestSupport::resetKernel();
+    kernel::KernelDriver::resetKernel();
     sdk::styleproperties::KernelProperty<double> p{toolbox::StyleValue("GlobalRGB", "RangeMax")};
     double v = 0.5;
     for (auto _ : state) {

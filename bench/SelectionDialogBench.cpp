@@ -20,13 +20,13 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 #include "platform/common/IdleQueue.h"
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/KernelDriver.h"
 #include "prompts/prompt/RGBVariableSelectDialog.h"
 #include "prompts/prompt/ZoneSelectDialog.h"
 
 using namespace orrery::dialogs::prompt;
-using orrery::kernel::testing::KernelTestSupport;
+using orrery::kernel::KernelDriver;
 
 namespace {
 
@@ -56,7 +56,7 @@ const QStringList& loadDataSet(int zones, int vars)
             dataSet.addZone("Zone " + std::to_string(z), point);
             zoneNames << QString("Zone %1").arg(z);
         }
-        KernelTestSupport::setDataSet(dataSet);
+        KernelDriver::setDataSet(dataSet);
         loadedZones = zones;
         loadedVars = vars;
     }

@@ -17,12 +17,12 @@
 #include "demo/HostStyle.h"
 #include "demo/PlotView.h"
 #include "demo/StateView.h"
-#include "platform/kernel/JournalReplayer.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/KernelTestSupport.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/JournalReplayer.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/KernelDriver.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "platform/loaders/LoadProgress.h"
+#include "host/loaders/LoadProgress.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/sdk/StateChangeEventObservable.h"
@@ -405,7 +405,7 @@ QStringList MainWindow::sampleFolders()
 void MainWindow::buildSampleMenu(QMenu& menu)
 {
     menu.addAction(tr("Built-in: Heated Plate"), this, [this] {
-        orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+        orrery::kernel::KernelDriver::loadSampleDataSet();
         report(tr("Loaded the built-in sample data set"));
     });
     QStringList seen;

@@ -9,8 +9,8 @@
 #include <QPainterPath>
 #include "demo/AxisTicks.h"
 #include "demo/HostStyle.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
 
 namespace {
 

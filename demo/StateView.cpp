@@ -4,12 +4,12 @@
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/KernelTestSupport.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/KernelDriver.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
-using orrery::kernel::testing::KernelTestSupport;
+using orrery::kernel::KernelDriver;
 using orrery::sdk::integration::StateChangeEventInterface;
 using orrery::sdk::integration::StateChangeEventObservable;
 
@@ -157,7 +157,7 @@ void StateView::refreshStyle()
             orrery::toolbox::StringList names;
             for (const QString& name : QString(path).split('/'))
                 names.append(name.toStdString());
-            value = toText(KernelTestSupport::styleValue(names));
+            value = toText(KernelDriver::styleValue(names));
         }
         catch (const std::exception& e)
         {

@@ -5,7 +5,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include "demo/DemoUser.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/RGBColorOptsDialog.h"
 #include "prompts/prompt/ScatterSizeFontDialog.h"
 

@@ -2,7 +2,7 @@
 
 #include <sstream>
 #include <variant>
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -39,7 +39,7 @@ QString StyleWrites::valueAt(const QString& path)
                 text << value;
                 return QString::fromStdString(text.str());
             },
-            orrery::kernel::testing::KernelTestSupport::styleValue(names));
+            orrery::kernel::KernelDriver::styleValue(names));
     }
     catch (const std::exception&)
     {

@@ -5,7 +5,7 @@
 #include "demo/MainWindow.h"
 #include "demo/Tour.h"
 #include "demo/Translations.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 
 int main(int argc, char** argv)
 {
@@ -53,7 +53,7 @@ int main(int argc, char** argv)
     }
 
     MainWindow window;
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+    orrery::kernel::KernelDriver::loadSampleDataSet();
     const bool touring = parser.isSet(tour);
     // Without a window to show them in, failures end the run.
     if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))

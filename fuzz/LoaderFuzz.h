@@ -11,8 +11,8 @@
 #include <QCoreApplication>
 
 #include "fuzz/FuzzCheck.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/loaders/DataLoaderRepository.h"
 
 namespace loaderfuzz {
@@ -54,7 +54,7 @@ public:
         FUZZ_CHECK(mkdtemp(folder) != nullptr, "cannot make a scratch folder");
         m_folder = folder;
         m_path = m_folder + "/input." + extension;
-        orrery::kernel::testing::KernelTestSupport::loadSampleDataSet("Small");
+        orrery::kernel::KernelDriver::loadSampleDataSet("Small");
         m_known = fingerprint(Kernel::instance().dataSet());
     }
     ~Harness()
@@ -85,7 +85,7 @@ public:
             for (int v = 1; v <= now.numVars(); ++v)
                 FUZZ_CHECK(now.values(z, v).size() == now.pointCount(z), "zone %d var %d is ragged", z, v);
         // Back to the known data set for the next input.
-        orrery::kernel::testing::KernelTestSupport::loadSampleDataSet("Small");
+        orrery::kernel::KernelDriver::loadSampleDataSet("Small");
     }
 
 private:

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "fuzz/FuzzCheck.h"
-#include "platform/loaders/ColumnTable.h"
-#include "platform/loaders/NumberText.h"
-#include "platform/loaders/PlainNumberRows.h"
+#include "host/loaders/ColumnTable.h"
+#include "host/loaders/NumberText.h"
+#include "host/loaders/PlainNumberRows.h"
 
 using orrery::sdk::ColumnTable;
 using orrery::sdk::NumberText;

@@ -13,9 +13,9 @@
 #include <QTemporaryDir>
 
 #include "fuzz/FuzzCheck.h"
-#include "platform/settings/ApplicationSettings.h"
+#include "host/settings/SettingsFile.h"
 
-using orrery::sdk::ApplicationSettings;
+using orrery::host::SettingsFile;
 
 namespace {
 
@@ -49,7 +49,7 @@ struct Scratch
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     static Scratch scratch;
-    ApplicationSettings& settings = ApplicationSettings::getInstance();
+    SettingsFile& settings = SettingsFile::instance();
     const std::string raw(reinterpret_cast<const char*>(data), size);
 
     // The input as a file found on disk.

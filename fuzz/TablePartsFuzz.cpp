@@ -10,8 +10,8 @@
 #include <QCoreApplication>
 
 #include "fuzz/LoaderFuzz.h"
-#include "platform/loaders/CsvDataLoader.h"
-#include "platform/loaders/TextTableDataLoader.h"
+#include "host/loaders/CsvDataLoader.h"
+#include "host/loaders/TextTableDataLoader.h"
 
 using orrery::kernel::Kernel;
 using orrery::sdk::DelimitedTableLoader;
@@ -34,7 +34,7 @@ struct Loaders
             onePart[kind]->readInTwoPartsFrom(std::numeric_limits<long long>::max());
             twoParts[kind]->readInTwoPartsFrom(1);
         }
-        orrery::kernel::testing::KernelTestSupport::loadSampleDataSet("Small");
+        orrery::kernel::KernelDriver::loadSampleDataSet("Small");
     }
 
     std::string path;
@@ -60,10 +60,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     std::string oneError, twoError;
     const bool oneLoaded = loaders.onePart[kind]->load(loaders.path, oneError);
     const std::string one = loaderfuzz::fingerprint(Kernel::instance().dataSet());
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet("Small");
+    orrery::kernel::KernelDriver::loadSampleDataSet("Small");
     const bool twoLoaded = loaders.twoParts[kind]->load(loaders.path, twoError);
     const std::string two = loaderfuzz::fingerprint(Kernel::instance().dataSet());
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet("Small");
+    orrery::kernel::KernelDriver::loadSampleDataSet("Small");
 
     FUZZ_CHECK(oneLoaded == twoLoaded, "one part %s (%s), two parts %s (%s)", oneLoaded ? "loaded" : "failed",
                oneError.c_str(), twoLoaded ? "loaded" : "failed", twoError.c_str());

@@ -1,18 +1,42 @@
 #!/usr/bin/env bash
-# Fails when a file includes from a layer above its own:
-# platform < core < framework < prompts < demo, examples (tests, bench and fuzz may include anything).
+# Fails when a file includes from a layer it may not use, or when subfolders of
+# platform/ include each other in a loop.
+#   platform: itself only           host: platform
+#   core: platform                  framework: platform, core
+#   prompts: platform, core, framework
+#   demo, examples, tests, bench, fuzz: anything
 set -euo pipefail
 cd "$(dirname "$0")/.."
-rank() { case $1 in platform) echo 1;; core) echo 2;; framework) echo 3;; prompts) echo 4;; demo|examples) echo 5;; *) echo 0;; esac; }
+allowed() {
+  case $1 in
+    platform) echo "platform" ;;
+    host) echo "platform host" ;;
+    core) echo "platform core" ;;
+    framework) echo "platform core framework" ;;
+    prompts) echo "platform core framework prompts" ;;
+  esac
+}
 bad=0
+edges=$(mktemp)
+trap 'rm -f "$edges"' EXIT
 while IFS= read -r line; do
   file=${line%%:*}
   layer=${file%%/*}
-  target=$(sed -E 's/.*#include[[:space:]]*"([^/"]+)\/.*/\1/' <<<"${line#*:*:}")
-  if [ "$(rank "$target")" -gt "$(rank "$layer")" ]; then
+  path=$(sed -E 's/.*#[[:space:]]*include[[:space:]]*"([^"]+)".*/\1/' <<<"${line#*:*:}")
+  target=${path%%/*}
+  if [[ " $(allowed "$layer") " != *" $target "* ]]; then
     echo "layer violation: $line" >&2
     bad=1
   fi
-done < <(git grep -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"[a-z]+/' -- platform core framework prompts demo examples)
-[ "$bad" -eq 0 ] && echo "layers: every include points to its own layer or below"
+  if [ "$layer" = platform ] && [ "$target" = platform ]; then
+    from=$(cut -d/ -f2 <<<"$file"); to=$(cut -d/ -f2 <<<"$path")
+    [ "$from" = "$to" ] || echo "$from $to" >>"$edges"
+  fi
+done < <(git grep -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"[a-z]+/' -- platform host core framework prompts)
+# tsort names a loop on stderr when the include graph has one.
+if ! loops=$(sort -u "$edges" | tsort 2>&1 >/dev/null) || [ -n "$loops" ]; then
+  echo "platform/ subfolders include each other in a loop: $loops" >&2
+  bad=1
+fi
+[ "$bad" -eq 0 ] && echo "layers: every include is allowed, and platform/ has no include loop"
 exit "$bad"

@@ -22,3 +22,11 @@ fi
 # CMake wraps long messages, at a point that depends on the prefix path.
 tr -s "[:space:]" " " <<<"$out" | grep -q "was built with Qt $major" || { echo "$out" >&2; exit 1; }
 echo "package: installed, found, linked and run; a Qt $other host is refused"
+
+# The library's layers take the host's operations from the process, never from a link.
+for layer in platform core framework prompts; do
+  if readelf -d "$build/liborrery_$layer.so" | grep -q 'liborrery_host'; then
+    echo "package: liborrery_$layer links the stand-in host" >&2; exit 1
+  fi
+done
+echo "package: the library's layers link no host"

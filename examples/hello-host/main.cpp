@@ -5,7 +5,7 @@
 #include <QMainWindow>
 #include <QSpinBox>
 #include <QTimer>
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 using orrery::dialogs::prompt::EnterThreeIntValuesDialog;
@@ -15,7 +15,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QMainWindow host;
     // The prompts apply only while the host has data; the stand-in host brings a sample.
-    orrery::kernel::testing::KernelTestSupport::loadSampleDataSet();
+    orrery::kernel::KernelDriver::loadSampleDataSet();
     EnterThreeIntValuesDialog* dialog =
         EnterThreeIntValuesDialog::getInstance(host, 1, 100, 1, "Range", "", "&Begin", "&End", "&Skip", 1, 1, 1);
 

@@ -1,4 +1,4 @@
-#include "platform/kernel/ColorMap.h"
+#include "host/kernel/ColorMap.h"
 #include <QColor>
 
 namespace orrery {

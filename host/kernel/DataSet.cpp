@@ -1,4 +1,4 @@
-#include "platform/kernel/DataSet.h"
+#include "host/kernel/DataSet.h"
 #include <algorithm>
 #include <limits>
 #include <stdexcept>

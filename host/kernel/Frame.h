@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/kernel/StyleState.h"
+#include "host/kernel/StyleState.h"
 #include "platform/toolbox/Set.h"
 
 namespace orrery {

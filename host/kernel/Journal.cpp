@@ -1,4 +1,4 @@
-#include "platform/kernel/Journal.h"
+#include "host/kernel/Journal.h"
 #include <cerrno>
 #include <charconv>
 #include <cstdio>

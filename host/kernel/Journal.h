@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 #include <boost/signals2/signal.hpp>
-#include "platform/kernel/StyleDatum.h"
+#include "host/kernel/StyleDatum.h"
 #include "platform/toolbox/StringList.h"
 
 namespace orrery {

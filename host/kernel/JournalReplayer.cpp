@@ -1,12 +1,12 @@
-#include "platform/kernel/JournalReplayer.h"
+#include "host/kernel/JournalReplayer.h"
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstring>
 #include <fstream>
-#include "platform/kernel/Journal.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/Journal.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/AppLock.h"
 
 namespace orrery {

@@ -1,6 +1,7 @@
-#include "platform/kernel/Kernel.h"
+#include "host/kernel/Kernel.h"
 #include <algorithm>
 #include <utility>
+#include "host/loaders/BuiltInLoaders.h"
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -34,6 +35,7 @@ Kernel& Kernel::instance()
 // Built quietly: announcing here would call back into a kernel not yet made.
 Kernel::Kernel() : m_style(*this)
 {
+    host::installBuiltInLoaders();
     m_pageCount = 1;
     addFrame();
 }

@@ -3,13 +3,13 @@
 #include <optional>
 #include <string>
 #include <vector>
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/Frame.h"
-#include "platform/kernel/Journal.h"
-#include "platform/kernel/MessageBoxPresenter.h"
-#include "platform/kernel/StyleAccess.h"
-#include "platform/kernel/StyleSchema.h"
-#include "platform/kernel/UndoStack.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/Frame.h"
+#include "host/kernel/Journal.h"
+#include "host/kernel/MessageBoxPresenter.h"
+#include "host/kernel/StyleAccess.h"
+#include "host/kernel/StyleSchema.h"
+#include "host/kernel/UndoStack.h"
 
 namespace orrery {
 namespace kernel {

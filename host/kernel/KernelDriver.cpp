@@ -1,17 +1,16 @@
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include <stdexcept>
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/SampleDataSet.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/SampleDataSet.h"
 
 namespace orrery {
 namespace kernel {
-namespace testing {
 
 namespace {
 
-std::vector<KernelTestSupport::CapturedMessageBox>& captured()
+std::vector<KernelDriver::CapturedMessageBox>& captured()
 {
-    static std::vector<KernelTestSupport::CapturedMessageBox> messages;
+    static std::vector<KernelDriver::CapturedMessageBox> messages;
     return messages;
 }
 
@@ -22,70 +21,70 @@ Kernel& kernel()
 
 } // namespace
 
-void KernelTestSupport::resetKernel()
+void KernelDriver::resetKernel()
 {
     captured().clear();
     kernel().reset();
 }
 
-void KernelTestSupport::loadSampleDataSet(const std::string& name)
+void KernelDriver::loadSampleDataSet(const std::string& name)
 {
     kernel().setDataSet(SampleDataSet::make(name));
 }
 
-void KernelTestSupport::setDataSet(const DataSet& dataSet)
+void KernelDriver::setDataSet(const DataSet& dataSet)
 {
     kernel().setDataSet(dataSet);
 }
 
-void KernelTestSupport::clearDataSet()
+void KernelDriver::clearDataSet()
 {
     kernel().setDataSet(DataSet());
 }
 
-void KernelTestSupport::setPageCount(int pages)
+void KernelDriver::setPageCount(int pages)
 {
     kernel().setPageCount(pages);
 }
 
-void KernelTestSupport::setFrameCount(int frames)
+void KernelDriver::setFrameCount(int frames)
 {
     kernel().setFrameCount(frames);
 }
 
-void KernelTestSupport::setPlotType(PlotType_e plotType)
+void KernelDriver::setPlotType(PlotType_e plotType)
 {
     if (setStyle({"FrameLayout", "PlotType"}, long(plotType)) != SetValue_Ok)
         throw std::invalid_argument("The kernel refused plot type " + std::to_string(plotType));
 }
 
-void KernelTestSupport::setEnabledZones(const toolbox::Set& zones)
+void KernelDriver::setEnabledZones(const toolbox::Set& zones)
 {
     kernel().setEnabledZones(zones);
 }
 
-void KernelTestSupport::setEnabledVars(const toolbox::Set& vars)
+void KernelDriver::setEnabledVars(const toolbox::Set& vars)
 {
     kernel().setEnabledVars(vars);
 }
 
-int KernelTestSupport::styleWriteCount()
+int KernelDriver::styleWriteCount()
 {
     return kernel().style().writeCount();
 }
 
-int KernelTestSupport::styleWriteCount(const toolbox::StringList& path)
+int KernelDriver::styleWriteCount(const toolbox::StringList& path)
 {
     return kernel().style().writeCount(path.join("/"));
 }
 
-SetValueReturnCode_e KernelTestSupport::setStyle(const toolbox::StringList& path,
+SetValueReturnCode_e KernelDriver::setStyle(const toolbox::StringList& path,
                                                  const StyleDatum& value, long member)
 {
     return kernel().style().write(path, nullptr, member, AssignOp_Equals, value);
 }
 
-StyleDatum KernelTestSupport::styleValue(const toolbox::StringList& path, long member)
+StyleDatum KernelDriver::styleValue(const toolbox::StringList& path, long member)
 {
     StyleDatum value;
     if (kernel().style().read(path, member, value) != GetValue_Ok)
@@ -93,17 +92,17 @@ StyleDatum KernelTestSupport::styleValue(const toolbox::StringList& path, long m
     return value;
 }
 
-void KernelTestSupport::refuseNextWrite(const std::string& errorText)
+void KernelDriver::refuseNextWrite(const std::string& errorText)
 {
     kernel().style().forceNextVerdict(WriteVerdict::refuse(errorText));
 }
 
-void KernelTestSupport::declineNextWrite()
+void KernelDriver::declineNextWrite()
 {
     kernel().style().forceNextVerdict(WriteVerdict::decline());
 }
 
-void KernelTestSupport::captureMessageBoxes(int answer)
+void KernelDriver::captureMessageBoxes(int answer)
 {
     kernel().messageBoxes().setHandler([answer](const std::string& text, int type) {
         captured().push_back({text, type});
@@ -111,16 +110,15 @@ void KernelTestSupport::captureMessageBoxes(int answer)
     });
 }
 
-std::vector<KernelTestSupport::CapturedMessageBox> KernelTestSupport::capturedMessageBoxes()
+std::vector<KernelDriver::CapturedMessageBox> KernelDriver::capturedMessageBoxes()
 {
     return captured();
 }
 
-void KernelTestSupport::fireStateChange(StateChange_e code, const toolbox::StringList& stylePath)
+void KernelDriver::fireStateChange(StateChange_e code, const toolbox::StringList& stylePath)
 {
     kernel().announce(code, stylePath);
 }
 
-} // namespace testing
 } // namespace kernel
 } // namespace orrery

@@ -1,20 +1,19 @@
 #pragma once
 #include <string>
 #include <vector>
-#include "platform/kernel/DataSet.h"
+#include "host/kernel/DataSet.h"
 #include "platform/kernel/OrrTypes.h"
-#include "platform/kernel/StyleDatum.h"
+#include "host/kernel/StyleDatum.h"
 #include "platform/toolbox/Set.h"
 #include "platform/toolbox/StringList.h"
 
 namespace orrery {
 namespace kernel {
-namespace testing {
 
-// Drives the stand-in kernel from tests and the demo: what a user or another
+// Drives the stand-in kernel from the demo, examples and tests: what a user or another
 // part of the host would do to it. Every change is announced as the kernel
 // announces its own changes.
-class KernelTestSupport
+class KernelDriver
 {
 public:
     struct CapturedMessageBox
@@ -63,6 +62,5 @@ public:
     static void fireStateChange(StateChange_e code, const toolbox::StringList& stylePath = {});
 };
 
-} // namespace testing
 } // namespace kernel
 } // namespace orrery

@@ -1,4 +1,4 @@
-#include "platform/kernel/MessageBoxPresenter.h"
+#include "host/kernel/MessageBoxPresenter.h"
 #include <iostream>
 #include <QApplication>
 #include <QMessageBox>

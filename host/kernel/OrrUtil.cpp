@@ -1,10 +1,11 @@
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include <cstdlib>
 #include <cstring>
 #include <string>
-#include "platform/kernel/ColorMap.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/UnitConverter.h"
+#include "host/kernel/ColorMap.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/StyleNameRegistry.h"
+#include "host/kernel/UnitConverter.h"
 
 using orrery::kernel::Kernel;
 
@@ -85,6 +86,33 @@ bool OrrUtilZoneIsEnabled(int zone)
 bool OrrUtilVarIsEnabled(int var)
 {
     return frame() && frame()->enabledVars.contains(var);
+}
+
+bool OrrUtilFrameZoneIsEnabled(long frameUniqueID, int zone)
+{
+    const orrery::kernel::Frame* f = Kernel::instance().frameByID(frameUniqueID);
+    return f && f->enabledZones.contains(zone);
+}
+
+bool OrrUtilFrameVarIsEnabled(long frameUniqueID, int var)
+{
+    const orrery::kernel::Frame* f = Kernel::instance().frameByID(frameUniqueID);
+    return f && f->enabledVars.contains(var);
+}
+
+long OrrUtilStyleNameGetID(const char* name)
+{
+    return orrery::kernel::StyleNameRegistry::instance().idOf(name ? name : "");
+}
+
+GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args)
+{
+    return Kernel::instance().style().get(*args);
+}
+
+SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
+{
+    return Kernel::instance().style().set(*args);
 }
 
 bool OrrUtilVarGetMinMax(int var, double* min, double* max)

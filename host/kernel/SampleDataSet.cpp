@@ -1,4 +1,4 @@
-#include "platform/kernel/SampleDataSet.h"
+#include "host/kernel/SampleDataSet.h"
 #include <cmath>
 #include <stdexcept>
 

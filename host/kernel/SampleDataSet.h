@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 #include <vector>
-#include "platform/kernel/DataSet.h"
+#include "host/kernel/DataSet.h"
 
 namespace orrery {
 namespace kernel {

@@ -1,8 +1,8 @@
-#include "platform/kernel/StyleAccess.h"
+#include "host/kernel/StyleAccess.h"
 #include <algorithm>
 #include <boost/format.hpp>
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/StyleNameRegistry.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/StyleNameRegistry.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/Set.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 #include "platform/kernel/OrrTypes.h"
-#include "platform/kernel/StyleEntry.h"
-#include "platform/kernel/UndoStack.h"
+#include "host/kernel/StyleEntry.h"
+#include "host/kernel/UndoStack.h"
 #include "platform/toolbox/StringList.h"
 
 namespace orrery {

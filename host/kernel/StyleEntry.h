@@ -2,7 +2,7 @@
 #include <functional>
 #include <string>
 #include "platform/kernel/OrrTypes.h"
-#include "platform/kernel/StyleDatum.h"
+#include "host/kernel/StyleDatum.h"
 
 namespace orrery {
 namespace kernel {

@@ -1,4 +1,4 @@
-#include "platform/kernel/StyleNameRegistry.h"
+#include "host/kernel/StyleNameRegistry.h"
 
 namespace orrery {
 namespace kernel {

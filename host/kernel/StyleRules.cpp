@@ -1,8 +1,8 @@
-#include "platform/kernel/StyleRules.h"
+#include "host/kernel/StyleRules.h"
 #include <boost/format.hpp>
-#include "platform/kernel/ColorMap.h"
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/StyleState.h"
+#include "host/kernel/ColorMap.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/StyleState.h"
 
 namespace orrery {
 namespace kernel {

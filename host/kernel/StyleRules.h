@@ -1,6 +1,6 @@
 #pragma once
 #include <string>
-#include "platform/kernel/StyleEntry.h"
+#include "host/kernel/StyleEntry.h"
 
 namespace orrery {
 namespace kernel {

@@ -1,7 +1,7 @@
-#include "platform/kernel/StyleSchema.h"
+#include "host/kernel/StyleSchema.h"
 #include <stdexcept>
-#include "platform/kernel/StyleRules.h"
-#include "platform/kernel/StyleState.h"
+#include "host/kernel/StyleRules.h"
+#include "host/kernel/StyleState.h"
 
 namespace orrery {
 namespace kernel {

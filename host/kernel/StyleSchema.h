@@ -2,7 +2,7 @@
 #include <map>
 #include <string>
 #include <vector>
-#include "platform/kernel/StyleEntry.h"
+#include "host/kernel/StyleEntry.h"
 
 namespace orrery {
 namespace kernel {

@@ -1,4 +1,4 @@
-#include "platform/kernel/StyleState.h"
+#include "host/kernel/StyleState.h"
 
 namespace orrery {
 namespace kernel {

@@ -2,7 +2,7 @@
 #include <map>
 #include <string>
 #include <utility>
-#include "platform/kernel/StyleDatum.h"
+#include "host/kernel/StyleDatum.h"
 
 namespace orrery {
 namespace kernel {

@@ -1,4 +1,4 @@
-#include "platform/kernel/UndoStack.h"
+#include "host/kernel/UndoStack.h"
 #include <cctype>
 
 namespace orrery {

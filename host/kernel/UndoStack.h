@@ -2,7 +2,7 @@
 #include <string>
 #include <boost/signals2/signal.hpp>
 #include <vector>
-#include "platform/kernel/StyleDatum.h"
+#include "host/kernel/StyleDatum.h"
 #include "platform/toolbox/StringList.h"
 
 namespace orrery {

@@ -1,4 +1,4 @@
-#include "platform/kernel/UnitConverter.h"
+#include "host/kernel/UnitConverter.h"
 #include "platform/kernel/OrrTypes.h"
 
 namespace orrery {

@@ -1,9 +1,9 @@
-#include "platform/loaders/ColumnTable.h"
+#include "host/loaders/ColumnTable.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include "platform/loaders/NumberText.h"
+#include "host/loaders/NumberText.h"
 #ifdef __linux__
 #include <sys/mman.h>
 #endif

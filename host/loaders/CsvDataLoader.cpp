@@ -1,4 +1,4 @@
-#include "platform/loaders/CsvDataLoader.h"
+#include "host/loaders/CsvDataLoader.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "platform/loaders/DelimitedTableLoader.h"
+#include "host/loaders/DelimitedTableLoader.h"
 #include <algorithm>
 #include <atomic>
 #include <future>
@@ -7,14 +7,14 @@
 #include <thread>
 #include <QFile>
 #include <QFileInfo>
-#include "platform/kernel/Kernel.h"
-#include "platform/loaders/ColumnTable.h"
-#include "platform/loaders/FieldTokenizer.h"
-#include "platform/loaders/FileBlockReader.h"
-#include "platform/loaders/LoadGuard.h"
-#include "platform/loaders/LoadProgress.h"
-#include "platform/loaders/TableReader.h"
-#include "platform/loaders/TableLayout.h"
+#include "host/kernel/Kernel.h"
+#include "host/loaders/ColumnTable.h"
+#include "host/loaders/FieldTokenizer.h"
+#include "host/loaders/FileBlockReader.h"
+#include "host/loaders/LoadGuard.h"
+#include "host/loaders/LoadProgress.h"
+#include "host/loaders/TableReader.h"
+#include "host/loaders/TableLayout.h"
 
 namespace orrery {
 namespace sdk {

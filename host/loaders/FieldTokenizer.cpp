@@ -1,7 +1,7 @@
-#include "platform/loaders/FieldTokenizer.h"
+#include "host/loaders/FieldTokenizer.h"
 #include <cstdio>
 #include <cstring>
-#include "platform/loaders/FileBlockReader.h"
+#include "host/loaders/FileBlockReader.h"
 
 namespace orrery {
 namespace sdk {

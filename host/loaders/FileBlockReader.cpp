@@ -1,4 +1,4 @@
-#include "platform/loaders/FileBlockReader.h"
+#include "host/loaders/FileBlockReader.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -9,7 +9,7 @@
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
-#include "platform/loaders/TextExcerpt.h"
+#include "host/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace sdk {

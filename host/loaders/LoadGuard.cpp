@@ -1,7 +1,7 @@
-#include "platform/loaders/LoadGuard.h"
+#include "host/loaders/LoadGuard.h"
 #include <exception>
 #include <new>
-#include "platform/loaders/FileBlockReader.h"
+#include "host/loaders/FileBlockReader.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "platform/loaders/LoadProgress.h"
+#include "host/loaders/LoadProgress.h"
 
 namespace orrery {
 namespace sdk {

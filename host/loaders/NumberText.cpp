@@ -1,8 +1,8 @@
-#include "platform/loaders/NumberText.h"
+#include "host/loaders/NumberText.h"
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include "platform/loaders/TextExcerpt.h"
+#include "host/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,7 +1,7 @@
-#include "platform/loaders/PlainNumberRows.h"
+#include "host/loaders/PlainNumberRows.h"
 #include <cstdint>
-#include "platform/loaders/ColumnTable.h"
-#include "platform/loaders/NumberText.h"
+#include "host/loaders/ColumnTable.h"
+#include "host/loaders/NumberText.h"
 
 namespace orrery {
 namespace sdk {

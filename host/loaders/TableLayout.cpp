@@ -1,7 +1,7 @@
-#include "platform/loaders/TableLayout.h"
+#include "host/loaders/TableLayout.h"
 #include <set>
-#include "platform/loaders/FieldTokenizer.h"
-#include "platform/loaders/NumberText.h"
+#include "host/loaders/FieldTokenizer.h"
+#include "host/loaders/NumberText.h"
 
 namespace orrery {
 namespace sdk {

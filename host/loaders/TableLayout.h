@@ -2,7 +2,7 @@
 #include <string>
 #include <string_view>
 #include <vector>
-#include "platform/loaders/ColumnTable.h"
+#include "host/loaders/ColumnTable.h"
 
 namespace orrery {
 namespace sdk {

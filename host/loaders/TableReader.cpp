@@ -1,6 +1,6 @@
-#include "platform/loaders/TableReader.h"
-#include "platform/loaders/ColumnTable.h"
-#include "platform/loaders/TableLayout.h"
+#include "host/loaders/TableReader.h"
+#include "host/loaders/ColumnTable.h"
+#include "host/loaders/TableLayout.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,8 +1,8 @@
 #pragma once
 #include <string>
 #include <vector>
-#include "platform/loaders/FieldTokenizer.h"
-#include "platform/loaders/PlainNumberRows.h"
+#include "host/loaders/FieldTokenizer.h"
+#include "host/loaders/PlainNumberRows.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "platform/loaders/TextExcerpt.h"
+#include "host/loaders/TextExcerpt.h"
 #include <cstdio>
 
 namespace orrery {

@@ -1,4 +1,4 @@
-#include "platform/loaders/TextTableDataLoader.h"
+#include "host/loaders/TextTableDataLoader.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/loaders/DelimitedTableLoader.h"
+#include "host/loaders/DelimitedTableLoader.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "platform/loaders/VtkLegacyDataLoader.h"
+#include "host/loaders/VtkLegacyDataLoader.h"
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
@@ -12,9 +12,9 @@
 #include <new>
 #include <utility>
 #include <sys/stat.h>
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/loaders/LoadProgress.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/Kernel.h"
+#include "host/loaders/LoadProgress.h"
 
 namespace orrery {
 namespace sdk {

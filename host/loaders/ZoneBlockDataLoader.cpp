@@ -1,11 +1,11 @@
-#include "platform/loaders/ZoneBlockDataLoader.h"
+#include "host/loaders/ZoneBlockDataLoader.h"
 #include <utility>
 #include <vector>
-#include "platform/kernel/Kernel.h"
-#include "platform/loaders/ColumnTable.h"
-#include "platform/loaders/FieldTokenizer.h"
-#include "platform/loaders/FileBlockReader.h"
-#include "platform/loaders/LoadGuard.h"
+#include "host/kernel/Kernel.h"
+#include "host/loaders/ColumnTable.h"
+#include "host/loaders/FieldTokenizer.h"
+#include "host/loaders/FileBlockReader.h"
+#include "host/loaders/LoadGuard.h"
 
 namespace orrery {
 namespace sdk {

@@ -1,4 +1,4 @@
-#include "platform/settings/ApplicationSettings.h"
+#include "host/settings/SettingsFile.h"
 
 #include <cerrno>
 #include <cstring>
@@ -12,7 +12,7 @@
 #include <QSaveFile>
 
 namespace orrery {
-namespace sdk {
+namespace host {
 
 namespace {
 
@@ -149,31 +149,31 @@ bool readRegularFile(const std::string& path, std::string& content, std::string&
 
 } // namespace
 
-ApplicationSettings& ApplicationSettings::getInstance()
+SettingsFile& SettingsFile::instance()
 {
-    static ApplicationSettings settings;
+    static SettingsFile settings;
     return settings;
 }
 
-ApplicationSettings::ApplicationSettings()
+SettingsFile::SettingsFile()
 {
     reload();
 }
 
-std::string ApplicationSettings::getStringValue(const std::string& key) const
+std::string SettingsFile::getStringValue(const std::string& key) const
 {
     const auto it = m_values.find(key);
     return it == m_values.end() ? std::string() : it->second;
 }
 
-void ApplicationSettings::depositValue(const std::string& key, const std::string& value)
+void SettingsFile::depositValue(const std::string& key, const std::string& value)
 {
     m_values[key] = value;
     if (save())
         m_lastError.clear();
 }
 
-void ApplicationSettings::reload()
+void SettingsFile::reload()
 {
     m_filePath = settingsFilePath().toStdString();
     m_values.clear();
@@ -219,7 +219,7 @@ void ApplicationSettings::reload()
     }
 }
 
-bool ApplicationSettings::keepCorruptFileAside()
+bool SettingsFile::keepCorruptFileAside()
 {
     const QString path = QString::fromStdString(m_filePath);
     QString backup = path + ".bak";
@@ -233,7 +233,7 @@ bool ApplicationSettings::keepCorruptFileAside()
     return true;
 }
 
-bool ApplicationSettings::save()
+bool SettingsFile::save()
 {
     const QString path = QString::fromStdString(m_filePath);
     const QFileInfo existing(path);
@@ -259,11 +259,17 @@ bool ApplicationSettings::save()
     return true;
 }
 
-void ApplicationSettings::report(const std::string& problem)
+void SettingsFile::report(const std::string& problem)
 {
     m_lastError = problem;
     std::cerr << problem << std::endl;
 }
 
-} // namespace sdk
+} // namespace host
 } // namespace orrery
+
+// The stand-in host's answer to what the dialogs ask of a host.
+orrery::sdk::ApplicationSettings& orrery::sdk::ApplicationSettings::getInstance()
+{
+    return orrery::host::SettingsFile::instance();
+}

@@ -1,7 +1,6 @@
 #include "platform/common/IdleQueue.h"
 
 #include <QTimer>
-#include "platform/sdk/AppLock.h"
 
 namespace orrery {
 namespace sdk {
@@ -14,9 +13,13 @@ IdleQueue& IdleQueue::instance()
     return queue;
 }
 
-IdleQueue::IdleQueue()
+IdleQueue::IdleQueue() = default;
+
+void IdleQueue::setHostBusy(bool busy)
 {
-    AppLock::becameIdleSignal().connect([this] { if (!m_tasks.empty()) wake(); });
+    m_hostBusy = busy;
+    if (!busy && !m_tasks.empty())
+        wake();
 }
 
 IdleQueue::Ticket IdleQueue::schedule(Task task)
@@ -40,7 +43,7 @@ void IdleQueue::cancel(Ticket ticket)
 int IdleQueue::flush()
 {
     int ran = 0;
-    while (!m_tasks.empty() && !AppLock::isBusy()) {
+    while (!m_tasks.empty() && !m_hostBusy) {
         Task task = std::move(m_tasks.front().task);
         m_tasks.pop_front();
         task();

@@ -9,7 +9,7 @@ namespace ui {
 namespace common {
 
 // Runs queued work when the host is idle: once the event loop has nothing else
-// to do and no AppLock is held. Tests and tools without an event loop call flush().
+// to do and the host is not busy (AppLock tells it). Tests and tools without an event loop call flush().
 class IdleQueue : public QObject
 {
     Q_OBJECT
@@ -25,6 +25,8 @@ public:
     // Returns how many tasks ran.
     int flush();
     size_t pending() const { return m_tasks.size(); }
+    // While the host is busy nothing runs; becoming idle runs what waits.
+    void setHostBusy(bool busy);
 
 private:
     IdleQueue();
@@ -38,6 +40,7 @@ private:
     std::deque<Entry> m_tasks;
     Ticket m_nextTicket = 1;
     bool m_wakeRequested = false;
+    bool m_hostBusy = false;
 };
 
 } // namespace common

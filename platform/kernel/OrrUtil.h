@@ -1,7 +1,18 @@
 #pragma once
 #include "platform/kernel/OrrTypes.h"
 
-// The kernel's C interface. Strings returned as char* are the caller's and are
+#ifdef __cplusplus
+namespace orrery {
+namespace toolbox {
+class ArgList;
+}
+} // namespace orrery
+typedef const orrery::toolbox::ArgList* ArgList_pa;
+#endif
+
+// The kernel's C interface: with ApplicationSettings::getInstance() (the settings
+// store), everything a host supplies for the dialogs. The rest of platform/ is
+// built on these operations. Strings returned as char* are the caller's and are
 // released with OrrUtilStringDealloc. Zone and variable numbers are 1-based.
 // Everything runs on the user-interface thread.
 
@@ -22,20 +33,15 @@ PlotType_e OrrUtilFrameGetPlotType(void);
 bool OrrUtilDataSetIsAvailable(void);
 int OrrUtilDataSetGetNumZones(void);
 int OrrUtilDataSetGetNumVars(void);
-char* OrrUtilDataSetGetTitle(void);
 char* OrrUtilZoneGetName(int zone);
 char* OrrUtilVarGetName(int var);
-bool OrrUtilZoneIsEnabled(int zone);
-bool OrrUtilVarIsEnabled(int var);
+// Whether a zone or variable is enabled in the frame with that unique ID; false
+// for an unknown frame.
+bool OrrUtilFrameZoneIsEnabled(long frameUniqueID, int zone);
+bool OrrUtilFrameVarIsEnabled(long frameUniqueID, int var);
 // Range of a variable over the zones enabled in the current frame; false when the
 // variable does not exist or no enabled zone has a value.
 bool OrrUtilVarGetMinMax(int var, double* min, double* max);
-
-// Points of a zone, and a variable's values there (pointCount of them, NaN where
-// a value is missing). Null/0 for a zone or variable that does not exist. The
-// pointer is valid until the data set changes.
-long OrrUtilZoneGetNumPoints(int zone);
-const double* OrrUtilVarGetValuesInZone(int zone, int var);
 
 // Axis grid range of the current frame as (xMin, yMin, xMax, yMax): the ranges of
 // the X and Y axis variables over the enabled zones, (0, 0, 1, 1) without data.
@@ -49,21 +55,24 @@ double OrrUtilConvertUnits(int fromUnits, int toUnits, double value);
 void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red,
                                      unsigned char* green, unsigned char* blue);
 
-// Undo bracket. Style writes between Begin and End form one undoable step.
+// Undo bracket. Style writes between Begin and End form one undoable step,
+// named by its category (11: "Assign Variables").
 // Brackets nest; an inner bracket's writes join the enclosing one.
 //   revert: take back the bracket's writes now (the operation failed);
 //   record: keep the bracket as an undoable step (false: keep the writes but
 //           leave nothing to undo). Ignored for inner brackets.
-// The category names the step in the Edit menu (11: "Assign Variables");
-// OrrUtilUndoStateBeginNamed names it directly.
 void OrrUtilUndoStateBegin(int category);
-void OrrUtilUndoStateBeginNamed(int category, const char* name);
 void OrrUtilUndoStateEnd(bool revert, bool record);
-bool OrrUtilUndoPerform(void);
-bool OrrUtilRedoPerform(void);
-// Names of the steps that undo and redo would take, or null when there is none.
-char* OrrUtilUndoGetStepName(void);
-char* OrrUtilRedoGetStepName(void);
+
+// Style state. A style name ("GlobalRGB", "RedChannelVar", ...) has one stable
+// identifier for the life of the process; unknown names get one too, and a path
+// that uses them is refused when read or written.
+long OrrUtilStyleNameGetID(const char* name);
+// Reads or writes the value the argument list names ("IDs", "Offset1", "Set",
+// "AssignOp", and the value in "IValue", "DValue" or "SValue"; see StyleValue).
+// A refused write leaves its text for OrrUtilStyleGetLastErrorString.
+GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args);
+SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args);
 
 // Text of the last refused style write, or null when the last write succeeded.
 char* OrrUtilStyleGetLastErrorString(void);

@@ -2,10 +2,6 @@
 #include <algorithm>
 #include <boost/make_shared.hpp>
 #include <QString>
-#include "platform/loaders/CsvDataLoader.h"
-#include "platform/loaders/TextTableDataLoader.h"
-#include "platform/loaders/VtkLegacyDataLoader.h"
-#include "platform/loaders/ZoneBlockDataLoader.h"
 
 namespace orrery {
 namespace sdk {
@@ -14,14 +10,6 @@ DataLoaderRepository& DataLoaderRepository::getInstance()
 {
     static DataLoaderRepository repository;
     return repository;
-}
-
-DataLoaderRepository::DataLoaderRepository()
-{
-    registerLoader(boost::make_shared<CsvDataLoader>());
-    registerLoader(boost::make_shared<TextTableDataLoader>());
-    registerLoader(boost::make_shared<ZoneBlockDataLoader>());
-    registerLoader(boost::make_shared<VtkLegacyDataLoader>());
 }
 
 std::vector<DataLoaderRepository::LoaderPtr> DataLoaderRepository::dataLoaderInterfaces(bool includeHidden) const

@@ -7,8 +7,8 @@
 namespace orrery {
 namespace sdk {
 
-// Every data loader installed in the host, in registration order. Starts with
-// the built-in loaders (comma-separated table, whitespace table, zone blocks, legacy VTK).
+// Every data loader installed in the host, in registration order. The host
+// registers its own loaders at its start; plug-ins may add more.
 class DataLoaderRepository
 {
 public:
@@ -26,7 +26,7 @@ public:
     LoaderPtr loaderNamed(const std::string& name) const;
 
 private:
-    DataLoaderRepository();
+    DataLoaderRepository() = default;
 
     std::vector<LoaderPtr> m_loaders;
 };

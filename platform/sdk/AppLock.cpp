@@ -1,4 +1,5 @@
 #include "platform/sdk/AppLock.h"
+#include "platform/common/IdleQueue.h"
 
 namespace orrery {
 namespace sdk {
@@ -10,7 +11,8 @@ int g_suppressing = 0;
 
 AppLock::AppLock(ImplicitMacroRecording recording) : m_recording(recording)
 {
-    ++g_depth;
+    if (++g_depth == 1)
+        ui::common::IdleQueue::instance().setHostBusy(true);
     if (m_recording == ImplicitMacroRecording_Suppress)
         ++g_suppressing;
 }
@@ -19,8 +21,10 @@ AppLock::~AppLock()
 {
     if (m_recording == ImplicitMacroRecording_Suppress)
         --g_suppressing;
-    if (--g_depth == 0)
+    if (--g_depth == 0) {
+        ui::common::IdleQueue::instance().setHostBusy(false);
         becameIdleSignal()();
+    }
 }
 
 bool AppLock::isBusy() { return g_depth > 0; }

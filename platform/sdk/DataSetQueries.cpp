@@ -4,15 +4,14 @@
 #include <initializer_list>
 #include <string>
 #include <vector>
-#include "platform/kernel/Kernel.h"
+#include "platform/kernel/OrrUtil.h"
+#include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/StyleValue.h"
 
 namespace orrery {
 namespace sdk {
 
 namespace {
-
-using kernel::Kernel;
 
 bool isFieldPlot(PlotType_e plotType)
 {
@@ -21,16 +20,34 @@ bool isFieldPlot(PlotType_e plotType)
 
 int styleVar(const toolbox::StringList& path)
 {
-    kernel::StyleDatum value;
-    if (Kernel::instance().style().read(path, -1, value) != GetValue_Ok)
-        return 0;
-    return static_cast<int>(std::get<long>(value));
+    const toolbox::StyleValue value(path);
+    toolbox::ArgList args;
+    long var = 0;
+    value.setupGetValueArgList(value.macroIDs(), -1, -1, args);
+    args.appendArbParamPtr("IValue", &var);
+    return OrrUtilStyleGetValue(&args) == GetValue_Ok ? static_cast<int>(var) : 0;
+}
+
+toolbox::Set enabledOf(bool (*enabled)(long, int), int count, long frameUniqueID)
+{
+    toolbox::Set set;
+    for (int i = 1; i <= count; ++i)
+        if (enabled(frameUniqueID, i))
+            set.add(i);
+    return set;
 }
 
 toolbox::Set enabledVars()
 {
-    const kernel::Frame* frame = Kernel::instance().currentFrame();
-    return frame ? frame->enabledVars : toolbox::Set();
+    return enabledOf(OrrUtilFrameVarIsEnabled, OrrUtilDataSetGetNumVars(), OrrUtilFrameGetUniqueID());
+}
+
+std::string varName(int var)
+{
+    char* name = OrrUtilVarGetName(var);
+    const std::string text = name ? name : "";
+    OrrUtilStringDealloc(&name);
+    return text;
 }
 
 std::vector<int> axisVars(PlotType_e plotType)
@@ -73,11 +90,8 @@ std::string lowerCase(std::string text)
 // names, ignoring case; 0 when there is none.
 int enabledVarNamed(std::initializer_list<const char*> names)
 {
-    const kernel::DataSet& dataSet = Kernel::instance().dataSet();
     for (int var : enabledVars()) {
-        if (!dataSet.hasVar(var))
-            continue;
-        const std::string name = lowerCase(dataSet.varName(var));
+        const std::string name = lowerCase(varName(var));
         for (const char* wanted : names)
             if (name == wanted)
                 return var;
@@ -103,14 +117,12 @@ std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const cha
 
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
 {
-    const kernel::Frame* frame = Kernel::instance().frameByID(frameUniqueID);
-    return frame ? frame->enabledZones : toolbox::Set();
+    return enabledOf(OrrUtilFrameZoneIsEnabled, OrrUtilDataSetGetNumZones(), frameUniqueID);
 }
 
 toolbox::Set getEnabledVarsForFrame(long frameUniqueID)
 {
-    const kernel::Frame* frame = Kernel::instance().frameByID(frameUniqueID);
-    return frame ? frame->enabledVars : toolbox::Set();
+    return enabledOf(OrrUtilFrameVarIsEnabled, OrrUtilDataSetGetNumVars(), frameUniqueID);
 }
 
 bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
@@ -143,7 +155,7 @@ bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
 
 bool okToTurnOnVectorLayer(PlotType_e plotType)
 {
-    if (!isFieldPlot(plotType) || Kernel::instance().plotType() != plotType)
+    if (!isFieldPlot(plotType) || OrrUtilFrameGetPlotType() != plotType)
         return false;
     std::vector<int> vars;
     if (plotType == PlotType_ThreeD)
@@ -180,9 +192,14 @@ void autoAssignScatterVariable()
     const toolbox::StringList path{"GlobalScatter", "Var"};
     if (isEnabledVar(styleVar(path)))
         return;
-    const std::vector<int> vars = candidates(Kernel::instance().plotType(), true);
-    if (!vars.empty())
-        Kernel::instance().style().write(path, nullptr, -1, AssignOp_Equals, long(vars.front()));
+    const std::vector<int> vars = candidates(OrrUtilFrameGetPlotType(), true);
+    if (vars.empty())
+        return;
+    const toolbox::StyleValue value(path);
+    toolbox::ArgList args;
+    value.setupSetValueArgList(value.macroIDs(), nullptr, -1, -1, AssignOp_Equals, args);
+    args.appendArbParam("IValue", long(vars.front()));
+    OrrUtilStyleSetValue(&args);
 }
 
 } // namespace sdk

@@ -1,5 +1,5 @@
 #include "platform/toolbox/CheckedStyleValue.h"
-#include "platform/kernel/Kernel.h"
+#include "platform/kernel/OrrUtil.h"
 
 namespace orrery {
 namespace toolbox {
@@ -10,12 +10,12 @@ CheckedStyleValue::CheckedStyleValue(const StyleValue& value) : StyleValue(value
 
 GetValueReturnCode_e CheckedStyleValue::styleGetLowLevel(const ArgList& args) const
 {
-    return kernel::Kernel::instance().style().get(args);
+    return OrrUtilStyleGetValue(&args);
 }
 
 SetValueReturnCode_e CheckedStyleValue::styleSetLowLevel(const ArgList& args) const
 {
-    return kernel::Kernel::instance().style().set(args);
+    return OrrUtilStyleSetValue(&args);
 }
 
 } // namespace toolbox

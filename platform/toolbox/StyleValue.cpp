@@ -1,6 +1,5 @@
 #include "platform/toolbox/StyleValue.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/StyleNameRegistry.h"
+#include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
 
 namespace orrery {
@@ -19,9 +18,14 @@ StringList namesUpToNull(std::initializer_list<const char*> names)
     return list;
 }
 
-kernel::StyleAccess& style()
+GetValueReturnCode_e get(const ArgList& args)
 {
-    return kernel::Kernel::instance().style();
+    return OrrUtilStyleGetValue(&args);
+}
+
+SetValueReturnCode_e set(const ArgList& args)
+{
+    return OrrUtilStyleSetValue(&args);
 }
 
 void setupPathArgs(const RawArray<long>& ids, long first, long second, ArgList& args)
@@ -53,7 +57,7 @@ void StyleValue::assignNames(const StringList& names)
 {
     m_names = names;
     for (const std::string& name : names)
-        m_macroIDs.push_back(kernel::StyleNameRegistry::instance().idOf(name));
+        m_macroIDs.push_back(OrrUtilStyleNameGetID(name.c_str()));
 }
 
 void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3,
@@ -61,7 +65,7 @@ void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2,
                                                  const char* n7, RawArray<long>& ids) const
 {
     for (const std::string& name : namesUpToNull({n1, n2, n3, n4, n5, n6, n7}))
-        ids.push_back(kernel::StyleNameRegistry::instance().idOf(name));
+        ids.push_back(OrrUtilStyleNameGetID(name.c_str()));
 }
 
 void StyleValue::setupGetValueArgList(const RawArray<long>& ids, long first, long second,
@@ -81,7 +85,7 @@ void StyleValue::setupSetValueArgList(const RawArray<long>& ids, const Set* set,
 GetValueReturnCode_e StyleValue::getFinalValue(double* value, ArgList& args) const
 {
     args.appendDoublePtr("DValue", value);
-    return style().get(args);
+    return get(args);
 }
 
 // The kernel hands bools over as integers; the local must not outlive the call,
@@ -91,7 +95,7 @@ GetValueReturnCode_e StyleValue::getFinalValue(bool* value, ArgList& args) const
     long integer = 0;
     ArgList call = args;
     call.appendArbParamPtr("IValue", &integer);
-    const GetValueReturnCode_e code = style().get(call);
+    const GetValueReturnCode_e code = get(call);
     if (returnCodeOk(code))
         *value = integer != 0;
     return code;
@@ -100,25 +104,25 @@ GetValueReturnCode_e StyleValue::getFinalValue(bool* value, ArgList& args) const
 GetValueReturnCode_e StyleValue::getFinalValue(std::string* value, ArgList& args) const
 {
     args.appendStringPtr("SValue", value);
-    return style().get(args);
+    return get(args);
 }
 
 SetValueReturnCode_e StyleValue::setFinalValue(double value, ArgList& args) const
 {
     args.appendDouble("DValue", value);
-    return style().set(args);
+    return set(args);
 }
 
 SetValueReturnCode_e StyleValue::setFinalValue(bool value, ArgList& args) const
 {
     args.appendArbParam("IValue", value ? 1 : 0);
-    return style().set(args);
+    return set(args);
 }
 
 SetValueReturnCode_e StyleValue::setFinalValue(const std::string& value, ArgList& args) const
 {
     args.appendString("SValue", value);
-    return style().set(args);
+    return set(args);
 }
 
 } // namespace toolbox

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include "demo/MainWindow.h"
 #include "demo/PlotView.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
 #include "tests/support/TestSupport.h"

@@ -12,12 +12,12 @@
 #include <unistd.h>
 #include <QDir>
 #include <QTemporaryDir>
-#include "platform/kernel/Kernel.h"
-#include "platform/loaders/CsvDataLoader.h"
+#include "host/kernel/Kernel.h"
+#include "host/loaders/CsvDataLoader.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "platform/loaders/LoadProgress.h"
-#include "platform/loaders/TextTableDataLoader.h"
-#include "platform/loaders/NumberText.h"
+#include "host/loaders/LoadProgress.h"
+#include "host/loaders/TextTableDataLoader.h"
+#include "host/loaders/NumberText.h"
 #include "tests/support/TestSupport.h"
 
 using namespace orrery::sdk;

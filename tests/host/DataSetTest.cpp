@@ -1,7 +1,7 @@
 // The stand-in kernel's data set and the queries the host makes on it.
-#include "tests/platform/StyleCalls.h"
-#include "platform/kernel/DataSet.h"
-#include "platform/kernel/Kernel.h"
+#include "tests/host/StyleCalls.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/Kernel.h"
 #include "platform/sdk/DataSetQueries.h"
 
 using namespace stylecalls;

@@ -2,10 +2,10 @@
 #include <sstream>
 #include <QDir>
 #include <QTemporaryDir>
-#include "platform/kernel/Journal.h"
-#include "platform/kernel/JournalReplayer.h"
-#include "platform/kernel/Kernel.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/Journal.h"
+#include "host/kernel/JournalReplayer.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/AppLock.h"
 #include "tests/support/TestSupport.h"
 

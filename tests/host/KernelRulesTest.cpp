@@ -1,6 +1,6 @@
 // The stand-in kernel's rules: refused writes and their texts, collection
 // members, undo and redo, and the state changes it announces.
-#include "tests/platform/StyleCalls.h"
+#include "tests/host/StyleCalls.h"
 
 using namespace stylecalls;
 

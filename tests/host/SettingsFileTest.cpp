@@ -5,9 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include "platform/settings/ApplicationSettings.h"
+#include "host/settings/SettingsFile.h"
 
-using orrery::sdk::ApplicationSettings;
+using orrery::host::SettingsFile;
 
 namespace {
 
@@ -21,7 +21,7 @@ protected:
         settings().reload();
     }
 
-    ApplicationSettings& settings() { return ApplicationSettings::getInstance(); }
+    SettingsFile& settings() { return SettingsFile::instance(); }
 
     void writeFile(const QByteArray& content)
     {

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 #include <vector>
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/CheckedStyleValue.h"
 #include "platform/toolbox/Set.h"

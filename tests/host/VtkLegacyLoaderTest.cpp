@@ -5,9 +5,9 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include "platform/kernel/Kernel.h"
+#include "host/kernel/Kernel.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "platform/loaders/LoadProgress.h"
+#include "host/loaders/LoadProgress.h"
 #include "tests/support/TestSupport.h"
 
 using namespace orrery::sdk;

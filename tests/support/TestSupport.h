@@ -8,14 +8,14 @@
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 #include "platform/common/IdleQueue.h"
-#include "platform/kernel/KernelTestSupport.h"
+#include "host/kernel/KernelDriver.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 #include "core/property/Property.h"
 #include "core/propertymanager/RelevanceInterface.h"
 
 namespace testsupport {
 
-typedef orrery::kernel::testing::KernelTestSupport Kernel;
+typedef orrery::kernel::KernelDriver Kernel;
 
 inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
 

@@ -1,4 +1,4 @@
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "core/propertymanager/KernelPropertyDeferred.h"
 #include "tests/support/TestSupport.h"
 

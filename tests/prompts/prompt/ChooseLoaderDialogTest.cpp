@@ -1,11 +1,11 @@
 #include <QListView>
 #include "tests/prompts/prompt/DialogTestSupport.h"
 #include "platform/loaders/DataLoaderRepository.h"
-#include "platform/settings/ApplicationSettings.h"
+#include "host/settings/SettingsFile.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
 using namespace dialogtest;
-using orrery::sdk::ApplicationSettings;
+using orrery::host::SettingsFile;
 using orrery::sdk::DataLoaderInterface;
 using orrery::sdk::DataLoaderRepository;
 using LoaderPtr = ChooseLoaderDialog::LoaderPtr;
@@ -81,7 +81,7 @@ protected:
     void restart()
     {
         window.reset(new QWidget);
-        ApplicationSettings::getInstance().reload();
+        SettingsFile::instance().reload();
     }
 
     std::unique_ptr<QWidget> window{new QWidget};
@@ -171,7 +171,7 @@ TEST_F(ChooseLoaderDialogTest, OkNeedsASelectedLoaderAndADoubleClickAcceptsLikeO
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
     EXPECT_EQ(dialog->selectedLoader(), binaryGrid);
-    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Binary grid");
+    EXPECT_EQ(SettingsFile::instance().getStringValue("LastLoaderUsedForExt_.dat"), "Binary grid");
 }
 
 TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestartCancelKeepsTheHistory)
@@ -180,7 +180,7 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestar
     user::open(*dialog);
     clickRow(*dialog, "Point cloud");
     user::press(*dialog, QDialogButtonBox::Ok);
-    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Point cloud");
+    EXPECT_EQ(SettingsFile::instance().getStringValue("LastLoaderUsedForExt_.dat"), "Point cloud");
 
     restart();
     dialog = chooser(datSuggestions(), {".dat"});
@@ -198,7 +198,7 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestar
     EXPECT_EQ(selectedText(*dialog), "<none>");
 
     // Cancel and several extensions leave the history alone; a gone loader falls back.
-    ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.dat", "Point cloud");
+    SettingsFile::instance().depositValue("LastLoaderUsedForExt_.dat", "Point cloud");
     dialog = chooser(datSuggestions(), {".dat", ".txt"});
     EXPECT_EQ(selectedText(*dialog), "<none>");
     user::open(*dialog);
@@ -211,11 +211,11 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestar
     user::open(*dialog);
     clickRow(*dialog, "CSV table");
     user::press(*dialog, QDialogButtonBox::Cancel);
-    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.dat"), "Point cloud");
-    EXPECT_EQ(ApplicationSettings::getInstance().getStringValue("LastLoaderUsedForExt_.txt"), "");
+    EXPECT_EQ(SettingsFile::instance().getStringValue("LastLoaderUsedForExt_.dat"), "Point cloud");
+    EXPECT_EQ(SettingsFile::instance().getStringValue("LastLoaderUsedForExt_.txt"), "");
 
     // A stored loader that is gone falls back to the first selectable row.
-    ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.dat", "Uninstalled reader");
+    SettingsFile::instance().depositValue("LastLoaderUsedForExt_.dat", "Uninstalled reader");
     dialog = chooser(datSuggestions(), {".dat"});
     EXPECT_EQ(selectedText(*dialog), "Point cloud"); // row 1, under the header
     dialog = chooser({}, {".dat"});
@@ -231,7 +231,7 @@ TEST_F(ChooseLoaderDialogTest, ARememberedLoaderFarDownALongListIsTheCurrentRowA
         many.push_back(boost::make_shared<NamedLoader>("Reader " + std::to_string(i), "xyz"));
         DataLoaderRepository::getInstance().registerLoader(many.back());
     }
-    ApplicationSettings::getInstance().depositValue("LastLoaderUsedForExt_.xyz", "Reader 65");
+    SettingsFile::instance().depositValue("LastLoaderUsedForExt_.xyz", "Reader 65");
     ChooseLoaderDialog* dialog = chooser({}, {".xyz"});
     user::open(*dialog);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog));

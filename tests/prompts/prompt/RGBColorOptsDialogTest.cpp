@@ -1,6 +1,6 @@
 #include <QComboBox>
 #include "tests/prompts/prompt/DialogTestSupport.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/ui/QScientificSpinBox.h"
 #include "prompts/prompt/RGBColorOptsDialog.h"
 

@@ -1,7 +1,7 @@
 #include <QListView>
 #include <QScrollBar>
 #include "tests/prompts/prompt/DialogTestSupport.h"
-#include "platform/kernel/DataSet.h"
+#include "host/kernel/DataSet.h"
 #include "prompts/prompt/ZoneSelectDialog.h"
 
 using namespace dialogtest;

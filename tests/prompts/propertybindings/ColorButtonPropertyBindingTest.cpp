@@ -4,7 +4,7 @@
 #include "tests/support/TestSupport.h"
 #include "tests/support/UserActions.h"
 #include "core/propertymanager/KernelProperty.h"
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/ColorChooserDialog.h"
 #include "prompts/propertybindings/ColorButtonPropertyBinding.h"
 

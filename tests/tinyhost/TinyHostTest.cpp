@@ -1,0 +1,130 @@
+// The dialogs on a host that is not the stand-in: whatever they need of a host
+// must come through the host interface, or this program does not even link.
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QSpinBox>
+#include <QTimer>
+#include <variant>
+#include <gtest/gtest.h>
+#include "platform/common/IdleQueue.h"
+#include "prompts/prompt/AxisVariableSelectDialog.h"
+#include "prompts/prompt/EnterTextStringDialog.h"
+#include "prompts/prompt/EnterThreeIntValuesDialog.h"
+#include "prompts/prompt/RGBColorOptsDialog.h"
+#include "prompts/prompt/VariableSelectDialog.h"
+#include "prompts/prompt/ZoneSelectDialog.h"
+#include "tests/support/UserActions.h"
+#include "tests/tinyhost/TinyHost.h"
+
+using namespace orrery::dialogs::prompt;
+using tinyhost::Host;
+
+namespace {
+
+void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+
+long style(const std::string& path) { return std::get<long>(Host::instance().style.at(path)); }
+
+// Runs a modal dialog as a host does: whileOpen acts as the user and closes it.
+int run(orrery::dialogs::common::QtDialogAbstract& dialog, const std::function<void()>& whileOpen)
+{
+    QTimer::singleShot(0, &dialog, [&] {
+        runIdle();
+        whileOpen();
+        if (dialog.isVisible())
+            dialog.reject();
+    });
+    dialog.launch();
+    return dialog.result();
+}
+
+class TinyHostTest : public ::testing::Test
+{
+protected:
+    void SetUp() override { Host::instance().reset(); }
+    QWidget parent;
+};
+
+TEST_F(TinyHostTest, PlainPromptsAnswerFromWhatTheUserEntered)
+{
+    EnterTextStringDialog text(parent, "Title of the new frame:", "Frame 1", "", false);
+    text.show();
+    QLineEdit* edit = text.findChild<QLineEdit*>("EnterTextString_lineEdit");
+    user::type(*edit, "Two blocks, cooled");
+    user::press(text, QDialogButtonBox::Ok);
+    EXPECT_EQ(text.result(), QDialog::Accepted);
+    EXPECT_EQ(text.text(), "Two blocks, cooled");
+
+    EnterThreeIntValuesDialog* range =
+        EnterThreeIntValuesDialog::getInstance(parent, 1, 3, 1, "Index range", "", "&Begin", "&End", "&Skip", 1, 1, 1);
+    EXPECT_EQ(QDialog::Accepted, run(*range, [&] {
+                  range->findChild<QSpinBox*>("value2")->setValue(2);
+                  user::press(*range, QDialogButtonBox::Ok);
+              }));
+    EXPECT_EQ(range->value1(), 1);
+    EXPECT_EQ(range->value2(), 2);
+    EXPECT_EQ(range->value3(), 1);
+    delete range;
+}
+
+TEST_F(TinyHostTest, ZonePromptListsTheHostsZonesAndAnswersTheChosenOne)
+{
+    ZoneSelectDialog* dialog = ZoneSelectDialog::getInstance(parent, 1);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+                  QListView* list = dialog->findChild<QListView*>("Zone_Source_MList");
+                  ASSERT_EQ(list->model()->rowCount(), 2);
+                  EXPECT_EQ(list->model()->index(1, 0).data().toString(), "Right block");
+                  user::clickRow(*list, 1);
+                  user::press(*dialog, QDialogButtonBox::Ok);
+              }));
+    EXPECT_EQ(dialog->selectedZone(), 2);
+    delete dialog;
+}
+
+TEST_F(TinyHostTest, VariablePromptWritesTheHostsStyleOnOkAsOneStep)
+{
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*dialog, [&] {
+                  QComboBox* y = dialog->findChild<QComboBox*>("var2_comboBox");
+                  EXPECT_EQ(y->currentText(), "y");
+                  y->setCurrentIndex(y->findText("Speed"));
+                  runIdle();
+                  EXPECT_EQ(style("TwoDAxis/YDetail/VarNum"), 2) << "written before OK";
+                  user::press(*dialog, QDialogButtonBox::Ok);
+              }));
+    EXPECT_EQ(style("TwoDAxis/XDetail/VarNum"), 1);
+    EXPECT_EQ(style("TwoDAxis/YDetail/VarNum"), 4);
+    EXPECT_EQ(Host::instance().steps.size(), 1u);
+    EXPECT_EQ(Host::instance().bracketDepth, 0);
+    delete dialog;
+}
+
+TEST_F(TinyHostTest, RGBOptionsWriteAtOnceAndShowTheHostsRefusal)
+{
+    RGBColorOptsDialog* dialog = RGBColorOptsDialog::getInstance(parent);
+    dialog->launch();
+    user::open(*dialog);
+    runIdle();
+    QComboBox* mode = dialog->findChild<QComboBox*>("rGBColorOpts_Mode_CmbBox");
+    QComboBox* red = dialog->findChild<QComboBox*>("rGBColorOpts_RedVariable_CmbBox");
+    EXPECT_EQ(red->currentText(), "Density");
+
+    mode->setCurrentIndex(RGBMode_SpecifyGB);
+    red->setCurrentIndex(red->findText("Energy"));
+    runIdle();
+    EXPECT_EQ(style("GlobalRGB/RGBMode"), RGBMode_SpecifyGB);
+    EXPECT_FALSE(red->isEnabled()) << "red is calculated in this mode";
+    EXPECT_TRUE(Host::instance().messages.empty());
+
+    // The host's own rule refuses a minimum above the maximum: the user sees the
+    // host's text and the field goes back to the host's value.
+    QWidget* min = dialog->findChild<QWidget*>("minValue_doubleSpinBox");
+    user::typeAndReturn(*min, "5");
+    runIdle();
+    EXPECT_EQ(std::get<double>(Host::instance().style.at("GlobalRGB/RangeMin")), 0.0);
+    EXPECT_EQ(Host::instance().messages, std::vector<std::string>({"The minimum must stay below the maximum."}));
+    delete dialog;
+}
+
+} // namespace
