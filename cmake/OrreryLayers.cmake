@@ -1,10 +1,19 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
+# Installed names carry the Qt major version, as Qt libraries' do, so that a Qt 5
+# and a Qt 6 build install side by side: liborrery-prompts-qt6.so.0,
+# include/orrery-qt6/, find_package(OrreryPromptsQt6), orrery-prompts-qt6.pc.
+set(ORRERY_VARIANT qt${ORRERY_QT_MAJOR})
+set(ORRERY_INCLUDE_SUBDIR orrery-${ORRERY_VARIANT})
+set(ORRERY_PACKAGE OrreryPromptsQt${ORRERY_QT_MAJOR})
+set(ORRERY_SOVERSION 0)
+
 # One library per top-level folder; the folder alone decides what goes in it.
 # orrery_add_layer(<layer> DEPENDS <targets...> [EXTRA <files...>])
 # makes target orrery_<layer>, exported as Orrery::<layer>, with every source,
-# layout and resource below <layer>/ and its headers installed under include/orrery/<layer>.
+# layout and resource below <layer>/ and its headers installed under
+# include/orrery-qt<N>/<layer>.
 function(orrery_add_layer layer)
   cmake_parse_arguments(ARG "" "" "DEPENDS;EXTRA" ${ARGN})
   set(dir "${PROJECT_SOURCE_DIR}/${layer}")
@@ -14,30 +23,54 @@ function(orrery_add_layer layer)
   add_library(${target} ${sources} ${ARG_EXTRA})
   add_library(Orrery::${layer} ALIAS ${target})
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${layer}
-                        INSTALL_RPATH "$ORIGIN" VERSION ${PROJECT_VERSION} SOVERSION 0)
+                        OUTPUT_NAME orrery-${layer}-${ORRERY_VARIANT}
+                        INSTALL_RPATH "$ORIGIN" VERSION ${PROJECT_VERSION} SOVERSION ${ORRERY_SOVERSION})
   target_include_directories(${target} PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/orrery>)
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}>)
   target_link_libraries(${target} PUBLIC ${ARG_DEPENDS})
   install(TARGETS ${target} EXPORT OrreryPromptsTargets
-          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-          ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-          RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-  install(DIRECTORY "${dir}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/orrery/${layer}
-          FILES_MATCHING PATTERN "*.h")
+          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
+          ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
+          RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+  install(DIRECTORY "${dir}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}/${layer}
+          COMPONENT dev FILES_MATCHING PATTERN "*.h")
 endfunction()
 
-# The CMake package: find_package(OrreryPrompts CONFIG) gives the Orrery:: targets.
+# orrery_add_pkgconfig(<name> <description> <requires> <layers...>) writes
+# <name>-qt<N>.pc; it finds its prefix from where it lies, so an unpacked tree works too.
+function(orrery_add_pkgconfig name description requires)
+  set(pcdir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  file(RELATIVE_PATH PC_TO_PREFIX "/prefix/${pcdir}" "/prefix")
+  set(PC_NAME ${name}-${ORRERY_VARIANT})
+  set(PC_DESCRIPTION "${description}")
+  set(PC_REQUIRES "${requires}")
+  set(PC_LIBS "")
+  foreach(layer IN LISTS ARGN)
+    string(APPEND PC_LIBS " -lorrery-${layer}-${ORRERY_VARIANT}")
+  endforeach()
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/orrery.pc.in ${PROJECT_BINARY_DIR}/${PC_NAME}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${PC_NAME}.pc DESTINATION ${pcdir} COMPONENT dev)
+endfunction()
+
+# The CMake package: find_package(OrreryPromptsQt<N> CONFIG) gives the Orrery:: targets.
 function(orrery_install_package)
-  set(cmakedir ${CMAKE_INSTALL_LIBDIR}/cmake/OrreryPrompts)
-  install(EXPORT OrreryPromptsTargets NAMESPACE Orrery:: DESTINATION ${cmakedir})
+  set(cmakedir ${CMAKE_INSTALL_LIBDIR}/cmake/${ORRERY_PACKAGE})
+  install(EXPORT OrreryPromptsTargets NAMESPACE Orrery:: DESTINATION ${cmakedir}
+          FILE ${ORRERY_PACKAGE}Targets.cmake COMPONENT dev)
   configure_package_config_file(
     ${PROJECT_SOURCE_DIR}/cmake/OrreryPromptsConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/OrreryPromptsConfig.cmake
+    ${PROJECT_BINARY_DIR}/${ORRERY_PACKAGE}Config.cmake
     INSTALL_DESTINATION ${cmakedir})
-  write_basic_package_version_file(${PROJECT_BINARY_DIR}/OrreryPromptsConfigVersion.cmake
+  write_basic_package_version_file(${PROJECT_BINARY_DIR}/${ORRERY_PACKAGE}ConfigVersion.cmake
     COMPATIBILITY SameMinorVersion)
-  install(FILES ${PROJECT_BINARY_DIR}/OrreryPromptsConfig.cmake
-                ${PROJECT_BINARY_DIR}/OrreryPromptsConfigVersion.cmake
-          DESTINATION ${cmakedir})
+  install(FILES ${PROJECT_BINARY_DIR}/${ORRERY_PACKAGE}Config.cmake
+                ${PROJECT_BINARY_DIR}/${ORRERY_PACKAGE}ConfigVersion.cmake
+          DESTINATION ${cmakedir} COMPONENT dev)
+  orrery_add_pkgconfig(orrery-prompts "Prompt dialogs for a plotting host (Qt ${ORRERY_QT_MAJOR})"
+                       "Qt${ORRERY_QT_MAJOR}Widgets" prompts framework core platform)
+  orrery_add_pkgconfig(orrery-host "Stand-in host for the Orrery prompt dialogs (Qt ${ORRERY_QT_MAJOR})"
+                       "Qt${ORRERY_QT_MAJOR}Widgets" host platform)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/help/ DESTINATION ${CMAKE_INSTALL_DATADIR}/${ORRERY_INCLUDE_SUBDIR}/help
+          COMPONENT runtime FILES_MATCHING PATTERN "*.html")
 endfunction()

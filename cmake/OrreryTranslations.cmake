@@ -1,5 +1,6 @@
 # Compiles translations/*.ts with lrelease and embeds the .qm files in <target>
-# as :/translations/<name>.qm, so a host finds them without installing anything.
+# as :/translations/<name>.qm, so a host finds them without installing anything;
+# they are installed beside the help pages as well, for a host's own tools.
 function(orrery_add_translations target)
   find_package(Qt${ORRERY_QT_MAJOR} QUIET COMPONENTS LinguistTools)
   if(TARGET Qt${ORRERY_QT_MAJOR}::lrelease)
@@ -30,6 +31,9 @@ function(orrery_add_translations target)
     list(APPEND qm_files "${qm}")
     string(APPEND entries "    <file>${name}.qm</file>\n")
   endforeach()
+
+  install(FILES ${qm_files} DESTINATION ${CMAKE_INSTALL_DATADIR}/${ORRERY_INCLUDE_SUBDIR}/translations
+          COMPONENT runtime)
 
   set(qrc "${out}/translations.qrc")
   file(CONFIGURE OUTPUT "${qrc}" CONTENT

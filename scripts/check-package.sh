@@ -1,32 +1,90 @@
 #!/usr/bin/env bash
-# Installs a build into a scratch prefix, then builds and runs the example host
-# against the installed CMake package, as an outside project would.
+# Checks what a host project gets from a build, as an outside project would:
+#  1. `cmake --install` into a scratch prefix; the example host is built with CMake and run;
+#  2. the Debian packages (cpack) are unpacked into a scratch root (dpkg-deb -x, nothing is
+#     installed on the machine) and the example is built against them with CMake and with
+#     pkg-config; when the other Qt major version's packages were made too (build/qt<M>),
+#     they are unpacked into the same root and the example is built against each;
+#  3. a variant or version that is not there is refused with CMake's and pkg-config's
+#     ordinary messages, and the library's layers link no host.
 # Usage: scripts/check-package.sh [5|6]   (the Qt major version of build/qt<N>)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 major="${1:-6}"
-build="build/qt$major"
-prefix="$PWD/$build/package-prefix"
-rm -rf "$prefix" "$build/hello-host"
-cmake --install "$build" --prefix "$prefix" >/dev/null
-cmake -S examples/hello-host -B "$build/hello-host" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-cmake --build "$build/hello-host" -j "${ORRERY_JOBS:-2}" >/dev/null
-QT_QPA_PLATFORM=offscreen "$build/hello-host/hello-host"
-
-# A host built with the other Qt must be told so at configure time.
 other=$(( major == 6 ? 5 : 6 ))
-if out=$(cmake -S examples/hello-host -B "$build/hello-host-qt$other" -DCMAKE_PREFIX_PATH="$prefix" \
-               -DQT_VERSION_MAJOR="$other" 2>&1); then
-  echo "package: a Qt $other host was not refused" >&2; exit 1
+build="build/qt$major"
+scratch="$PWD/$build/package-check"
+rm -rf "$scratch"
+mkdir -p "$scratch"
+jobs="${ORRERY_JOBS:-2}"
+
+# run <library dir> <program>: runs offscreen, showing its messages only when it fails.
+run() {
+  LD_LIBRARY_PATH="$1" QT_QPA_PLATFORM=offscreen "$2" >"$scratch/run.log" 2>&1 || { cat "$scratch/run.log" >&2; exit 1; }
+}
+
+# build_example <name> <prefix> <qt major>: the example host with CMake, run offscreen.
+build_example() {
+  cmake -S examples/hello-host -B "$scratch/$1" -DCMAKE_PREFIX_PATH="$2" -DORRERY_QT_MAJOR="$3" >/dev/null
+  cmake --build "$scratch/$1" -j "$jobs" >/dev/null
+  run "$2/lib" "$scratch/$1/hello-host"
+}
+
+# build_with_pkgconfig <root> <qt major>: the example without CMake.
+build_with_pkgconfig() {
+  local flags
+  flags=$(PKG_CONFIG_PATH="$1/usr/lib/pkgconfig" pkg-config --cflags --libs "orrery-prompts-qt$2" "orrery-host-qt$2")
+  # shellcheck disable=SC2086 # the flags are words
+  g++ -std=c++17 -fPIC examples/hello-host/main.cpp $flags -o "$scratch/hello-pc-qt$2"
+  run "$1/usr/lib" "$scratch/hello-pc-qt$2"
+}
+
+# expect_refusal <what> <pattern> <command...>: the command fails with a message matching pattern.
+expect_refusal() {
+  local what=$1 pattern=$2 out
+  shift 2
+  if out=$("$@" 2>&1); then echo "package: $what was not refused" >&2; exit 1; fi
+  # CMake wraps long messages at a point that depends on the paths.
+  tr -s "[:space:]" " " <<<"$out" | grep -q "$pattern" || { echo "$out" >&2; exit 1; }
+}
+
+cmake --install "$build" --prefix "$scratch/prefix" >/dev/null
+build_example install "$scratch/prefix" "$major"
+echo "package: installed, found, linked and run"
+
+(cd "$build" && cpack -G DEB -B "$PWD/packages" >/dev/null)
+root="$scratch/root"
+for deb in "$build"/packages/*.deb; do dpkg-deb -x "$deb" "$root"; done
+build_example deb "$root/usr" "$major"
+build_with_pkgconfig "$root" "$major"
+echo "package: $(cd "$build/packages" && ls ./*.deb | tr '\n' ' ')unpacked; the example builds with CMake and pkg-config"
+
+expect_refusal "a Qt $other variant that is not there" "OrreryPromptsQt$other" \
+  cmake -S examples/hello-host -B "$scratch/missing" -DCMAKE_PREFIX_PATH="$root/usr" -DORRERY_QT_MAJOR="$other"
+expect_refusal "a pkg-config variant that is not there" "orrery-prompts-qt$other" \
+  env PKG_CONFIG_PATH="$root/usr/lib/pkgconfig" pkg-config --exists --print-errors "orrery-prompts-qt$other"
+mkdir -p "$scratch/newer-src"
+printf 'cmake_minimum_required(VERSION 3.25)\nproject(Newer NONE)\nfind_package(OrreryPromptsQt%s 9.0 CONFIG REQUIRED)\n' \
+  "$major" >"$scratch/newer-src/CMakeLists.txt"
+expect_refusal "a version newer than installed" "version: 0.1" \
+  cmake -S "$scratch/newer-src" -B "$scratch/newer" -DCMAKE_PREFIX_PATH="$root/usr"
+expect_refusal "a host using the other Qt" "was built with Qt $major" \
+  cmake -S examples/hello-host -B "$scratch/mixed" -DCMAKE_PREFIX_PATH="$root/usr" \
+        -DORRERY_QT_MAJOR="$major" -DQT_VERSION_MAJOR="$other"
+echo "package: a missing variant, a newer version and a host of the other Qt are refused"
+
+if ls "build/qt$other"/packages/*.deb >/dev/null 2>&1; then
+  for deb in "build/qt$other"/packages/*.deb; do dpkg-deb -x "$deb" "$root"; done
+  build_example both-qt$other "$root/usr" "$other"
+  build_example both-qt$major "$root/usr" "$major"
+  build_with_pkgconfig "$root" "$other"
+  echo "package: the Qt $major and Qt $other packages share one root; the example builds against each"
 fi
-# CMake wraps long messages, at a point that depends on the prefix path.
-tr -s "[:space:]" " " <<<"$out" | grep -q "was built with Qt $major" || { echo "$out" >&2; exit 1; }
-echo "package: installed, found, linked and run; a Qt $other host is refused"
 
 # The library's layers take the host's operations from the process, never from a link.
 for layer in platform core framework prompts; do
-  if readelf -d "$build/liborrery_$layer.so" | grep -q 'liborrery_host'; then
-    echo "package: liborrery_$layer links the stand-in host" >&2; exit 1
+  if readelf -d "$build/liborrery-$layer-qt$major.so" | grep -q 'liborrery-host'; then
+    echo "package: liborrery-$layer-qt$major links the stand-in host" >&2; exit 1
   fi
 done
 echo "package: the library's layers link no host"
