@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs, only those that are missing.
-# Usage: scripts/install-deps.sh [5|6|fuzz]...   (Qt major versions wanted, and the
-# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes; default 6)
+# Usage: scripts/install-deps.sh [5|6|fuzz|docs]...   (Qt major versions wanted, the
+# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes, Doxygen; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
 pkgs=(cmake g++ make ccache pkg-config libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
@@ -10,6 +10,7 @@ for m in "${majors[@]}"; do
     6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-l10n-tools qt6-tools-dev qt6-translations-l10n) ;;
     5) pkgs+=(qtbase5-dev qtbase5-dev-tools qttools5-dev-tools qttools5-dev qttranslations5-l10n) ;;
     fuzz) pkgs+=(clang-14 libclang-rt-14-dev clang) ;;
+    docs) pkgs+=(doxygen) ;;
     *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
   esac
 done
