@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs, only those that are missing.
-# Usage: scripts/install-deps.sh [5|6|fuzz|docs]...   (Qt major versions wanted, the
-# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes, Doxygen; default 6)
+# Usage: scripts/install-deps.sh [5|6|fuzz|docs|abi]...   (Qt major versions wanted, the
+# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes, Doxygen, abigail; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
 pkgs=(cmake g++ make ccache pkg-config libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
@@ -11,6 +11,7 @@ for m in "${majors[@]}"; do
     5) pkgs+=(qtbase5-dev qtbase5-dev-tools qttools5-dev-tools qttools5-dev qttranslations5-l10n) ;;
     fuzz) pkgs+=(clang-14 libclang-rt-14-dev clang) ;;
     docs) pkgs+=(doxygen) ;;
+    abi) pkgs+=(abigail-tools xz-utils) ;;
     *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
   esac
 done
