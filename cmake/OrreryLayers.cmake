@@ -1,5 +1,6 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
+include(GenerateExportHeader)
 
 # Installed names carry the Qt major version, as Qt libraries' do, so that a Qt 5
 # and a Qt 6 build install side by side: liborrery-prompts-qt6.so.0,
@@ -10,12 +11,14 @@ set(ORRERY_PACKAGE OrreryPromptsQt${ORRERY_QT_MAJOR})
 set(ORRERY_SOVERSION 0)
 
 # One library per top-level folder; the folder alone decides what goes in it.
-# orrery_add_layer(<layer> DEPENDS <targets...> [EXTRA <files...>])
+# orrery_add_layer(<layer> [EXPORTED] DEPENDS <targets...> [EXTRA <files...>])
 # makes target orrery_<layer>, exported as Orrery::<layer>, with every source,
 # layout and resource below <layer>/ and its headers installed under
-# include/orrery-qt<N>/<layer>.
+# include/orrery-qt<N>/<layer>. An EXPORTED layer hides every symbol but those
+# its headers mark with ORRERY_<LAYER>_EXPORT, from the generated
+# "<layer>/<Layer>Export.h".
 function(orrery_add_layer layer)
-  cmake_parse_arguments(ARG "" "" "DEPENDS;EXTRA" ${ARGN})
+  cmake_parse_arguments(ARG "EXPORTED" "" "DEPENDS;EXTRA" ${ARGN})
   set(dir "${PROJECT_SOURCE_DIR}/${layer}")
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS
        "${dir}/*.cpp" "${dir}/*.h" "${dir}/*.ui" "${dir}/*.qrc")
@@ -29,6 +32,18 @@ function(orrery_add_layer layer)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}>)
   target_link_libraries(${target} PUBLIC ${ARG_DEPENDS})
+  if(ARG_EXPORTED)
+    string(TOUPPER ${layer} upper)
+    string(SUBSTRING ${layer} 0 1 first)
+    string(TOUPPER ${first} first)
+    string(SUBSTRING ${layer} 1 -1 rest)
+    set(header ${PROJECT_BINARY_DIR}/exports/${layer}/${first}${rest}Export.h)
+    generate_export_header(${target} BASE_NAME orrery_${layer} EXPORT_MACRO_NAME ORRERY_${upper}_EXPORT
+                           EXPORT_FILE_NAME ${header})
+    set_target_properties(${target} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}/exports>)
+    install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}/${layer} COMPONENT dev)
+  endif()
   install(TARGETS ${target} EXPORT OrreryPromptsTargets
           LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
           ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev

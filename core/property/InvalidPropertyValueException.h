@@ -1,11 +1,12 @@
 #pragma once
+#include "core/CoreExport.h"
 #include "platform/common/ExceptionBase.h"
 
 namespace orrery {
 
 // A value refused by a property's validator or by the kernel; the message is
 // the refusal text exactly as given.
-class InvalidPropertyValueException : public virtual ExceptionBase
+class ORRERY_CORE_EXPORT InvalidPropertyValueException : public virtual ExceptionBase
 {
 public:
     explicit InvalidPropertyValueException(const std::string& message);

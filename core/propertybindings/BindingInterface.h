@@ -1,10 +1,11 @@
 #pragma once
+#include "core/CoreExport.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Root of every binding: something that can refresh its widget's value,
 // visibility and enabled state. Dialogs own their bindings through this type.
-class BindingInterface
+class ORRERY_CORE_EXPORT BindingInterface
 {
 public:
     enum WidgetUpdateMode_e

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <memory>
 #include <boost/shared_ptr.hpp>
 
@@ -15,7 +16,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // A combo box showing a list model, its current row kept in step with a property.
 // Instantiated for int and RGBMode_e.
 template <typename T>
-class ComboBoxPropertyBinding : public UIPropertyBindingAbstract<T>
+class ORRERY_CORE_EXPORT ComboBoxPropertyBinding : public UIPropertyBindingAbstract<T>
 {
 public:
     typedef boost::shared_ptr<const models::ListModelInterface<T>> ListModelPtr;

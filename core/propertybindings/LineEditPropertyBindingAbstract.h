@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <memory>
 #include <QString>
 
@@ -14,7 +15,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // is answered by restoring the field and giving it the focus again.
 // Instantiated for double, std::string, int and RGBMode_e.
 template <typename T>
-class LineEditPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
+class ORRERY_CORE_EXPORT LineEditPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
 {
 public:
     LineEditPropertyBindingAbstract(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <memory>
 #include <vector>
 #include <boost/shared_ptr.hpp>
@@ -25,7 +26,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // are not written back; while the property is written from the selection, the
 // write does not schedule a selection refresh.
 template <typename C>
-class ListViewPropertySynchronizer : public WidgetPropertySynchronizerInterface
+class ORRERY_CORE_EXPORT ListViewPropertySynchronizer : public WidgetPropertySynchronizerInterface
 {
 public:
     typedef boost::shared_ptr<const models::ListModelInterface<int>> ListModelPtr;

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <boost/function.hpp>
 
 #include "platform/common/OnIdleActionPerformerSingleShot.h"
@@ -8,7 +9,7 @@
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Runs an action once on idle after one or more changes of a property.
-class OnIdleAfterPropertyChangeActionPerformer
+class ORRERY_CORE_EXPORT OnIdleAfterPropertyChangeActionPerformer
 {
 public:
     template <typename T>

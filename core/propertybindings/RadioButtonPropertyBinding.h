@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <memory>
 #include <boost/shared_ptr.hpp>
 
@@ -12,7 +13,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // One radio button standing for one value of a property; a group of buttons,
 // one binding each, edits one property. Instantiated for bool and Font_e.
 template <typename T>
-class RadioButtonPropertyBinding : public UIPropertyBindingAbstract<T>
+class ORRERY_CORE_EXPORT RadioButtonPropertyBinding : public UIPropertyBindingAbstract<T>
 {
 public:
     RadioButtonPropertyBinding(QAbstractButton* button, const boost::shared_ptr<PropertyAbstract<T>>& property,

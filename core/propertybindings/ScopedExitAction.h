@@ -1,11 +1,12 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <functional>
 #include <utility>
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Runs an action when the scope is left, by return or by exception.
-class ScopedExitAction
+class ORRERY_CORE_EXPORT ScopedExitAction
 {
 public:
     explicit ScopedExitAction(std::function<void ()> action) : m_action(std::move(action)) {}

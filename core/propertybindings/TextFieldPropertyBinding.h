@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <string>
 #include "core/propertybindings/LineEditPropertyBindingAbstract.h"
 
@@ -7,7 +8,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // A line edit showing a property's value through a boost::format string
 // ("%1%" by default). Instantiated for double and std::string.
 template <typename T>
-class TextFieldPropertyBinding : public LineEditPropertyBindingAbstract<T>
+class ORRERY_CORE_EXPORT TextFieldPropertyBinding : public LineEditPropertyBindingAbstract<T>
 {
 public:
     enum CursorPosition_e

@@ -1,9 +1,10 @@
 #pragma once
+#include "core/CoreExport.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Keeps a widget and a property in step when neither direction is a plain value copy.
-class WidgetPropertySynchronizerInterface
+class ORRERY_CORE_EXPORT WidgetPropertySynchronizerInterface
 {
 public:
     virtual ~WidgetPropertySynchronizerInterface() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 
 namespace orrery {
 namespace sdk {
@@ -6,7 +7,7 @@ namespace styleproperties {
 
 // What a style property set does to all its kernel properties at once,
 // whatever their value types: move to another collection member, submit.
-class KernelPropertyHandle
+class ORRERY_CORE_EXPORT KernelPropertyHandle
 {
 public:
     virtual void setOffsets(long first, long second) = 0;

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <boost/function.hpp>
 #include <boost/shared_ptr.hpp>
 #include "platform/common/PropertyItemInterface.h"
@@ -11,7 +12,7 @@ namespace ui {
 namespace propertymanager {
 
 // Relevance given by a predicate, asked again whenever a property changes.
-class PropertyPredicateDependentRelevance : public virtual RelevanceInterface
+class ORRERY_CORE_EXPORT PropertyPredicateDependentRelevance : public virtual RelevanceInterface
 {
 public:
     PropertyPredicateDependentRelevance(const boost::shared_ptr<const PropertyItemInterface>& property,

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <boost/signals2/signal.hpp>
 
 namespace orrery {
@@ -8,7 +9,7 @@ namespace propertymanager {
 
 // Says whether a control (or a whole dialog) is meaningful right now, and
 // announces when the answer may have changed; listeners ask again.
-class RelevanceInterface
+class ORRERY_CORE_EXPORT RelevanceInterface
 {
 public:
     typedef boost::signals2::signal<void ()> RelevanceChangedSignal;

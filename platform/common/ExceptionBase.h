@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -7,7 +8,7 @@ namespace orrery {
 
 // Root of the host's exceptions. The flag says whether the call stack at the
 // throw point is worth printing (printStackTrace prints the message otherwise).
-class ExceptionBase : public std::runtime_error
+class ORRERY_PLATFORM_EXPORT ExceptionBase : public std::runtime_error
 {
 public:
     ExceptionBase(const std::string& message, bool withTrace);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <deque>
 #include <functional>
 #include <QObject>
@@ -10,7 +11,7 @@ namespace common {
 
 // Runs queued work when the host is idle: once the event loop has nothing else
 // to do and the host is not busy (AppLock tells it). Tests and tools without an event loop call flush().
-class IdleQueue : public QObject
+class ORRERY_PLATFORM_EXPORT IdleQueue : public QObject
 {
     Q_OBJECT
 public:

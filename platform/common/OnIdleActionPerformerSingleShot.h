@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <boost/function.hpp>
 #include "platform/common/IdleQueue.h"
 
@@ -8,7 +9,7 @@ namespace ui {
 namespace common {
 
 // Runs one action once when the host is next idle, however often it was armed before.
-class OnIdleActionPerformerSingleShot
+class ORRERY_PLATFORM_EXPORT OnIdleActionPerformerSingleShot
 {
 public:
     explicit OnIdleActionPerformerSingleShot(const boost::function<void ()>& action);

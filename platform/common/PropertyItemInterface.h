@@ -1,10 +1,11 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <boost/signals2/signal.hpp>
 
 namespace orrery {
 
 // Base of every property: the untyped "something changed" signal.
-class PropertyItemInterface
+class ORRERY_PLATFORM_EXPORT PropertyItemInterface
 {
 public:
     typedef boost::signals2::signal<void ()> PropertyChangedSignal;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <vector>
 #include <boost/signals2/connection.hpp>
 #include <boost/signals2/shared_connection_block.hpp>
@@ -6,7 +7,7 @@
 namespace orrery {
 
 // Owns a group of signal connections and disconnects them all when cleared or destroyed.
-class SignalConnectionCollection
+class ORRERY_PLATFORM_EXPORT SignalConnectionCollection
 {
 public:
     // Blocks every connection of a collection for its own lifetime.

@@ -1,10 +1,11 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <string>
 
 namespace orrery {
 
 // Outcome of a validator: valid unless an error text has been set.
-class ValidationResult
+class ORRERY_PLATFORM_EXPORT ValidationResult
 {
 public:
     ValidationResult() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <string>
 #include <vector>
 
@@ -6,7 +7,7 @@ namespace orrery {
 namespace sdk {
 
 // A reader of one file format into the kernel's data set.
-class DataLoaderInterface
+class ORRERY_PLATFORM_EXPORT DataLoaderInterface
 {
 public:
     struct Properties

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <string>
 #include <vector>
 #include <boost/shared_ptr.hpp>
@@ -9,7 +10,7 @@ namespace sdk {
 
 // Every data loader installed in the host, in registration order. The host
 // registers its own loaders at its start; plug-ins may add more.
-class DataLoaderRepository
+class ORRERY_PLATFORM_EXPORT DataLoaderRepository
 {
 public:
     typedef boost::shared_ptr<DataLoaderInterface> LoaderPtr;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <QMetaObject>
 
 #include "platform/qwidgetobservable/ListenerList.h"
@@ -9,7 +10,7 @@ class QAbstractButton;
 namespace qwidgetobservable {
 
 // Relays a button's toggles to listeners.
-class QButtonObservable
+class ORRERY_PLATFORM_EXPORT QButtonObservable
 {
 public:
     explicit QButtonObservable(QAbstractButton* button);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <QMetaObject>
 
 #include "platform/qwidgetobservable/ListenerList.h"
@@ -9,7 +10,7 @@ class QComboBox;
 namespace qwidgetobservable {
 
 // Relays a combo box's current-index changes to listeners.
-class QComboBoxObservable
+class ORRERY_PLATFORM_EXPORT QComboBoxObservable
 {
 public:
     explicit QComboBoxObservable(QComboBox* combo);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <functional>
 #include <QObject>
 #include <QPointer>
@@ -12,7 +13,7 @@ namespace qwidgetobservable {
 // can restore the field. The commit function is called once per commit; when
 // it refuses the text (returns false), Return is kept from reaching the dialog,
 // so that a refused value does not close it.
-class QTextFieldObservable : public QObject
+class ORRERY_PLATFORM_EXPORT QTextFieldObservable : public QObject
 {
     Q_OBJECT
 public:

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <boost/signals2/signal.hpp>
 
 namespace orrery {
@@ -6,7 +7,7 @@ namespace sdk {
 
 // Marks the host busy while held (locks nest). Idle work waits until the last
 // lock is released.
-class AppLock
+class ORRERY_PLATFORM_EXPORT AppLock
 {
 public:
     enum ImplicitMacroRecording

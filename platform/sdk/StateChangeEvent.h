@@ -1,11 +1,12 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include "platform/sdk/StateChangeEventInterface.h"
 
 namespace orrery {
 namespace sdk {
 namespace integration {
 
-class StateChangeEvent : public StateChangeEventInterface
+class ORRERY_PLATFORM_EXPORT StateChangeEvent : public StateChangeEventInterface
 {
 public:
     explicit StateChangeEvent(StateChange_e code, const toolbox::StringList& stylePath = {});

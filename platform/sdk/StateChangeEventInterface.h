@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include "platform/kernel/OrrTypes.h"
 #include "platform/toolbox/StringList.h"
 
@@ -7,7 +8,7 @@ namespace sdk {
 namespace integration {
 
 // One announcement of a change of the host's state.
-class StateChangeEventInterface
+class ORRERY_PLATFORM_EXPORT StateChangeEventInterface
 {
 public:
     virtual ~StateChangeEventInterface() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <boost/signals2/signal.hpp>
 #include "platform/sdk/StateChangeEventInterface.h"
 
@@ -8,7 +9,7 @@ namespace integration {
 
 // The host's one channel of state-change announcements. Listeners are called
 // synchronously, in connection order, on the user-interface thread.
-class StateChangeEventObservable
+class ORRERY_PLATFORM_EXPORT StateChangeEventObservable
 {
 public:
     typedef boost::signals2::signal<void (const StateChangeEventInterface&)> Signal;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <string>
 
 namespace orrery {
@@ -6,7 +7,7 @@ namespace sdk {
 
 // The host's per-user application settings: string values under string keys,
 // kept across runs. A host supplies the store and getInstance().
-class ApplicationSettings
+class ORRERY_PLATFORM_EXPORT ApplicationSettings
 {
 public:
     // The host's store, for the life of the process.

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <map>
 #include <string>
 #include <variant>
@@ -20,7 +21,7 @@ class Set;
 //   "IValue"   integer, enum and bool values: long to write, long* to read into
 //   "DValue"   double values: double to write, double* to read into
 //   "SValue"   string values: std::string to write, std::string* to read into
-class ArgList
+class ORRERY_PLATFORM_EXPORT ArgList
 {
 public:
     typedef std::variant<long, long*, double, double*, std::string, std::string*,

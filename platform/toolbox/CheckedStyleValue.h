@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include "platform/toolbox/StyleValue.h"
 
 namespace orrery {
@@ -7,7 +8,7 @@ namespace toolbox {
 // A style value that performs raw kernel calls: integer, enum and bool values
 // travel in the "IValue" argument (a long* to read into, a long to write),
 // doubles may be written as "DValue".
-class CheckedStyleValue : public StyleValue
+class ORRERY_PLATFORM_EXPORT CheckedStyleValue : public StyleValue
 {
 public:
     explicit CheckedStyleValue(const StyleValue& value);

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <cstddef>
 #include <initializer_list>
 #include <vector>
@@ -10,7 +11,7 @@ namespace toolbox {
 // ascending order. Held as a sorted array: data sets hand out sets of a
 // million zones, which must copy and iterate cheaply; members are mostly
 // added in ascending order.
-class Set
+class ORRERY_PLATFORM_EXPORT Set
 {
 public:
     typedef std::vector<int>::const_iterator const_iterator;

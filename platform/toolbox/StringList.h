@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <cstddef>
 #include <initializer_list>
 #include <string>
@@ -8,7 +9,7 @@ namespace orrery {
 namespace toolbox {
 
 // An ordered list of names; a style path is one.
-class StringList
+class ORRERY_PLATFORM_EXPORT StringList
 {
 public:
     typedef std::vector<std::string>::const_iterator const_iterator;

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <string>
 #include "platform/kernel/OrrTypes.h"
 #include "platform/toolbox/RawArray.h"
@@ -17,7 +18,7 @@ class Set;
 //
 // Collection members (e.g. "FieldMap" / "Scatter" / "Show", one per zone) are
 // chosen by the first offset, a 1-based member number.
-class StyleValue
+class ORRERY_PLATFORM_EXPORT StyleValue
 {
 public:
     explicit StyleValue(const StringList& path);

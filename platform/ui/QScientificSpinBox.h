@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <functional>
 #include <QAbstractSpinBox>
 
@@ -8,7 +9,7 @@ namespace orrery::ui {
 // notation (1.5e-07) and never rounds the value to a fixed number of decimal
 // places; "decimals" is the number of significant digits shown. Text is read
 // and written in the classic locale, as the kernel's numbers are.
-class QScientificSpinBox : public QAbstractSpinBox
+class ORRERY_PLATFORM_EXPORT QScientificSpinBox : public QAbstractSpinBox
 {
     Q_OBJECT
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)

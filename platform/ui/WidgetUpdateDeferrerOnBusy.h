@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/PlatformExport.h"
 #include <boost/signals2/connection.hpp>
 #include <QObject>
 #include <QPointer>
@@ -10,7 +11,7 @@ namespace orrery::ui {
 // and repaints it once when the host becomes idle, so that a list rebuilt in
 // many steps is drawn once. It lives in the platform because the library's own
 // choice bindings make one.
-class WidgetUpdateDeferrerOnBusy : public QObject
+class ORRERY_PLATFORM_EXPORT WidgetUpdateDeferrerOnBusy : public QObject
 {
     Q_OBJECT
 public:

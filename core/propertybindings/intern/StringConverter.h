@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <string>
 #include <typeinfo>
 
@@ -9,7 +10,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 // Strict text-to-value conversion for text field bindings. Leading blanks fail
 // (the text is tidied beforehand); trailing characters are not examined, since
 // the field's validator has screened the text.
-class StringConverter
+class ORRERY_CORE_EXPORT StringConverter
 {
 public:
     explicit StringConverter(const std::string& text) : m_text(text) {}

@@ -1,4 +1,5 @@
 #pragma once
+#include "core/CoreExport.h"
 #include <type_traits>
 #include <QString>
 
@@ -10,7 +11,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 // the blanks around them (a pasted " 2.5 " is meant as 2.5, and the strict
 // conversion refuses leading blanks); text values are left exactly as typed,
 // since blanks can be part of them.
-class StringMassager
+class ORRERY_CORE_EXPORT StringMassager
 {
 public:
     virtual ~StringMassager();
