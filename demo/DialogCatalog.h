@@ -5,7 +5,7 @@
 #include <QDialogButtonBox>
 #include <QString>
 #include "framework/QtDialogAbstract.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 // Every dialog the demo can open: how the host opens it, what the tour does in
 // it, which button ends the tour's run, and how its answers read.

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs, only those that are missing.
-# Usage: scripts/install-deps.sh [5|6|fuzz|docs|abi]...   (Qt major versions wanted, the
-# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes, Doxygen, abigail; default 6)
+# Usage: scripts/install-deps.sh [5|6|fuzz|docs|abi|format]...   (Qt major versions wanted, the
+# fuzzing toolchain: clang with libFuzzer and the sanitizer runtimes, Doxygen, abigail,
+# clang-format; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
 pkgs=(cmake g++ make ccache pkg-config libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
@@ -12,6 +13,7 @@ for m in "${majors[@]}"; do
     fuzz) pkgs+=(clang-14 libclang-rt-14-dev clang) ;;
     docs) pkgs+=(doxygen) ;;
     abi) pkgs+=(abigail-tools xz-utils) ;;
+    format) pkgs+=(clang-format) ;;
     *) echo "unknown Qt major version: $m" >&2; exit 2 ;;
   esac
 done

@@ -4,7 +4,7 @@
 #include <boost/make_shared.hpp>
 #include "framework/DataSetExistsRelevance.h"
 #include "framework/LaunchHelpAction.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 #include "prompts/prompt/VariableChoiceBindings.h"
 #include "ui_VariableSelectDialog.h"
 

@@ -5,7 +5,7 @@
 #include <boost/shared_ptr.hpp>
 #include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

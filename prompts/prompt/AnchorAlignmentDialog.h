@@ -2,7 +2,7 @@
 #include <memory>
 #include "framework/QtDialogAbstract.h"
 #include "platform/kernel/OrrTypes.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 class Ui_AnchorAlignment;
 

@@ -6,7 +6,7 @@
 #include <boost/shared_ptr.hpp>
 #include "framework/QtDialogAbstract.h"
 #include "platform/loaders/DataLoaderInterface.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

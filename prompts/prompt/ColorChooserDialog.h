@@ -4,7 +4,7 @@
 #include <QString>
 #include "framework/QtDialogAbstract.h"
 #include "platform/common/SignalConnectionCollection.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 class Ui_ColorChooser;
 

@@ -3,7 +3,7 @@
 #include <string>
 #include "framework/QtDialogAbstract.h"
 #include "platform/kernel/OrrTypes.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include "framework/DataSetExistsRelevance.h"
 #include "core/property/Property.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 
 namespace orrery {
 namespace dialogs {

@@ -2,7 +2,7 @@
 #include <memory>
 #include <string>
 #include "framework/QtDialogAbstract.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

@@ -3,7 +3,7 @@
 #include <boost/make_shared.hpp>
 #include "framework/DataSetExistsRelevance.h"
 #include "core/property/Property.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 
 namespace orrery {
 namespace dialogs {

@@ -6,7 +6,7 @@
 #include "prompts/propertymanager/IntensitySpinBoxIncDecCalculator.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesManager.h"
-#include "prompts/prompt/StyleSetDialogParts.h"
+#include "framework/StyleSetDialogParts.h"
 #include "ui_RGBColorOpts.h"
 
 namespace orrery {

@@ -1,7 +1,7 @@
 #pragma once
 #include <memory>
 #include "framework/QtDialogAbstract.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

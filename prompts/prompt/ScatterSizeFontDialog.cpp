@@ -10,7 +10,7 @@
 #include "framework/LaunchHelpAction.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ScatterSizeFontPropertiesManager.h"
-#include "prompts/prompt/StyleSetDialogParts.h"
+#include "framework/StyleSetDialogParts.h"
 #include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
 #include "ui_ScatterSizeFont.h"
 

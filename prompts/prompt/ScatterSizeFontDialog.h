@@ -1,7 +1,7 @@
 #pragma once
 #include <boost/scoped_ptr.hpp>
 #include "framework/QtDialogAbstract.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

@@ -17,7 +17,7 @@
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/sdk/StateChangeEventInterface.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 #include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
 
 namespace orrery {

@@ -4,7 +4,7 @@
 #include "framework/LaunchHelpAction.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 #include "prompts/prompt/VariableSelectDialogImpl.h"
 
 namespace orrery {

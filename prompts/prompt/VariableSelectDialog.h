@@ -6,7 +6,7 @@
 #include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
 #include "platform/toolbox/StringList.h"
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
 namespace dialogs {

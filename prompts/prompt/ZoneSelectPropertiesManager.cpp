@@ -5,7 +5,7 @@
 #include "framework/DataSetExistsRelevance.h"
 #include "framework/models/ZoneListModel.h"
 #include "platform/sdk/DataSetQueries.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 
 namespace orrery {
 namespace dialogs {

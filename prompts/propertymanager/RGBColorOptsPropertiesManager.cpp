@@ -10,7 +10,7 @@
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/sdk/StateChangeEventInterface.h"
-#include "prompts/prompt/SharedRelevance.h"
+#include "framework/SharedRelevance.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
 
 namespace orrery::sdk::ui::propertymanager {

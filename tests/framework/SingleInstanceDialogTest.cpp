@@ -2,7 +2,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <gtest/gtest.h>
-#include "prompts/prompt/SingleInstanceDialog.h"
+#include "framework/SingleInstanceDialog.h"
 
 using orrery::dialogs::prompt::SingleInstanceDialog;
 
