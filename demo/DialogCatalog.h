@@ -8,7 +8,8 @@
 #include "framework/SingleInstanceDialog.h"
 
 // Every dialog the demo can open: how the host opens it, what the tour does in
-// it, which button ends the tour's run, and how its answers read.
+// it, which button ends the tour's run, and how its answers read. The one list
+// of the library's dialogs: the tests that walk every dialog are made from it.
 class DialogCatalog
 {
 public:
@@ -22,6 +23,9 @@ public:
         QDialogButtonBox::StandardButton closeWith;
         std::function<QString(Dialog&)> answers;
         bool callerOwnsDialog; // single-instance dialogs belong to their parent
+        // Letters only; set on the one entry per library dialog that the checks
+        // walking every dialog open (the others drive a dialog listed before).
+        const char* checkName;
     };
 
     static const std::vector<Entry>& entries();
@@ -31,13 +35,15 @@ public:
 private:
     template <typename D>
     static Entry entry(const QString& name, D* (*open)(QWidget&), void (*drive)(D&),
-                       QDialogButtonBox::StandardButton closeWith, QString (*answers)(D&))
+                       QDialogButtonBox::StandardButton closeWith, QString (*answers)(D&),
+                       const char* checkName = nullptr)
     {
         return {name,
                 [open](QWidget& parent) -> Dialog* { return open(parent); },
                 [drive](Dialog& d) { drive(static_cast<D&>(d)); },
                 closeWith,
                 [answers](Dialog& d) { return answers(static_cast<D&>(d)); },
-                !std::is_base_of_v<orrery::dialogs::prompt::SingleInstanceDialog<D>, D>};
+                !std::is_base_of_v<orrery::dialogs::prompt::SingleInstanceDialog<D>, D>,
+                checkName};
     }
 };

@@ -214,6 +214,14 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <source>Multi%1</source>
         <translation>Multi%1</translation>
     </message>
+    <message>
+        <source>Multi-colouring %1: coloured by a variable</source>
+        <translation>Mehrfarbig %1: nach einer Variablen gefärbt</translation>
+    </message>
+    <message>
+        <source>RGB colouring: red, green and blue from three variables</source>
+        <translation>RGB-Färbung: Rot, Grün und Blau aus drei Variablen</translation>
+    </message>
 </context>
 <context>
     <name>DialogCatalog</name>

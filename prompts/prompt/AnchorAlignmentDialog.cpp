@@ -58,51 +58,6 @@ void AnchorAlignmentDialog::reject()
     QtDialogAbstract::reject();
 }
 
-void AnchorAlignmentDialog::on_anchorAlignment_TopLeft_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_TopLeft;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_TopCenter_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_TopCenter;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_TopRight_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_TopRight;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_MiddleLeft_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_MiddleLeft;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_MiddleCenter;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_MiddleRight_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_MiddleRight;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_BottomLeft_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_BottomLeft;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_BottomCenter_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_BottomCenter;
-}
-
-void AnchorAlignmentDialog::on_anchorAlignment_BottomRight_RadioButton_toggled(bool)
-{
-    m_selectedAlignment = AnchorAlignment_BottomRight;
-}
-
 } // namespace prompt
 } // namespace dialogs
 } // namespace orrery

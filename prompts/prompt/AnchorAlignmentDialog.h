@@ -34,17 +34,18 @@ public Q_SLOTS:
     void reject() override;
 
 private Q_SLOTS:
-    // The button losing its check reports first, so the last write is always
-    // the newly checked button; the flag can be ignored.
-    void on_anchorAlignment_TopLeft_RadioButton_toggled(bool);
-    void on_anchorAlignment_TopCenter_RadioButton_toggled(bool);
-    void on_anchorAlignment_TopRight_RadioButton_toggled(bool);
-    void on_anchorAlignment_MiddleLeft_RadioButton_toggled(bool);
-    void on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool);
-    void on_anchorAlignment_MiddleRight_RadioButton_toggled(bool);
-    void on_anchorAlignment_BottomLeft_RadioButton_toggled(bool);
-    void on_anchorAlignment_BottomCenter_RadioButton_toggled(bool);
-    void on_anchorAlignment_BottomRight_RadioButton_toggled(bool);
+    // Connected by object name, one per button. The button losing its check
+    // reports first, so the last write is always the newly checked button; the
+    // flag can be ignored.
+    void on_anchorAlignment_TopLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopLeft; }
+    void on_anchorAlignment_TopCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopCenter; }
+    void on_anchorAlignment_TopRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopRight; }
+    void on_anchorAlignment_MiddleLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleLeft; }
+    void on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleCenter; }
+    void on_anchorAlignment_MiddleRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleRight; }
+    void on_anchorAlignment_BottomLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomLeft; }
+    void on_anchorAlignment_BottomCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomCenter; }
+    void on_anchorAlignment_BottomRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomRight; }
 
 private:
     std::unique_ptr<Ui_AnchorAlignment> m_ui;

@@ -26,6 +26,17 @@ const char* const BasicColorNames[8] = {
 const int FirstCustomColor = 8;
 const int NumColors = 64;
 const int RGBColoring = -6;
+// The kernel's numbers of the multi colourings, which skip -2 and -6 (RGB colouring).
+const int MultiColorings[8] = {-1, -3, -4, -5, -7, -8, -9, -10};
+
+// 1 to 8 for a multi colouring, 0 for any other index.
+int multiColoringNumber(int colorIndex)
+{
+    for (int i = 0; i < 8; ++i)
+        if (colorIndex == MultiColorings[i])
+            return i + 1;
+    return 0;
+}
 } // namespace
 
 ColorChooserDialog* ColorChooserDialog::getInstance(QWidget& parent, bool enableVarColoring)
@@ -43,19 +54,12 @@ std::string ColorChooserDialog::colorToString(int colorIndex, bool shortForm)
         return BasicColorNames[colorIndex];
     if (colorIndex >= FirstCustomColor && colorIndex < NumColors)
         return (shortForm ? "Cust " : "CUSTOM") + std::to_string(colorIndex - FirstCustomColor + 1);
-    switch (colorIndex)
-    {
-    case -1: return "Multi";
-    case -3: return "Multi2";
-    case -4: return "Multi3";
-    case -5: return "Multi4";
-    case RGBColoring: return "RGBCOLOR";
-    case -7: return "Multi5";
-    case -8: return "Multi6";
-    case -9: return "Multi7";
-    case -10: return "Multi8";
-    default: return std::string();
-    }
+    if (colorIndex == RGBColoring)
+        return "RGBCOLOR";
+    const int multi = multiColoringNumber(colorIndex);
+    if (multi == 0)
+        return std::string();
+    return multi == 1 ? "Multi" : "Multi" + std::to_string(multi);
 }
 
 QString ColorChooserDialog::colorDisplayName(int colorIndex, bool shortForm)
@@ -69,12 +73,11 @@ QString ColorChooserDialog::colorDisplayName(int colorIndex, bool shortForm)
             .arg(custom);
     if (colorIndex == RGBColoring)
         return QCoreApplication::translate("ColorChooser", "RGBCOLOR");
-    static const int multiColorings[8] = {-1, -3, -4, -5, -7, -8, -9, -10};
-    for (int i = 0; i < 8; ++i)
-        if (colorIndex == multiColorings[i])
-            return i == 0 ? QCoreApplication::translate("ColorChooser", "Multi")
-                          : QCoreApplication::translate("ColorChooser", "Multi%1").arg(i + 1);
-    return QString();
+    const int multi = multiColoringNumber(colorIndex);
+    if (multi == 0)
+        return QString();
+    return multi == 1 ? QCoreApplication::translate("ColorChooser", "Multi")
+                      : QCoreApplication::translate("ColorChooser", "Multi%1").arg(multi);
 }
 
 const QString& ColorChooserDialog::multiColorIconPath()
@@ -93,6 +96,12 @@ ColorChooserDialog::ColorChooserDialog(QWidget& parent)
     frameLayout->addWidget(grid, 0, 0);
     m_connections.add(grid->connectToColorSelectedSignal([this](int colorIndex) { colorSelected(colorIndex); }));
     m_ui->C1->setIcon(QIcon(multiColorIconPath()));
+    // The swatches name their colours; these name what they colour by.
+    QToolButton* const multi[8] = {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8};
+    for (int n = 1; n <= 8; ++n)
+        multi[n - 1]->setToolTip(QCoreApplication::translate("ColorChooser", "Multi-colouring %1: coloured by a variable").arg(n));
+    m_ui->RGB->setToolTip(
+        QCoreApplication::translate("ColorChooser", "RGB colouring: red, green and blue from three variables"));
 }
 
 ColorChooserDialog::~ColorChooserDialog() = default;
@@ -110,15 +119,10 @@ void ColorChooserDialog::colorSelected(int colorIndex)
     accept();
 }
 
-// The multi colourings skip -2 and -6 (RGB colouring): the kernel's numbering.
-void ColorChooserDialog::on_C1_clicked(bool) { colorSelected(-1); }
-void ColorChooserDialog::on_C2_clicked(bool) { colorSelected(-3); }
-void ColorChooserDialog::on_C3_clicked(bool) { colorSelected(-4); }
-void ColorChooserDialog::on_C4_clicked(bool) { colorSelected(-5); }
-void ColorChooserDialog::on_C5_clicked(bool) { colorSelected(-7); }
-void ColorChooserDialog::on_C6_clicked(bool) { colorSelected(-8); }
-void ColorChooserDialog::on_C7_clicked(bool) { colorSelected(-9); }
-void ColorChooserDialog::on_C8_clicked(bool) { colorSelected(-10); }
+void ColorChooserDialog::multiColoringSelected(int number)
+{
+    colorSelected(MultiColorings[number - 1]);
+}
 
 void ColorChooserDialog::on_RGB_clicked(bool)
 {

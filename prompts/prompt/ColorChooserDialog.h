@@ -45,17 +45,20 @@ public:
     int selectedColor() const { return m_selectedColor; }
 
 private Q_SLOTS:
-    void on_C1_clicked(bool);
-    void on_C2_clicked(bool);
-    void on_C3_clicked(bool);
-    void on_C4_clicked(bool);
-    void on_C5_clicked(bool);
-    void on_C6_clicked(bool);
-    void on_C7_clicked(bool);
-    void on_C8_clicked(bool);
+    // Connected by object name: the multi colourings 1 to 8, and RGB.
+    void on_C1_clicked(bool) { multiColoringSelected(1); }
+    void on_C2_clicked(bool) { multiColoringSelected(2); }
+    void on_C3_clicked(bool) { multiColoringSelected(3); }
+    void on_C4_clicked(bool) { multiColoringSelected(4); }
+    void on_C5_clicked(bool) { multiColoringSelected(5); }
+    void on_C6_clicked(bool) { multiColoringSelected(6); }
+    void on_C7_clicked(bool) { multiColoringSelected(7); }
+    void on_C8_clicked(bool) { multiColoringSelected(8); }
     void on_RGB_clicked(bool);
 
 private:
+    void multiColoringSelected(int number);
+
     std::unique_ptr<Ui_ColorChooser> m_ui;
     int m_selectedColor;
     SignalConnectionCollection m_connections;

@@ -27,8 +27,8 @@ private Q_SLOTS:
     void textChanged(QString const&);
 
 private:
-    struct Layout;
-    std::unique_ptr<Layout> m_ui;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace prompt

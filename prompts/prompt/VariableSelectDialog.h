@@ -12,8 +12,6 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-class VariableSelectDialogImpl;
-
 // Asks for two or three variables of the data set, one per drop-down list, and
 // writes each to the style value the caller names when the user presses OK.
 // Nothing reaches the kernel before OK; OK is one undoable step.
@@ -62,9 +60,10 @@ public Q_SLOTS:
     void accept() override;
 
 private:
-    void install(std::unique_ptr<VariableSelectDialogImpl> impl);
+    struct Impl;
+    void install(std::unique_ptr<Impl> impl);
 
-    std::unique_ptr<VariableSelectDialogImpl> m_impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace prompt

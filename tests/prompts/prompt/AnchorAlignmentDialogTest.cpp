@@ -30,27 +30,6 @@ protected:
     }
 };
 
-TEST_F(AnchorAlignmentDialogTest, LayoutContract)
-{
-    AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
-    contract::expectWidgets(*dialog, {
-        {"AnchorAlignment", "orrery::dialogs::prompt::AnchorAlignmentDialog", "Anchor Alignment"},
-        {"anchorAlignment_Top_Static", "QLabel", "Top"},
-        {"anchorAlignment_Middle_Static", "QLabel", "Middle"},
-        {"anchorAlignment_Bottom_Static", "QLabel", "Bottom"},
-        {"anchorAlignment_Left_Static", "QLabel", "Left"},
-        {"anchorAlignment_Center_Static", "QLabel", "Cntr"},
-        {"anchorAlignment_Right_Static", "QLabel", "Right"},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    for (int a = 0; a < 9; ++a)
-        contract::expectWidgets(*dialog, {{ButtonNames[a], "QRadioButton", ""}});
-    auto* box = dialog->findChild<QDialogButtonBox*>("buttonBox");
-    EXPECT_EQ(box->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedOrTopLeftWhenOutOfRangeAndIsTheAnswerUntilAClick)
 {
     for (int initial : {0, 1, 4, 8, 9, 12, -1})

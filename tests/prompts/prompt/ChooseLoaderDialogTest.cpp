@@ -90,32 +90,6 @@ protected:
     LoaderPtr textTable = DataLoaderRepository::getInstance().loaderNamed("Text table");
 };
 
-TEST_F(ChooseLoaderDialogTest, LayoutContract)
-{
-    ChooseLoaderDialog dialog(*window);
-    contract::expectWidgets(dialog, {
-        {"ChooseLoader", "orrery::dialogs::prompt::ChooseLoaderDialog", "Choose Loader"},
-        {"verticalLayout_2", "QVBoxLayout", nullptr},
-        {"verticalLayout", "QVBoxLayout", nullptr},
-        {"label", "QLabel",
-         "Multiple loaders support this kind of file.  Please choose \nwhich loader you would like to use."},
-        {"LoadersList", "QListView", nullptr},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    auto* inner = dialog.findChild<QVBoxLayout*>("verticalLayout");
-    EXPECT_EQ(dialog.findChild<QVBoxLayout*>("verticalLayout_2")->indexOf(inner), 0);
-    EXPECT_EQ(inner->indexOf(dialog.findChild<QLabel*>("label")), 0);
-    EXPECT_EQ(inner->indexOf(list(dialog)), 1);
-    EXPECT_EQ(inner->indexOf(dialog.findChild<QDialogButtonBox*>("buttonBox")), 2);
-    EXPECT_FALSE(dialog.findChild<QLabel*>("label")->wordWrap());
-    EXPECT_EQ(list(dialog)->selectionMode(), QAbstractItemView::SingleSelection);
-    EXPECT_EQ(dialog.findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
-              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_EQ(dialog.size(), QSize(284, 273));
-    EXPECT_TRUE(dialog.isModal());
-    ASSERT_NE(dialog.helpAction(), nullptr);
-}
-
 TEST_F(ChooseLoaderDialogTest, SuggestedLoadersComeFirstUnderHeadersThenTheOthersByName)
 {
     ChooseLoaderDialog* dialog = chooser({pointCloud, textTable, pointCloud}, {".dat"});

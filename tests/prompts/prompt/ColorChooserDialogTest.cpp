@@ -48,26 +48,6 @@ protected:
     }
 };
 
-TEST_F(ColorChooserDialogTest, LayoutContract)
-{
-    ColorChooserDialog* dialog = ColorChooserDialog::getInstance(parent, true);
-    contract::expectWidgets(*dialog, {
-        {"ColorChooser", "orrery::dialogs::prompt::ColorChooserDialog", "Color Chooser"},
-        {"buttonGridFrame", "QFrame", nullptr},
-        {"C1", "QToolButton", "Multi &1"},
-        {"C2", "QToolButton", "&2"},
-        {"C5", "QToolButton", "&5"},
-        {"C8", "QToolButton", "&8"},
-        {"RGB", "QToolButton", "&RGB"},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    EXPECT_FALSE(button(*dialog, "C1")->icon().isNull());
-    EXPECT_FALSE(QIcon(ColorChooserDialog::multiColorIconPath()).pixmap(16, 16).isNull());
-    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(), QDialogButtonBox::Close);
-    EXPECT_TRUE(dialog->isModal());
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(ColorChooserDialogTest, GridShowsBasicColorsFirstThenCustomColorsByPosition)
 {
     ColorChooserDialog* dialog = chooser();

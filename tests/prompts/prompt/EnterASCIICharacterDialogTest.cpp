@@ -25,27 +25,6 @@ protected:
     }
 };
 
-TEST_F(EnterASCIICharacterDialogTest, LayoutContract)
-{
-    EnterASCIICharacterDialog* dialog = EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
-    contract::expectWidgets(*dialog, {
-        {"EnterASCIICharacter", "orrery::dialogs::prompt::EnterASCIICharacterDialog", "Enter ASCII Character"},
-        {"label", "QLabel", "Enter &character to use as a symbol:"},
-        {"selectedCharacter_lineEdit", "QLineEdit", "A"},
-        {BaseButton, "QRadioButton", "&Base"},
-        {MathButton, "QRadioButton", "&Math"},
-        {GreekButton, "QRadioButton", "&Greek"},
-        {UserButton, "QRadioButton", "&User defined"},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    contract::expectTabOrder(*dialog, {"selectedCharacter_lineEdit", BaseButton, GreekButton, MathButton,
-                                       UserButton, "buttonBox"});
-    EXPECT_EQ(dialog->findChild<QLabel*>("label")->buddy(), field(*dialog));
-    EXPECT_EQ(field(*dialog)->maxLength(), 1);
-    EXPECT_TRUE(dialog->isModal());
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(EnterASCIICharacterDialogTest, TheInitialFontIsCheckedAndTheBaseFontIsEncodedAs255)
 {
     struct Case

@@ -12,24 +12,6 @@ protected:
     static QDialogButtonBox* box(QWidget& d) { return d.findChild<QDialogButtonBox*>("EnterTextString_buttonBox"); }
 };
 
-TEST_F(EnterTextStringDialogTest, LayoutContract)
-{
-    EnterTextStringDialog dialog(parent, "", "", "", false);
-    contract::expectWidgets(dialog, {
-        {"EnterTextString", "orrery::dialogs::prompt::EnterTextStringDialog", "Prompt for text string"},
-        {"EnterTextString_Label", "QLabel", "&Enter your input string:"},
-        {"EnterTextString_lineEdit", "QLineEdit", ""},
-        {"EnterTextString_buttonBox", "QDialogButtonBox", nullptr},
-    });
-    contract::expectTabOrder(dialog, {"EnterTextString_lineEdit", "EnterTextString_buttonBox"});
-
-    auto* label = dialog.findChild<QLabel*>("EnterTextString_Label");
-    EXPECT_TRUE(label->wordWrap());
-    EXPECT_EQ(label->buddy(), edit(dialog));
-    EXPECT_EQ(box(dialog)->standardButtons(), QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_FALSE(dialog.isModal());
-}
-
 TEST_F(EnterTextStringDialogTest, TypingReplacesTheSelectedInitialTextOkAcceptsAndCancelRejects)
 {
     EnterTextStringDialog dialog(parent, "Name of the new frame:", "Frame 001", "", false);

@@ -18,34 +18,6 @@ protected:
     static QSpinBox* spin(QWidget& d, int i) { return d.findChild<QSpinBox*>(QString("value%1").arg(i)); }
 };
 
-TEST_F(EnterThreeIntValuesDialogTest, LayoutContract)
-{
-    EnterThreeIntValuesDialog* dialog = rangePrompt();
-    contract::expectWidgets(*dialog, {
-        {"EnterThreeIntValues", "orrery::dialogs::prompt::EnterThreeIntValuesDialog", "Index Range"},
-        {"topLabel", "QLabel", "TextLabel"},
-        {"valueLabel1", "QLabel", "&Begin"},
-        {"valueLabel2", "QLabel", "&End"},
-        {"valueLabel3", "QLabel", "&Skip"},
-        {"value1", "orrery::ui::IntegralSpinBox", nullptr},
-        {"value2", "orrery::ui::IntegralSpinBox", nullptr},
-        {"value3", "orrery::ui::IntegralSpinBox", nullptr},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    contract::expectTabOrder(*dialog, {"value1", "value2", "value3"});
-    for (int i = 1; i <= 3; ++i)
-    {
-        SCOPED_TRACE(i);
-        EXPECT_EQ(dialog->findChild<QLabel*>(QString("valueLabel%1").arg(i))->buddy(), spin(*dialog, i));
-        EXPECT_FALSE(spin(*dialog, i)->keyboardTracking());
-        EXPECT_EQ(spin(*dialog, i)->maximum(), 2147483646);
-    }
-    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
-              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_TRUE(dialog->isModal());
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOkOrReturnAndStayAfterCancel)
 {
     EnterThreeIntValuesDialog* dialog = rangePrompt();

@@ -59,37 +59,6 @@ protected:
     }
 };
 
-TEST_F(RGBColorOptsDialogTest, LayoutContract)
-{
-    RGBColorOptsDialog* dialog = RGBColorOptsDialog::getInstance(parent);
-    contract::expectWidgets(*dialog, {
-        {"RGBColorOpts", "orrery::dialogs::prompt::RGBColorOptsDialog", "RGB Coloring Options"},
-        {"rGBColorOpts_Mode_Label", "QLabel", "&Mode:"},
-        {"rGBColorOpts_Mode_CmbBox", "QComboBox", nullptr},
-        {"Variables_groupBox", "QGroupBox", "Variables"},
-        {"rGBColorOpts_RedVariable_Label", "QLabel", "&Red:"},
-        {"rGBColorOpts_GreenVariable_Label", "QLabel", "&Green:"},
-        {"rGBColorOpts_BlueVariable_Label", "QLabel", "&Blue:"},
-        {"VariableRange_groupBox", "QGroupBox", "Variable Value Range"},
-        {"rGBColorOpts_MinIntensity_Label", "QLabel", "Mi&nimum intensity:"},
-        {"minValue_doubleSpinBox", "orrery::ui::QScientificSpinBox", nullptr},
-        {"rGBColorOpts_MaxIntensity_Label", "QLabel", "Ma&ximum intensity:"},
-        {"maxValue_doubleSpinBox", "orrery::ui::QScientificSpinBox", nullptr},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    for (const char* channel : Channels)
-        EXPECT_EQ(channelLabel(*dialog, channel)->buddy(), channelCombo(*dialog, channel)) << channel;
-    for (const char* name : {"minValue_doubleSpinBox", "maxValue_doubleSpinBox"})
-    {
-        auto* spin = dialog->findChild<QScientificSpinBox*>(name);
-        EXPECT_FALSE(spin->keyboardTracking()) << name;
-        EXPECT_EQ(spin->decimals(), 15) << name;
-    }
-    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(), QDialogButtonBox::Close);
-    EXPECT_FALSE(dialog->isModal());
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(RGBColorOptsDialogTest, OpeningReplacesUnacceptableChannelVariablesByTheHostsCandidates)
 {
     loadChannelData();

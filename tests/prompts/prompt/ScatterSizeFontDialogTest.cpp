@@ -54,42 +54,6 @@ protected:
     static double pointsPerGridUnit() { return OrrUtilConvertUnits(Units_Grid, Units_Point, 2.54 / 72.0); }
 };
 
-TEST_F(ScatterSizeFontDialogTest, LayoutContract)
-{
-    ScatterSizeFontDialog* dialog = ScatterSizeFontDialog::getInstance(parent);
-    contract::expectWidgets(*dialog, {
-        {"ScatterSizeFont", "orrery::dialogs::prompt::ScatterSizeFontDialog", "Scatter Size/Font"},
-        {"scatterSizeFont_buttonBox", "QDialogButtonBox", nullptr},
-        {"scatterSizeFont_SizeCm_1Text", "QLineEdit", nullptr},
-        {"scatterSizeFont_SizeCm_radioButton", "QRadioButton", "&Cm/magnitude:"},
-        {"scatterSizeFont_SizeGrid_1Text", "QLineEdit", nullptr},
-        {"scatterSizeFont_SizeGrid_radioButton", "QRadioButton", "&Grid units/magnitude:"},
-        {"scatterSizeFont_SizeVaiable_ComboBox", "QComboBox", nullptr},
-        {"scatterSizeFont_SizeVaiable_Label", "QLabel", "&Scatter-size variable:"},
-        {"scatterSizeFont_SizeMultiplier_Label", "QLabel", "Size multiplier"},
-        {"scatterSizeFont_SymbolsFont_Label", "QLabel", "ASCII symbol &font:"},
-        {"scatterSizeFont_SymbolsFont_ComboBox", "QFontComboBox", nullptr},
-        {"scatterSizeFont_SymbolsFontBold_Button", "QToolButton", "&B"},
-        {"scatterSizeFont_SymbolsFontItalic_Button", "QToolButton", "&I"},
-    });
-    contract::expectTabOrder(*dialog, {"scatterSizeFont_SymbolsFont_ComboBox", "scatterSizeFont_SymbolsFontBold_Button",
-                                       "scatterSizeFont_SymbolsFontItalic_Button", "scatterSizeFont_SizeVaiable_ComboBox",
-                                       "scatterSizeFont_SizeGrid_radioButton", "scatterSizeFont_SizeGrid_1Text",
-                                       "scatterSizeFont_SizeCm_radioButton", "scatterSizeFont_SizeCm_1Text"});
-    for (const char* name : {"scatterSizeFont_SymbolsFontBold_Button", "scatterSizeFont_SymbolsFontItalic_Button"})
-        EXPECT_TRUE(child<QToolButton>(*dialog, name)->isCheckable()) << name;
-    EXPECT_TRUE(child<QToolButton>(*dialog, "scatterSizeFont_SymbolsFontBold_Button")->font().bold());
-    EXPECT_TRUE(child<QToolButton>(*dialog, "scatterSizeFont_SymbolsFontItalic_Button")->font().italic());
-    EXPECT_EQ(child<QLabel>(*dialog, "scatterSizeFont_SizeVaiable_Label")->buddy(),
-              child(*dialog, "scatterSizeFont_SizeVaiable_ComboBox"));
-    EXPECT_EQ(child<QLabel>(*dialog, "scatterSizeFont_SymbolsFont_Label")->buddy(),
-              child(*dialog, "scatterSizeFont_SymbolsFont_ComboBox"));
-    ASSERT_NE(recalculate(*dialog), nullptr);
-    EXPECT_EQ(child<QDialogButtonBox>(*dialog, "scatterSizeFont_buttonBox")->buttonRole(recalculate(*dialog)),
-              QDialogButtonBox::ActionRole);
-    EXPECT_FALSE(dialog->isModal());
-}
-
 TEST_F(ScatterSizeFontDialogTest, MultiplierShowsInBothUnitsAndTypingGoesToTheStoredUnit)
 {
     loadSizeData();

@@ -115,29 +115,6 @@ protected:
     }
 };
 
-TEST_F(VariableSelectDialogTest, LayoutContract)
-{
-    VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
-    // The rows' placeholder texts are replaced at launch; the runs below check what is shown.
-    contract::expectWidgets(*dialog, {
-        {"VariableSelectDialog", "orrery::dialogs::prompt::VariableSelectDialog", "Select Variables"},
-        {"instructions_label", "QLabel", nullptr},
-    });
-    for (int i = 1; i <= 3; ++i)
-    {
-        SCOPED_TRACE(i);
-        ASSERT_NE(combo(*dialog, i), nullptr);
-        EXPECT_EQ(label(*dialog, i)->buddy(), combo(*dialog, i));
-        // Sized without measuring every variable's name.
-        EXPECT_NE(combo(*dialog, i)->sizeAdjustPolicy(), QComboBox::AdjustToContents);
-        EXPECT_NE(combo(*dialog, i)->sizeAdjustPolicy(), QComboBox::AdjustToContentsOnFirstShow);
-    }
-    EXPECT_EQ(dialog->findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
-              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_TRUE(dialog->isModal());
-    ASSERT_NE(dialog->helpAction(), nullptr);
-}
-
 TEST_F(VariableSelectDialogTest, AxisDialogShowsTheFramesAxesAndWritesOnlyThoseChanged)
 {
     VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);

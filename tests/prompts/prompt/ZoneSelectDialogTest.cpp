@@ -51,25 +51,6 @@ protected:
     }
 };
 
-TEST_F(ZoneSelectDialogTest, LayoutContract)
-{
-    ZoneSelectDialog dialog(parent, 7);
-    contract::expectWidgets(dialog, {
-        {"ZoneSelect", "orrery::dialogs::prompt::ZoneSelectDialog", "Select Zone"},
-        {"Zone_Source_MList", "QListView", nullptr},
-        {"buttonBox", "QDialogButtonBox", nullptr},
-    });
-    contract::expectTabOrder(dialog, {"Zone_Source_MList", "buttonBox"});
-    EXPECT_EQ(dialog.findChild<QDialogButtonBox*>("buttonBox")->standardButtons(),
-              QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    EXPECT_EQ(list(dialog)->selectionMode(), QAbstractItemView::SingleSelection);
-    EXPECT_TRUE(dialog.isModal());
-    ASSERT_NE(dialog.helpAction(), nullptr);
-    // The constructor's zone is not a choice.
-    EXPECT_EQ(0, dialog.selectedZone());
-    EXPECT_EQ(nullptr, ZoneSelectDialog::liveInstance()) << "a dialog built directly is not the shared one";
-}
-
 TEST_F(ZoneSelectDialogTest, GivenZoneIsSelectedAndScrolledIntoView)
 {
     loadZones(200);
