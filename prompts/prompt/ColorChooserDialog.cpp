@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include "framework/LaunchHelpAction.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
@@ -111,6 +112,35 @@ void ColorChooserDialog::setEnableVarColoring(bool enable)
     for (QToolButton* button : {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8,
                                 m_ui->RGB})
         button->setEnabled(enable);
+}
+
+void ColorChooserDialog::showEvent(QShowEvent* event)
+{
+    m_keysPressedHere.clear();
+    QCoreApplication::instance()->installEventFilter(this);
+    QtDialogAbstract::showEvent(event);
+}
+
+void ColorChooserDialog::hideEvent(QHideEvent* event)
+{
+    QCoreApplication::instance()->removeEventFilter(this);
+    QtDialogAbstract::hideEvent(event);
+}
+
+bool ColorChooserDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool press = event->type() == QEvent::KeyPress;
+    if ((!press && event->type() != QEvent::KeyRelease) || !watched->isWidgetType()
+        || (watched != this && !isAncestorOf(static_cast<QWidget*>(watched))))
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->isAutoRepeat())
+        return false;
+    if (press) {
+        m_keysPressedHere.insert(key->key());
+        return false;
+    }
+    return m_keysPressedHere.erase(key->key()) == 0;
 }
 
 void ColorChooserDialog::colorSelected(int colorIndex)

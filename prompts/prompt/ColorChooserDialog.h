@@ -1,5 +1,6 @@
 #pragma once
 #include <memory>
+#include <set>
 #include <string>
 #include <QString>
 #include "framework/QtDialogAbstract.h"
@@ -44,6 +45,13 @@ public:
     void colorSelected(int colorIndex);
     int selectedColor() const { return m_selectedColor; }
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    // Lets a key's release reach the chooser only when its press did: the release
+    // of the key that opened the chooser from a button must not choose in it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private Q_SLOTS:
     // Connected by object name: the multi colourings 1 to 8, and RGB.
     void on_C1_clicked(bool) { multiColoringSelected(1); }
@@ -61,6 +69,7 @@ private:
 
     std::unique_ptr<Ui_ColorChooser> m_ui;
     int m_selectedColor;
+    std::set<int> m_keysPressedHere;
     SignalConnectionCollection m_connections;
 };
 

@@ -163,3 +163,39 @@ TEST_F(ColorButtonPropertyBindingTest, FollowsTheKernelsStyleValue)
 }
 
 } // namespace
+
+namespace {
+
+// A keyboard user: Space on the focused button opens the chooser. On some
+// desktops the key's press already holds the chooser's first button down when
+// the chooser appears, and the release then lands there; that release must
+// choose nothing. Only keys pressed in the chooser choose.
+TEST_F(ColorButtonPropertyBindingTest, TheKeyThatOpensTheChooserChoosesNothingInIt)
+{
+    auto color = boost::make_shared<Property<int>>(2);
+    ColorButtonPropertyBinding binding(&button, color, true);
+    user::open(window);
+    button.setFocus();
+    bool sawChooser = false;
+    QTimer::singleShot(0, [&] {
+        ColorChooserDialog* chooser = ColorChooserDialog::liveInstance();
+        ASSERT_NE(chooser, nullptr);
+        sawChooser = chooser->isVisible();
+        auto* multi = chooser->findChild<QAbstractButton*>("C1");
+        multi->setDown(true); // the press the chooser never saw
+        QTest::keyRelease(multi, Qt::Key_Space);
+        EXPECT_TRUE(chooser->isVisible()) << "a release without its press chose a colour";
+        multi->setDown(false);
+        QTest::keyPress(multi, Qt::Key_Space);
+        QTest::keyRelease(multi, Qt::Key_Space);
+        EXPECT_FALSE(chooser->isVisible()) << "Space pressed in the chooser chose nothing";
+    });
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_EQ(color->getValue(), 2) << "the chooser opened on the press";
+    QTest::keyRelease(&button, Qt::Key_Space);
+    runIdle();
+    EXPECT_TRUE(sawChooser);
+    EXPECT_EQ(color->getValue(), -1) << "the multi colouring, chosen by its own press and release";
+}
+
+} // namespace
