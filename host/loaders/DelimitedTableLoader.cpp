@@ -114,9 +114,7 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
                                                        static_cast<std::uint64_t>(total));
         return !cancelled;
     });
-    const size_t rows = linesBefore + linesAfter + 1;
     ColumnTable table(layout.kinds, {layout.decimalComma, true});
-    table.reserve(rows);
     // The first half is read up to its first record of values, which tells whether the second half may be read
     // beside it. Quotes could hold a line break across the split, so such files are read in one part.
     bool twoParts = split < file.size() && !quotesBefore && !quotesAfter;
@@ -133,11 +131,21 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
         if (reader->finished()) { // the first half held no record of values: read the file afresh in one part
             file.rewind();
             table = ColumnTable(layout.kinds, {layout.decimalComma, true});
-            table.reserve(rows);
             reader = std::make_unique<TableReader>(file, layout, table);
         }
     }
-    if (twoParts ? !readInTwoParts(file, split, linesBefore, linesAfter + 1, layout, table, *reader, cancelled, error)
+    // Room for no more rows than the lines allow, nor than the bytes allow for rows
+    // of this many values (each at least a separator or the line's end, even when
+    // empty): blank and comment lines must not make a wide table ask for room it
+    // never fills.
+    const size_t bytesPerRow = std::max<size_t>(reader->columns(), 1);
+    const auto rowsIn = [bytesPerRow](size_t lines, long long bytes) {
+        return std::min(lines, static_cast<size_t>(bytes) / bytesPerRow + 1);
+    };
+    const size_t firstRows = rowsIn(linesBefore, split);
+    const size_t laterRows = rowsIn(linesAfter + 1, file.size() - split);
+    table.reserve(twoParts ? firstRows + laterRows : rowsIn(linesBefore + linesAfter + 1, file.size()));
+    if (twoParts ? !readInTwoParts(file, split, firstRows, laterRows, layout, table, *reader, cancelled, error)
                  : !reader->read()) {
         if (!twoParts)
             error = reader->error(name);

@@ -18,20 +18,31 @@ namespace {
 
 // Counting line breaks reads the whole file once more before loading it, so it
 // runs 16 bytes at a time where the processor allows.
-size_t countLineBreaks(const char* text, size_t size, bool& quotes)
+// Line ends as the tokenizer sees them: LF, CRLF and a lone CR each end a line.
+// A CR that ends the block counts now; afterCR tells the next block so that
+// an LF it starts with is not counted again.
+size_t countLineBreaks(const char* text, size_t size, bool& quotes, bool& afterCR)
 {
     size_t count = 0;
     size_t done = 0;
+    if (size > 0 && afterCR && text[0] == '\n')
+        done = 1;
 #ifdef __SSE2__
-    const __m128i lineBreak = _mm_set1_epi8('\n');
+    const __m128i lineFeed = _mm_set1_epi8('\n');
+    const __m128i carriageReturn = _mm_set1_epi8('\r');
     const __m128i quote = _mm_set1_epi8('"');
     __m128i quoteSeen = _mm_setzero_si128();
-    while (size - done >= 16) {
-        // Each match subtracts -1 from its byte's tally; 255 rounds at most before a byte could wrap.
+    // Each vector also looks at the byte after it, to tell CRLF from a lone CR.
+    while (size - done >= 17) {
+        // Each match subtracts -1 from its byte's tally; 127 rounds of at most two matches before a byte could wrap.
         __m128i tally = _mm_setzero_si128();
-        for (int round = 0; round < 255 && size - done >= 16; ++round, done += 16) {
+        for (int round = 0; round < 127 && size - done >= 17; ++round, done += 16) {
             const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + done));
-            tally = _mm_sub_epi8(tally, _mm_cmpeq_epi8(bytes, lineBreak));
+            const __m128i next = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + done + 1));
+            const __m128i loneCR =
+                _mm_andnot_si128(_mm_cmpeq_epi8(next, lineFeed), _mm_cmpeq_epi8(bytes, carriageReturn));
+            tally = _mm_sub_epi8(tally, _mm_cmpeq_epi8(bytes, lineFeed));
+            tally = _mm_sub_epi8(tally, loneCR);
             quoteSeen = _mm_or_si128(quoteSeen, _mm_cmpeq_epi8(bytes, quote));
         }
         const __m128i sums = _mm_sad_epu8(tally, _mm_setzero_si128());
@@ -39,8 +50,13 @@ size_t countLineBreaks(const char* text, size_t size, bool& quotes)
     }
     quotes = quotes || _mm_movemask_epi8(quoteSeen) != 0;
 #endif
-    quotes = quotes || std::find(text + done, text + size, '"') != text + size;
-    return count + static_cast<size_t>(std::count(text + done, text + size, '\n'));
+    for (; done < size; ++done) {
+        const char c = text[done];
+        quotes = quotes || c == '"';
+        count += c == '\n' || (c == '\r' && (done + 1 == size || text[done + 1] != '\n'));
+    }
+    afterCR = size > 0 && text[size - 1] == '\r';
+    return count;
 }
 
 } // namespace
@@ -140,6 +156,7 @@ bool FileBlockReader::countLines(long long begin, long long end, size_t& lines, 
     const std::unique_ptr<char[]> block(new char[BlockSize]);
     lines = 0;
     quotes = false;
+    bool afterCR = false;
     for (long long at = begin; end == ToEnd || at < end;) {
         size_t got = 0;
         const size_t wanted = end == ToEnd ? BlockSize : static_cast<size_t>(std::min<long long>(BlockSize, end - at));
@@ -147,7 +164,7 @@ bool FileBlockReader::countLines(long long begin, long long end, size_t& lines, 
             return false;
         if (got == 0)
             break;
-        lines += countLineBreaks(block.get(), got, quotes);
+        lines += countLineBreaks(block.get(), got, quotes, afterCR);
         at += static_cast<long long>(got);
     }
     return true;

@@ -38,7 +38,7 @@ public:
     long long end() const { return m_end; }
     // Where the next read starts.
     long long offset() const { return m_offset; }
-    // Line breaks in [begin, end), an upper bound of the rows there, and
+    // Line ends (LF, CRLF or a lone CR) in [begin, end), an upper bound of the rows there, and
     // whether a quote occurs there; reads nothing for read().
     bool countLines(long long begin, long long end, size_t& lines, bool& quotes, std::string& error) const;
     // Where the first line starting at or after from begins; size() if none does.

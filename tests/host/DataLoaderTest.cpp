@@ -8,6 +8,7 @@
 #include <memory>
 #include <fstream>
 #include <string>
+#include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
 #include <QDir>
@@ -452,6 +453,30 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
         ASSERT_TRUE(twoParts.load(path, error)) << error;
         EXPECT_EQ(expected, (std::vector<std::vector<double>>{column(1), column(2)})) << content;
     }
+}
+
+TEST_F(DataLoading, ATwoPartReadCountsEveryLineEndAndReservesOnlyWhatTheBytesHold)
+{
+    CsvDataLoader twoParts;
+    twoParts.readInTwoPartsFrom(1);
+    // Old Mac line ends (a lone CR), alone or mixed with the others, end lines in the first half too.
+    for (const std::string& content : {"a,b\r1,2\r3,4\r5,6\r\n7,8\n9,10\r11,12\r13,14\n"s,
+                                       "1,2\r3,4\r5,6\r7,8\r9,10\r11,12\r13,14\r15,16\n17,18\n19,20\n"s}) {
+        ASSERT_TRUE(twoParts.load(write("mac.csv", content), error)) << error;
+        EXPECT_EQ(column(2).back(), column(1).back() + 1);
+        EXPECT_EQ(column(1).size(), content[0] == 'a' ? 7u : 10u);
+    }
+
+    // One row of 64 values and many blank lines: room for a row per line would
+    // be 64 values a line, far beyond what the file's bytes can hold.
+    std::string wide;
+    for (int c = 1; c <= 64; ++c)
+        wide += std::to_string(c) + (c < 64 ? "," : "\n");
+    wide += std::string(400000, '\n');
+    const size_t mappedBefore = mallinfo2().hblkhd;
+    ASSERT_TRUE(twoParts.load(write("wide.csv", wide), error)) << error;
+    EXPECT_EQ(column(64), std::vector<double>{64});
+    EXPECT_LT(mallinfo2().hblkhd, mappedBefore + (16 << 20)) << "room for 400,000 rows of 64 values was taken";
 }
 
 TEST_F(DataLoading, RepositoryFindsLoadersByExtension)
