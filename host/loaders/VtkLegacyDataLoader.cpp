@@ -1,19 +1,18 @@
 #include "host/loaders/VtkLegacyDataLoader.h"
 #include <algorithm>
 #include <cctype>
-#include <cerrno>
 #include <charconv>
+#include <cstdio>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <string_view>
-#include <new>
 #include <utility>
-#include <sys/stat.h>
 #include "host/kernel/DataSet.h"
 #include "host/kernel/Kernel.h"
+#include "host/loaders/FileBlockReader.h"
+#include "host/loaders/LoadGuard.h"
 #include "host/loaders/LoadProgress.h"
 
 namespace orrery {
@@ -21,8 +20,7 @@ namespace sdk {
 
 namespace {
 
-const std::size_t MaxLine = 4096;       // header lines; values have their own limit
-const std::uint64_t ProgressStep = 4 << 20;
+const std::size_t MaxLine = 4096; // header lines; values have their own limit
 
 struct Failure
 {
@@ -34,14 +32,14 @@ struct Failure
 class VtkStream
 {
 public:
-    VtkStream(const std::string& path, std::FILE* file, std::uint64_t size)
-        : m_path(path), m_file(file), m_size(size), m_buffer(new char[VtkLegacyDataLoader::BlockSize])
+    explicit VtkStream(FileBlockReader& file)
+        : m_file(file), m_size(static_cast<std::uint64_t>(file.size())), m_buffer(new char[VtkLegacyDataLoader::BlockSize])
     {
     }
 
     [[noreturn]] void fail(const std::string& why) const
     {
-        throw Failure{m_path + ", line " + std::to_string(m_current) + ": " + why};
+        throw Failure{m_file.displayName() + ", line " + std::to_string(m_current) + ": " + why};
     }
 
     std::uint64_t remaining() const { return m_size - m_consumed; }
@@ -106,25 +104,16 @@ public:
             out += take;
             n -= take;
         }
-        progress();
-    }
-
-    void progress()
-    {
-        if (m_consumed - m_reported < ProgressStep)
-            return;
-        m_reported = m_consumed;
-        if (!LoadProgress::report(m_consumed, m_size))
-            throw Failure{"Loading " + m_path + " was cancelled."};
     }
 
 private:
+    // A read error or a cancelled load ends the load with the reader's message.
     bool fill()
     {
         m_at = 0;
-        m_end = std::fread(m_buffer.get(), 1, VtkLegacyDataLoader::BlockSize, m_file);
-        if (m_end == 0 && std::ferror(m_file))
-            fail(std::string("read error: ") + std::strerror(errno));
+        std::string error;
+        if (!m_file.read(m_buffer.get(), VtkLegacyDataLoader::BlockSize, m_end, error))
+            throw Failure{error};
         return m_end > 0;
     }
     int get()
@@ -132,8 +121,6 @@ private:
         if (m_at == m_end && !fill())
             return EOF;
         ++m_consumed;
-        if ((m_consumed & 0xFFFFF) == 0)
-            progress();
         return static_cast<unsigned char>(m_buffer[m_at++]);
     }
     int peek()
@@ -143,12 +130,11 @@ private:
         return static_cast<unsigned char>(m_buffer[m_at]);
     }
 
-    std::string m_path;
-    std::FILE* m_file;
+    FileBlockReader& m_file;
     std::uint64_t m_size;
     std::unique_ptr<char[]> m_buffer;
     std::size_t m_at = 0, m_end = 0;
-    std::uint64_t m_consumed = 0, m_reported = 0;
+    std::uint64_t m_consumed = 0;
     long m_line = 1;
     long m_current = 1; // the line that messages name
     std::string m_token;
@@ -209,6 +195,12 @@ std::uint64_t wholeNumber(VtkStream& in, const std::string& text, const char* wh
     return n;
 }
 
+// One rule for every loader: a value must be finite (NaN stands for a missing one).
+std::string notFinite(const std::string& what)
+{
+    return what + " is not a finite number; only finite numbers are read.";
+}
+
 class Reader
 {
 public:
@@ -232,7 +224,7 @@ public:
                 if (err == std::errc::result_out_of_range)
                     m_in->fail("the value \"" + std::string(word) + "\" is out of range.");
                 if (err != std::errc() || stop != end) {
-                    // Writers put nan and inf for missing or broken values.
+                    // Writers put nan for missing values.
                     std::string lowerWord(word);
                     for (char& c : lowerWord)
                         c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -241,6 +233,8 @@ public:
                     else
                         m_in->fail("\"" + std::string(word).substr(0, 30) + "\" is not a number.");
                 }
+                if (std::isinf(v))
+                    m_in->fail(notFinite("\"" + std::string(word).substr(0, 30) + "\""));
                 if (out)
                     out[i] = v;
             }
@@ -251,9 +245,13 @@ public:
         for (std::uint64_t done = 0; done < n;) {
             const std::uint64_t run = std::min(perRun, n - done);
             m_in->bytes(reinterpret_cast<char*>(raw), static_cast<std::size_t>(run * t.size));
-            if (out)
-                for (std::uint64_t i = 0; i < run; ++i)
-                    out[done + i] = decode(t, raw + i * t.size);
+            for (std::uint64_t i = 0; i < run; ++i) {
+                const double v = decode(t, raw + i * t.size);
+                if (std::isinf(v))
+                    m_in->fail(notFinite("binary value " + std::to_string(done + i + 1) + " here"));
+                if (out)
+                    out[done + i] = v;
+            }
             done += run;
         }
     }
@@ -380,6 +378,17 @@ private:
         }
     }
 
+    // The points of a grid of these sizes, where their product can be counted.
+    std::uint64_t gridPoints(const std::uint64_t dims[3]) const
+    {
+        std::uint64_t n = 1;
+        for (int a = 0; a < 3; ++a)
+            if (__builtin_mul_overflow(n, dims[a], &n))
+                m_in.fail("the grid's sizes " + std::to_string(dims[0]) + " x " + std::to_string(dims[1]) + " x "
+                          + std::to_string(dims[2]) + " give more points than can be counted.");
+        return n;
+    }
+
     void readGeometry()
     {
         std::uint64_t dims[3] = {0, 0, 0};
@@ -410,6 +419,8 @@ private:
                     const auto [end, err] = std::from_chars(w[a + 1].data(), w[a + 1].data() + w[a + 1].size(), into[a]);
                     if (err != std::errc() || end != w[a + 1].data() + w[a + 1].size())
                         m_in.fail(key + " takes three numbers, not \"" + w[a + 1].substr(0, 30) + "\".");
+                    if (!std::isfinite(into[a]))
+                        m_in.fail(notFinite(key + "'s \"" + w[a + 1].substr(0, 30) + "\""));
                 }
             } else if (key == "POINTS") {
                 readPointCoordinates(w);
@@ -445,14 +456,17 @@ private:
                 }
             if (!dims[0])
                 m_in.fail("the " + m_kind + " data set has no DIMENSIONS.");
-            setPoints(dims[0] * dims[1] * dims[2]);
+            setPoints(gridPoints(dims));
             for (std::uint64_t k = 0; k < dims[2]; ++k)
                 for (std::uint64_t j = 0; j < dims[1]; ++j)
                     for (std::uint64_t l = 0; l < dims[0]; ++l) {
                         const std::uint64_t at[3] = {l, j, k};
-                        for (int a = 0; a < 3; ++a)
-                            m_columns[a].push_back(axes[a].empty() ? origin[a] + spacing[a] * double(at[a])
-                                                                   : axes[a][at[a]]);
+                        for (int a = 0; a < 3; ++a) {
+                            const double v = axes[a].empty() ? origin[a] + spacing[a] * double(at[a]) : axes[a][at[a]];
+                            if (std::isinf(v))
+                                m_in.fail(notFinite("a point computed from ORIGIN and SPACING"));
+                            m_columns[a].push_back(v);
+                        }
                     }
         } else if (m_kind != "STRUCTURED_GRID" && m_kind != "UNSTRUCTURED_GRID" && m_kind != "POLYDATA") {
             m_in.fail("the data set kind " + m_kind.substr(0, 30) + " is not supported.");
@@ -662,32 +676,22 @@ DataLoaderInterface::Properties VtkLegacyDataLoader::properties() const
 
 bool VtkLegacyDataLoader::load(const std::string& path, std::string& error)
 {
-    struct stat info {};
-    if (::stat(path.c_str(), &info) != 0) {
-        error = "Cannot open " + path + ": " + std::strerror(errno);
-        return false;
-    }
-    if (S_ISDIR(info.st_mode)) {
-        error = path + " is a folder, not a file.";
-        return false;
-    }
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
-    if (!file) {
-        error = "Cannot open " + path + ": " + std::strerror(errno);
-        return false;
-    }
-    try {
-        VtkStream in(path, file.get(), static_cast<std::uint64_t>(info.st_size));
-        kernel::Kernel::instance().setDataSet(VtkFile(in).read());
-        return true;
-    } catch (const Failure& failure) {
-        error = failure.text;
-    } catch (const std::bad_alloc&) {
-        error = "Not enough memory to load " + path + ".";
-    } catch (const std::exception& e) {
-        error = path + ": " + e.what();
-    }
-    return false;
+    return LoadGuard::run(path, error, [&] {
+        FileBlockReader file;
+        if (!file.open(path, error))
+            return false;
+        file.setBlockHook([&file](long long offset) {
+            return LoadProgress::report(static_cast<std::uint64_t>(offset), static_cast<std::uint64_t>(file.size()));
+        });
+        try {
+            VtkStream in(file);
+            kernel::Kernel::instance().setDataSet(VtkFile(in).read());
+            return true;
+        } catch (const Failure& failure) {
+            error = failure.text;
+            return false;
+        }
+    });
 }
 
 } // namespace sdk
