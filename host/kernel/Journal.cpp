@@ -46,6 +46,7 @@ std::optional<T> number(const std::string& text)
 void Journal::clear()
 {
     m_lines.clear();
+    m_pending.clear();
     m_brackets.clear();
 }
 
@@ -57,7 +58,7 @@ bool Journal::recording() const
 void Journal::add(const std::string& line)
 {
     if (!m_brackets.empty()) {
-        m_brackets.back().lines.push_back(line);
+        m_pending.push_back(line);
         return;
     }
     m_lines.push_back(line);
@@ -89,24 +90,23 @@ void Journal::recordRedo()
 
 void Journal::beginBracket(const std::string& name)
 {
-    m_brackets.push_back({name, {}});
+    m_brackets.push_back({name, m_pending.size()});
 }
 
 void Journal::endBracket(bool revert, bool record)
 {
     if (m_brackets.empty())
         return;
-    Bracket closed = std::move(m_brackets.back());
+    const Bracket closed = std::move(m_brackets.back());
     m_brackets.pop_back();
-    if (revert || closed.lines.empty())
+    if (revert)
+        m_pending.resize(closed.start);
+    if (!m_brackets.empty() || m_pending.empty()) // an inner bracket's lines stay, as the enclosing one's
         return;
-    if (!m_brackets.empty()) {
-        std::vector<std::string>& outer = m_brackets.back().lines;
-        outer.insert(outer.end(), closed.lines.begin(), closed.lines.end());
-        return;
-    }
+    std::vector<std::string> lines = std::move(m_pending);
+    m_pending.clear();
     add(closed.name.empty() ? "begin" : "begin " + quote(closed.name));
-    for (const std::string& line : closed.lines)
+    for (const std::string& line : lines)
         add(line);
     add(record ? "end" : "end unrecorded");
 }
@@ -167,17 +167,28 @@ std::optional<StyleDatum> Journal::parse(const std::string& raw, const StyleDatu
     return std::nullopt;
 }
 
+// Every control byte is escaped, so that a journal line is one printable line
+// whatever a text holds.
 std::string Journal::quote(const std::string& text)
 {
+    static const char* const HexDigits = "0123456789abcdef";
     std::string quoted = "\"";
     for (char c : text) {
+        const unsigned char byte = static_cast<unsigned char>(c);
         switch (c) {
         case '"': quoted += "\\\""; break;
         case '\\': quoted += "\\\\"; break;
         case '\n': quoted += "\\n"; break;
         case '\t': quoted += "\\t"; break;
         case '\r': quoted += "\\r"; break;
-        default: quoted += c;
+        default:
+            if (byte < 0x20 || byte == 0x7f) {
+                quoted += "\\x";
+                quoted += HexDigits[byte >> 4];
+                quoted += HexDigits[byte & 0xf];
+            } else {
+                quoted += c;
+            }
         }
     }
     return quoted + "\"";
@@ -207,6 +218,15 @@ std::optional<std::string> Journal::unquote(const std::string& text, std::string
         case 'r': value += '\r'; break;
         case '"':
         case '\\': value += text[i]; break;
+        case 'x': {
+            unsigned char byte = 0;
+            const char* first = text.data() + i + 1;
+            if (i + 2 >= text.size() || std::from_chars(first, first + 2, byte, 16).ptr != first + 2)
+                return std::nullopt;
+            value += static_cast<char>(byte);
+            i += 2;
+            break;
+        }
         default: return std::nullopt;
         }
     }

@@ -59,13 +59,17 @@ private:
     bool recording() const;
     void add(const std::string& line);
 
+    // An open bracket: where its lines start in m_pending.
     struct Bracket
     {
         std::string name;
-        std::vector<std::string> lines;
+        size_t start;
     };
 
     std::vector<std::string> m_lines;
+    // The lines of every open bracket, outermost first, so that closing an inner
+    // bracket moves nothing.
+    std::vector<std::string> m_pending;
     std::vector<Bracket> m_brackets;
     LineSignal m_lineAdded;
 };

@@ -20,8 +20,9 @@ public:
         std::string message; // why it stopped, naming the source and the line
     };
 
-    // Lines longer than this are refused rather than read into memory.
-    static const size_t MaxLineLength = 64 * 1024;
+    // Lines longer than this are refused rather than read into memory; the
+    // longest text the kernel takes fits, escaped, with room to spare.
+    static const size_t MaxLineLength = 8 << 20;
 
     // source names the journal in messages (normally its file name).
     static Result replay(std::istream& in, const std::string& source);

@@ -1,7 +1,9 @@
 #include "host/kernel/Kernel.h"
 #include <algorithm>
 #include <utility>
+#include <charconv>
 #include "host/loaders/BuiltInLoaders.h"
+#include "host/settings/SettingsFile.h"
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -33,9 +35,23 @@ Kernel& Kernel::instance()
 }
 
 // Built quietly: announcing here would call back into a kernel not yet made.
+namespace {
+
+// How many steps Undo can take back: the host's setting "UndoStepLimit".
+size_t undoStepLimit()
+{
+    const std::string text = host::SettingsFile::instance().getStringValue("UndoStepLimit");
+    size_t steps = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), steps);
+    return error == std::errc() && end == text.data() + text.size() && steps > 0 ? steps : UndoStack::DefaultLimit;
+}
+
+} // namespace
+
 Kernel::Kernel() : m_style(*this)
 {
     host::installBuiltInLoaders();
+    m_undo.setLimit(undoStepLimit());
     m_pageCount = 1;
     addFrame();
 }
@@ -185,14 +201,16 @@ void Kernel::axisRange(const std::string& axisKey, double& min, double& max) con
     }
 }
 
+// Inside an open bracket the step before it is not the one in progress: undo
+// and redo wait until the bracket closes, here as in a replayed journal.
 bool Kernel::undo()
 {
-    return takeStep(m_undo.undo(), true, m_style, m_journal);
+    return !m_undo.bracketOpen() && takeStep(m_undo.undo(), true, m_style, m_journal);
 }
 
 bool Kernel::redo()
 {
-    return takeStep(m_undo.redo(), false, m_style, m_journal);
+    return !m_undo.bracketOpen() && takeStep(m_undo.redo(), false, m_style, m_journal);
 }
 
 void Kernel::announce(StateChange_e code, const toolbox::StringList& stylePath) const

@@ -1,4 +1,6 @@
 #include "host/kernel/StyleAccess.h"
+#include <charconv>
+#include <limits>
 #include <algorithm>
 #include <boost/format.hpp>
 #include "host/kernel/Kernel.h"
@@ -37,6 +39,23 @@ const char* typeName(StyleType type)
     case StyleType::String: return "a text";
     }
     return "";
+}
+
+// Integers are stored as long but used as int everywhere (colours, variables,
+// sizes); a text a journal line must be able to hold.
+WriteVerdict withinType(const StyleDatum& value)
+{
+    constexpr size_t LongestText = 1 << 20;
+    if (const long* l = std::get_if<long>(&value)) {
+        if (*l < std::numeric_limits<int>::min() || *l > std::numeric_limits<int>::max())
+            return WriteVerdict::refuse(std::to_string(*l) + " is out of range: whole numbers lie between "
+                                        + std::to_string(std::numeric_limits<int>::min()) + " and "
+                                        + std::to_string(std::numeric_limits<int>::max()) + ".");
+    } else if (const std::string* text = std::get_if<std::string>(&value)) {
+        if (text->size() > LongestText)
+            return WriteVerdict::refuse("The text is longer than " + std::to_string(LongestText) + " characters.");
+    }
+    return WriteVerdict::accept();
 }
 
 WriteVerdict mismatch(const std::string& key, StyleType type)
@@ -191,6 +210,8 @@ SetValueReturnCode_e StyleAccess::perform(const toolbox::StringList& names, cons
         StyleDatum next = *value;
         if (op != AssignOp_Equals)
             verdict = combine(old, op, *value, next);
+        if (verdict.code == SetValue_Ok)
+            verdict = withinType(next);
         if (verdict.code == SetValue_Ok && target.entry->rule)
             verdict = target.entry->rule(next, RuleContext{m_kernel.dataSet(), style, member});
         if (verdict.code != SetValue_Ok)
@@ -246,11 +267,12 @@ WriteVerdict StyleAccess::resolve(const toolbox::StringList& names, Target& targ
     Frame* frame = kernel.currentFrame();
     size_t first = 0;
     if (names.count() > 2 && names[0] == FramePrefix) {
+        // A frame is named by its position alone: "2x" names none.
         int position = 0;
-        try {
-            position = std::stoi(names[1]);
-        } catch (const std::exception&) {
-        }
+        const std::string& text = names[1];
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), position);
+        if (error != std::errc() || end != text.data() + text.size())
+            position = 0;
         frame = kernel.frameAt(position);
         if (!frame)
             return {SetValue_NoFrame, "There is no frame " + names[1] + "."};

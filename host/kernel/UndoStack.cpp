@@ -1,4 +1,5 @@
 #include "host/kernel/UndoStack.h"
+#include <algorithm>
 #include <cctype>
 
 namespace orrery {
@@ -9,29 +10,33 @@ void UndoStack::add(const UndoRecord& record)
     if (m_brackets.empty())
         push({{record}, nameFor(record)});
     else
-        m_brackets.back().records.push_back(record);
+        m_pending.push_back(record);
 }
 
 void UndoStack::begin(const std::string& name)
 {
-    m_brackets.push_back({{}, name});
+    m_brackets.push_back({m_pending.size(), name});
 }
 
 UndoStack::Step UndoStack::end(bool revert, bool record)
 {
     if (m_brackets.empty())
         return {};
-    Named closed = std::move(m_brackets.back());
+    const Bracket closed = std::move(m_brackets.back());
     m_brackets.pop_back();
-    if (revert)
-        return closed.records;
-    if (!m_brackets.empty()) {
-        Step& outer = m_brackets.back().records;
-        outer.insert(outer.end(), closed.records.begin(), closed.records.end());
-    } else if (record && !closed.records.empty()) {
-        if (closed.name.empty())
-            closed.name = closed.records.size() == 1 ? nameFor(closed.records.front()) : "Style Changes";
-        push(std::move(closed));
+    if (revert) {
+        Step taken(m_pending.begin() + static_cast<std::ptrdiff_t>(closed.start), m_pending.end());
+        m_pending.resize(closed.start);
+        return taken;
+    }
+    if (!m_brackets.empty()) // the records stay, as the enclosing bracket's
+        return {};
+    Named step{std::move(m_pending), closed.name};
+    m_pending.clear();
+    if (record && !step.records.empty()) {
+        if (step.name.empty())
+            step.name = step.records.size() == 1 ? nameFor(step.records.front()) : "Style Changes";
+        push(std::move(step));
     }
     return {};
 }
@@ -59,6 +64,7 @@ UndoStack::Step UndoStack::redo()
 void UndoStack::clear()
 {
     m_brackets.clear();
+    m_pending.clear();
     m_done.clear();
     m_undone.clear();
     m_changed();
@@ -74,9 +80,19 @@ std::string UndoStack::redoName() const
     return m_undone.empty() ? std::string() : m_undone.back().name;
 }
 
+void UndoStack::setLimit(size_t steps)
+{
+    m_limit = std::max<size_t>(steps, 1);
+    while (m_done.size() > m_limit)
+        m_done.pop_front();
+    m_changed();
+}
+
 void UndoStack::push(Named step)
 {
     m_done.push_back(std::move(step));
+    if (m_done.size() > m_limit)
+        m_done.pop_front();
     m_undone.clear();
     m_changed();
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <deque>
 #include <string>
 #include <boost/signals2/signal.hpp>
 #include <vector>
@@ -19,11 +20,13 @@ struct UndoRecord
 };
 
 // Undoable steps of style writes. A write outside any bracket is a step of its
-// own; the writes inside an outermost bracket form one step.
+// own; the writes inside an outermost bracket form one step. Only the newest
+// steps are kept, up to a limit.
 class UndoStack
 {
 public:
     typedef std::vector<UndoRecord> Step;
+    static constexpr size_t DefaultLimit = 1000;
 
     void add(const UndoRecord& record);
     // name: what the step is called in an Edit menu ("Assign Variables"); an
@@ -39,6 +42,11 @@ public:
     // The step to write again, moved back to the undo list.
     Step redo();
     void clear();
+    // Keeps at most this many steps to undo (at least one), dropping the oldest.
+    void setLimit(size_t steps);
+    size_t limit() const { return m_limit; }
+    // True while a bracket is open: its writes are not a step yet.
+    bool bracketOpen() const { return !m_brackets.empty(); }
 
     // Names of the steps that undo() and redo() would take; empty when there is
     // none.
@@ -53,12 +61,22 @@ private:
         Step records;
         std::string name;
     };
+    // An open bracket: where its records start in m_pending.
+    struct Bracket
+    {
+        size_t start;
+        std::string name;
+    };
     void push(Named step);
     static std::string nameFor(const UndoRecord& record);
 
-    std::vector<Named> m_brackets;
-    std::vector<Named> m_done;
+    // The records of every open bracket, outermost first, so that closing an
+    // inner bracket moves nothing.
+    Step m_pending;
+    std::vector<Bracket> m_brackets;
+    std::deque<Named> m_done;
     std::vector<Named> m_undone;
+    size_t m_limit = DefaultLimit;
     boost::signals2::signal<void ()> m_changed;
 };
 

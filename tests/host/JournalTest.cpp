@@ -185,6 +185,8 @@ TEST_F(JournalRecording, EveryKindOfBadLineIsRefusedWithAReasonAndChangesNothing
         {"style FieldMap/Scatter/Show[9] true", "out of range"},
         {"style FieldMap/Scatter/Show[0] true", "[n] with n from 1"},
         {"style Frame/7/GlobalRGB/RedChannelVar 1", "There is no frame 7"},
+        {"style Frame/1x/GlobalRGB/RedChannelVar 1", "There is no frame 1x"},
+        {"style FieldMap/Mesh/Color[1] 4294967297", "4294967297 is out of range: whole numbers lie between"},
         {"style GlobalRGB//RedChannelVar 1", "is not a style path"},
         {"end", "end without a begin."},
         {"undo", "there is nothing to undo."},
@@ -207,11 +209,72 @@ TEST_F(JournalRecording, EveryKindOfBadLineIsRefusedWithAReasonAndChangesNothing
     }
 }
 
+TEST_F(JournalRecording, WhatTheKernelRecordsItsReplayTakesBackToTheSameState)
+{
+    const std::string control = std::string("a\x01b\x1f\x7f") + '\0' + "c";
+    const std::string longText(70000, 'w');
+    {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 4L);
+        Kernel::setStyle({"GlobalScatter", "BaseFontFamily"}, control);
+        OrrUtilUndoStateBegin(UndoCategory_AssignVariables);
+        Kernel::setStyle({"GlobalRGB", "GreenChannelVar"}, 5L);
+        // Undo inside an open step would take back the step before it: refused.
+        EXPECT_FALSE(OrrUtilUndoPerform());
+        EXPECT_FALSE(OrrUtilRedoPerform());
+        OrrUtilUndoStateEnd(false, true);
+        Kernel::setStyle({"GlobalScatter", "BaseFontFamily"}, longText);
+    }
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 4) << "the step before the bracket stays";
+    const std::vector<std::string> recorded = journal();
+    std::string text;
+    for (const std::string& line : recorded)
+        text += line + "\n";
+
+    Kernel::resetKernel();
+    Kernel::loadSampleDataSet();
+    const JournalReplayer::Result result = replay(text);
+    ASSERT_TRUE(result.ok) << result.message.substr(0, 200);
+    EXPECT_EQ(journal(), recorded);
+    EXPECT_EQ(styleValue<std::string>({"GlobalScatter", "BaseFontFamily"}), longText);
+    OrrUtilUndoPerform();
+    EXPECT_EQ(styleValue<std::string>({"GlobalScatter", "BaseFontFamily"}), control);
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 5);
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 4);
+}
+
+TEST_F(JournalRecording, DeepBracketsCloseInLinearTimeAndTheHistoryKeepsItsNewestSteps)
+{
+    // Closing each inner bracket used to copy its lines into the enclosing one:
+    // this many would take minutes.
+    const int depth = 50000;
+    std::string nested;
+    for (int i = 0; i < depth; ++i)
+        nested += "begin\nstyle GlobalRGB/RedChannelVar " + std::to_string(i % 5 + 1) + "\n";
+    const JournalReplayer::Result result = replay(nested);
+    ASSERT_TRUE(result.ok) << result.message;
+    EXPECT_EQ(journal().size(), size_t(depth + 2)) << "one begin, every write, one end";
+    OrrUtilUndoPerform();
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 0) << "the whole replay is one step";
+
+    auto& undo = orrery::kernel::Kernel::instance().undoStack();
+    undo.setLimit(3);
+    for (long var = 1; var <= 5; ++var)
+        Kernel::setStyle({"GlobalRGB", "BlueChannelVar"}, var);
+    int undone = 0;
+    while (OrrUtilUndoPerform())
+        ++undone;
+    EXPECT_EQ(undone, 3);
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "BlueChannelVar"}), 2) << "the oldest steps were dropped";
+    undo.setLimit(orrery::kernel::UndoStack::DefaultLimit);
+}
+
 TEST_F(JournalRecording, ValuesReadBackAsWritten)
 {
     const StyleDatum values[] = {StyleDatum(-7L),   StyleDatum(0.1),      StyleDatum(-2.5e-310),
                                  StyleDatum(1e300), StyleDatum(true),     StyleDatum(false),
-                                 StyleDatum(std::string("tab\there \"q\" back\\slash\nline"))};
+                                 StyleDatum(std::string("tab\there \"q\" back\\slash\nline")),
+                                 StyleDatum(std::string("\x01\x1b[0m\x7f", 7))};
     for (const StyleDatum& value : values)
         EXPECT_EQ(Journal::parse(Journal::format(value), value), value) << Journal::format(value);
     EXPECT_EQ(Journal::parse(" +12 ", StyleDatum(0L)), StyleDatum(12L));
@@ -219,6 +282,8 @@ TEST_F(JournalRecording, ValuesReadBackAsWritten)
     EXPECT_FALSE(Journal::parse("nan-ish", StyleDatum(0.0)));
     EXPECT_FALSE(Journal::parse("\"a\" \"b\"", StyleDatum(std::string())));
     EXPECT_FALSE(Journal::parse("\"bad \\q escape\"", StyleDatum(std::string())));
+    EXPECT_FALSE(Journal::parse("\"cut \\x4\"", StyleDatum(std::string())));
+    EXPECT_EQ(Journal::format(StyleDatum(std::string("\x01"))), "\"\\x01\"");
 }
 
 } // namespace
