@@ -2,7 +2,9 @@
 //  - the plot's redraw of 1,000,000 points beside QPainter::drawPoints of the
 //    same points into an image of the same size;
 //  - loading a legacy VTK file beside a plain read of the same file, with the
-//    peak heap of each as a multiple of the data held as doubles.
+//    peak heap of each as a multiple of the data held as doubles;
+//  - replaying a journal of 100,000 style changes in the demo's window (its
+//    views kept up to date) beside the kernel's own replay of it.
 // The default file is 10 MB; ORRERY_BENCH_VTK_MB=100 makes it 100 MB.
 #include <atomic>
 #include <cstdio>
@@ -18,7 +20,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QtEndian>
+#include "demo/MainWindow.h"
 #include "demo/PlotView.h"
+#include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/KernelDriver.h"
 #include "platform/loaders/DataLoaderRepository.h"
@@ -209,6 +213,56 @@ void BaselinePlainRead(benchmark::State& state)
 }
 BENCHMARK(BaselinePlainRead)->Unit(benchmark::kMillisecond);
 
+// 100,000 style lines, each of which changes a value.
+const std::string& journalPath()
+{
+    static const std::string path = [] {
+        const std::string file = "/tmp/orrery-demobench.journal";
+        std::ofstream out(file);
+        for (int i = 0; i < 100000; ++i)
+            out << (i % 2 ? "style GlobalRGB/RedChannelVar " + std::to_string(i % 4 + 1)
+                          : "style GlobalScatter/RelativeSize " + std::to_string(1 + i % 7))
+                << "\n";
+        return file;
+    }();
+    return path;
+}
+
+void freshKernel()
+{
+    KernelDriver::resetKernel();
+    KernelDriver::loadSampleDataSet();
+}
+
+void BaselineKernelReplay(benchmark::State& state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        freshKernel();
+        state.ResumeTiming();
+        const auto result = orrery::kernel::JournalReplayer::replayFile(journalPath());
+        if (!result.ok)
+            state.SkipWithError(result.message.c_str());
+    }
+}
+BENCHMARK(BaselineKernelReplay)->Unit(benchmark::kMillisecond);
+
+void DemoReplay(benchmark::State& state)
+{
+    MainWindow window;
+    window.show();
+    for (auto _ : state) {
+        state.PauseTiming();
+        freshKernel();
+        QApplication::processEvents();
+        state.ResumeTiming();
+        if (!window.replayJournal(QString::fromStdString(journalPath())))
+            state.SkipWithError("the replay failed");
+        QApplication::processEvents(); // the views catch up
+    }
+}
+BENCHMARK(DemoReplay)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -219,5 +273,6 @@ int main(int argc, char** argv)
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     std::remove("/tmp/orrery-demobench.vtk");
+    std::remove("/tmp/orrery-demobench.journal");
     return 0;
 }

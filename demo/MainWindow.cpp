@@ -1,5 +1,7 @@
 #include "demo/MainWindow.h"
+#include "demo/IdleBatch.h"
 
+#include <utility>
 #include <QActionGroup>
 #include <QApplication>
 #include <QDir>
@@ -180,11 +182,28 @@ MainWindow::MainWindow()
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
         dialogs->addAction(DialogCatalog::title(entry), this, [this, &entry] { runDialog(entry); });
 
-    m_undoChanged = Kernel::instance().undoStack().changedSignal().connect([this] { refreshUndoActions(); });
+    // While the host is busy (a replay of thousands of lines) the menus are
+    // brought up to date once, when it is idle again.
+    m_undoChanged = Kernel::instance().undoStack().changedSignal().connect([this] { refreshActionsWhenIdle(); });
+    m_becameIdle = orrery::sdk::AppLock::becameIdleSignal().connect([this] {
+        if (std::exchange(m_actionsStale, false)) {
+            refreshUndoActions();
+            refreshViewActions();
+        }
+    });
+    // A replay adds thousands of lines: they are shown once per idle moment, and
+    // the view keeps the newest (Save Journal writes them all).
+    const int shownLines = 5000;
+    m_journal->setMaximumBlockCount(shownLines);
+    auto* journalLines = new IdleBatch(
+        [this](const QStringList& lines) {
+            m_journal->appendPlainText(lines.mid(std::max(0, int(lines.size()) - shownLines)).join('\n'));
+        },
+        this);
     m_journalGrew = Kernel::instance().journal().lineAdded().connect(
-        [this](const std::string& line) { m_journal->appendPlainText(QString::fromStdString(line)); });
+        [journalLines](const std::string& line) { journalLines->add(QString::fromStdString(line)); });
     m_stateChanged = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-        [this](const auto&) { refreshViewActions(); });
+        [this](const auto&) { refreshActionsWhenIdle(); });
     refreshUndoActions();
     refreshViewActions();
     resize(1180, 760);
@@ -203,6 +222,16 @@ void MainWindow::report(const QString& line)
 void MainWindow::complain(const QString& text)
 {
     OrrUtilDialogMessageBox(text.toUtf8().constData(), MessageBoxType_Error);
+}
+
+void MainWindow::refreshActionsWhenIdle()
+{
+    if (orrery::sdk::AppLock::isBusy()) {
+        m_actionsStale = true;
+        return;
+    }
+    refreshUndoActions();
+    refreshViewActions();
 }
 
 void MainWindow::refreshUndoActions()

@@ -42,6 +42,7 @@ private:
     void buildSampleMenu(QMenu& menu);
     void saveJournalAs();
     void replayJournalFrom();
+    void refreshActionsWhenIdle();
     void refreshUndoActions();
     void refreshViewActions();
     void setShowVectors(bool on);
@@ -59,4 +60,6 @@ private:
     boost::signals2::scoped_connection m_undoChanged;
     boost::signals2::scoped_connection m_journalGrew;
     boost::signals2::scoped_connection m_stateChanged;
+    boost::signals2::scoped_connection m_becameIdle;
+    bool m_actionsStale = false;
 };

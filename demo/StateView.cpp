@@ -1,4 +1,5 @@
 #include "demo/StateView.h"
+#include "demo/IdleBatch.h"
 
 #include <QListWidget>
 #include <QSplitter>
@@ -79,10 +80,22 @@ void setRow(QTreeWidgetItem& parent, int row, const QString& name, const QString
     parent.child(row)->setText(1, value);
 }
 
+// The event list keeps the newest events; the journal keeps them all.
+const int ListedEvents = 1000;
+
 } // namespace
 
 StateView::StateView(QWidget* parent)
-    : QWidget(parent), m_tree(new QTreeWidget), m_events(new QListWidget)
+    : QWidget(parent), m_tree(new QTreeWidget), m_events(new QListWidget),
+      m_newEvents(new IdleBatch(
+          [this](const QStringList& lines) {
+              m_events->addItems(lines.mid(std::max(0, int(lines.size()) - ListedEvents)));
+              while (m_events->count() > ListedEvents)
+                  delete m_events->takeItem(0);
+              m_events->scrollToBottom();
+              refresh();
+          },
+          this))
 {
     m_tree->setColumnCount(2);
     m_tree->setHeaderLabels({tr("Item"), tr("Value")});
@@ -114,9 +127,7 @@ void StateView::stateChanged(const StateChangeEventInterface& event)
     QString line = QString("%1 (%2)").arg(int(event.code())).arg(codeName(event.code()));
     if (!event.stylePath().empty())
         line += ": " + QString::fromStdString(event.stylePath().join("/"));
-    m_events->addItem(line);
-    m_events->scrollToBottom();
-    refresh();
+    m_newEvents->add(line);
 }
 
 void StateView::refreshDataSet()

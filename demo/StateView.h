@@ -2,6 +2,7 @@
 #include <boost/signals2/connection.hpp>
 #include <QWidget>
 
+class IdleBatch;
 class QListWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -15,7 +16,7 @@ class StateChangeEventInterface;
 } // namespace orrery
 
 // The host's state as the dialogs see it: the data set, the style values the
-// dialogs use, and every state-change event as it is announced.
+// dialogs use, and the latest state-change events as they are announced.
 class StateView : public QWidget
 {
     Q_OBJECT
@@ -33,5 +34,7 @@ private:
     QTreeWidgetItem* m_dataSet;
     QTreeWidgetItem* m_style;
     QListWidget* m_events;
+    // Events are listed, and the values refreshed, once per idle moment.
+    IdleBatch* m_newEvents;
     boost::signals2::scoped_connection m_connection;
 };

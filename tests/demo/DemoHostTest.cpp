@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -169,6 +170,7 @@ TEST_F(DemoHost, UndoAndRedoInTheEditMenuNameTheStepAndTakeItBack)
     action(window, "viewShowScatter").trigger();
     EXPECT_TRUE(styleValue<bool>({"FieldMap", "Scatter", "Show"}, 3));
     EXPECT_EQ(undo.text(), "&Undo Show Scatter");
+    QApplication::processEvents(); // the journal view catches up once the window is idle
     const QString journal = window.findChild<QPlainTextEdit*>("journal")->toPlainText();
     EXPECT_TRUE(journal.startsWith("begin \"Assign Variables\"\nstyle TwoDAxis/XDetail/VarNum 4\n")) << journal.toStdString();
     EXPECT_TRUE(journal.contains("\nundo\nredo\nstyle FrameLayout/PlotType 1\nbegin \"Show Scatter\"\n")) << journal.toStdString();
