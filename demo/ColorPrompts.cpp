@@ -1,4 +1,5 @@
 #include "demo/ColorPrompts.h"
+#include "demo/Translations.h"
 
 #include <QDialogButtonBox>
 #include <QTimer>
@@ -48,9 +49,9 @@ void ColorPrompts::pickRGB(ColorChooserDialog& d)
 
 QString ColorPrompts::colorChooserAnswers(ColorChooserDialog& d)
 {
-    return QString("color = %1 (%2)")
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "color = %1 (%2)"))
         .arg(d.selectedColor())
-        .arg(QString::fromStdString(ColorChooserDialog::colorToString(d.selectedColor(), false)));
+        .arg(ColorChooserDialog::colorDisplayName(d.selectedColor(), false));
 }
 
 ColorButtonDemoDialog* ColorPrompts::openColorButton(QWidget& parent)
@@ -69,5 +70,5 @@ void ColorPrompts::driveColorButton(ColorButtonDemoDialog& d)
 
 QString ColorPrompts::colorButtonAnswers(ColorButtonDemoDialog& d)
 {
-    return QString("mesh color of zone 1 = %1, button shows \"%2\"").arg(d.meshColor()).arg(d.colorButton()->text());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "mesh color of zone 1 = %1, button shows \"%2\"")).arg(d.meshColor()).arg(d.colorButton()->text());
 }

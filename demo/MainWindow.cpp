@@ -1,4 +1,5 @@
 #include "demo/MainWindow.h"
+#include "demo/Translations.h"
 #include "demo/IdleBatch.h"
 
 #include <utility>
@@ -306,14 +307,16 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
         if (whileOpen)
             QTimer::singleShot(0, dialog, [dialog, whileOpen] { whileOpen(*dialog); });
         dialog->launch();
-        if (dialog->isVisible()) // a modeless dialog: its answers count once it is closed
+        const bool modeless = dialog->isVisible();
+        if (modeless) // its answers count once it is closed; its changes were made as they came
         {
             QEventLoop untilClosed;
             connect(dialog, &QDialog::finished, &untilClosed, &QEventLoop::quit);
             untilClosed.exec();
         }
         line = QString("%1: %2, %3")
-                   .arg(DialogCatalog::title(entry), dialog->result() == QDialog::Accepted ? tr("accepted") : tr("cancelled"),
+                   .arg(DialogCatalog::title(entry),
+                        dialog->result() == QDialog::Accepted ? tr("accepted") : modeless ? tr("closed") : tr("cancelled"),
                         entry.answers(*dialog));
     }
     if (entry.callerOwnsDialog)
@@ -428,13 +431,15 @@ void MainWindow::replayJournalFrom()
 QStringList MainWindow::sampleFolders()
 {
     const QString app = QCoreApplication::applicationDirPath();
-    return {app + "/samples", app + "/../share/orrery/samples", QStringLiteral(ORRERY_DEMO_SAMPLES)};
+    return {app + "/samples", app + QString("/../share/orrery-qt%1/samples").arg(QT_VERSION_MAJOR),
+            QStringLiteral(ORRERY_DEMO_SAMPLES)};
 }
 
 void MainWindow::buildSampleMenu(QMenu& menu)
 {
     menu.addAction(tr("Built-in: Heated Plate"), this, [this] {
-        orrery::kernel::KernelDriver::loadSampleDataSet();
+        orrery::kernel::KernelDriver::loadSampleDataSet(
+        "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
         report(tr("Loaded the built-in sample data set"));
     });
     QStringList seen;

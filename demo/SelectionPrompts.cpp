@@ -6,6 +6,7 @@
 #include "core/property/Property.h"
 #include "demo/DemoUser.h"
 #include "demo/StyleWrites.h"
+#include "demo/Translations.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/AddonsVariableSelectDialog.h"
 #include "prompts/prompt/AxisVariableSelectDialog.h"
@@ -88,8 +89,13 @@ AddonsVariableSelectDialog* SelectionPrompts::openAddonVariables(QWidget& parent
 {
     styleWrites.start();
     AddonInputs& inputs = addonInputs();
-    return AddonsVariableSelectDialog::getInstance(parent, "Choose the add-on's input variables.", "&Source:",
-                                                   "&Weight:", nullptr, inputs.source, inputs.weight, inputs.unused);
+    // The dialog translates only its own texts: a host passes its own translated.
+    static std::string instructions, source, weight;
+    instructions = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Choose the add-on's input variables."));
+    source = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Source:"));
+    weight = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Weight:"));
+    return AddonsVariableSelectDialog::getInstance(parent, instructions.c_str(), source.c_str(), weight.c_str(), nullptr,
+                                                   inputs.source, inputs.weight, inputs.unused);
 }
 
 void SelectionPrompts::driveAddonVariables(AddonsVariableSelectDialog& d)
@@ -99,7 +105,7 @@ void SelectionPrompts::driveAddonVariables(AddonsVariableSelectDialog& d)
 
 QString SelectionPrompts::addonAnswers(AddonsVariableSelectDialog&)
 {
-    return QString("source = %1, weight = %2, %3")
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "source = %1, weight = %2, %3"))
         .arg(addonInputs().source->getValue())
         .arg(addonInputs().weight->getValue())
         .arg(styleWrites.report());
@@ -119,5 +125,5 @@ void SelectionPrompts::driveZone(ZoneSelectDialog& d)
 
 QString SelectionPrompts::zoneAnswers(ZoneSelectDialog& d)
 {
-    return QString("zone = %1").arg(d.selectedZone());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "zone = %1")).arg(d.selectedZone());
 }

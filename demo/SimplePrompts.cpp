@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include "demo/DemoUser.h"
+#include "demo/Translations.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
@@ -15,16 +16,10 @@
 
 namespace {
 
-// Texts the host hands to a dialog cross as Latin-1, which holds every
-// letter of the demo's translations.
-std::string translated(const char* text)
-{
-    return QCoreApplication::translate("DialogCatalog", text).toLatin1().toStdString();
-}
-
 QString yesNo(bool value)
 {
-    return value ? "yes" : "no";
+    return value ? Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "yes"))
+                 : Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "no"));
 }
 
 } // namespace
@@ -44,15 +39,15 @@ void SimplePrompts::driveTextString(EnterTextStringDialog& d)
 
 QString SimplePrompts::textStringAnswers(EnterTextStringDialog& d)
 {
-    return QString("text = \"%1\"").arg(d.text());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "text = \"%1\"")).arg(d.text());
 }
 
 SimplePrompts::EnterThreeIntValuesDialog* SimplePrompts::openThreeInts(QWidget& parent)
 {
-    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, translated(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
-                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
-                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
-                                                  translated(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
+    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
+                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
+                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
 }
 
 void SimplePrompts::driveThreeInts(EnterThreeIntValuesDialog& d)
@@ -64,7 +59,7 @@ void SimplePrompts::driveThreeInts(EnterThreeIntValuesDialog& d)
 
 QString SimplePrompts::threeIntsAnswers(EnterThreeIntValuesDialog& d)
 {
-    return QString("values = %1, %2, %3").arg(d.value1()).arg(d.value2()).arg(d.value3());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "values = %1, %2, %3")).arg(d.value1()).arg(d.value2()).arg(d.value3());
 }
 
 SimplePrompts::EnterASCIICharacterDialog* SimplePrompts::openAsciiCharacter(QWidget& parent)
@@ -80,7 +75,7 @@ void SimplePrompts::driveAsciiCharacter(EnterASCIICharacterDialog& d)
 
 QString SimplePrompts::asciiCharacterAnswers(EnterASCIICharacterDialog& d)
 {
-    return QString("character = '%1', type face = %2, base font = %3")
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "character = '%1', type face = %2, base font = %3"))
         .arg(QString::fromStdString(d.selectedChar()))
         .arg(int(d.typeFaceOverride()))
         .arg(yesNo(d.useBaseFont()));
@@ -98,7 +93,7 @@ void SimplePrompts::driveAnchorAlignment(AnchorAlignmentDialog& d)
 
 QString SimplePrompts::anchorAlignmentAnswers(AnchorAlignmentDialog& d)
 {
-    return QString("alignment = %1").arg(int(d.selectedAlignment()));
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "alignment = %1")).arg(int(d.selectedAlignment()));
 }
 
 SimplePrompts::ChooseLoaderDialog* SimplePrompts::openLoaderChooser(QWidget& parent)
@@ -115,5 +110,7 @@ void SimplePrompts::driveLoaderChooser(ChooseLoaderDialog& d)
 QString SimplePrompts::loaderChooserAnswers(ChooseLoaderDialog& d)
 {
     const ChooseLoaderDialog::LoaderPtr loader = d.selectedLoader();
-    return QString("loader = %1").arg(loader ? QString::fromStdString(loader->properties().name) : "(none)");
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "loader = %1"))
+        .arg(loader ? QCoreApplication::translate("ChooseLoader", loader->properties().name.c_str())
+                    : Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "(none)")));
 }

@@ -1,4 +1,5 @@
 #include "demo/StylePrompts.h"
+#include "demo/Translations.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -23,7 +24,7 @@ void StylePrompts::driveRGBColorOpts(RGBColorOptsDialog& d)
 
 QString StylePrompts::rgbColorOptsAnswers(RGBColorOptsDialog& d)
 {
-    return QString("mode = \"%1\", red = %2, green = %3, blue = %4")
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "mode = \"%1\", red = %2, green = %3, blue = %4"))
         .arg(d.findChild<QComboBox*>("rGBColorOpts_Mode_CmbBox")->currentText(),
              d.findChild<QComboBox*>("rGBColorOpts_RedVariable_CmbBox")->currentText(),
              d.findChild<QComboBox*>("rGBColorOpts_GreenVariable_CmbBox")->currentText(),
@@ -45,7 +46,7 @@ void StylePrompts::driveScatterSizeFont(ScatterSizeFontDialog& d)
 
 QString StylePrompts::scatterSizeFontAnswers(ScatterSizeFontDialog& d)
 {
-    return QString("%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4")
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4"))
         .arg(d.windowTitle(), d.findChild<QComboBox*>("scatterSizeFont_SizeVaiable_ComboBox")->currentText(),
              d.findChild<QLineEdit*>("scatterSizeFont_SizeCm_1Text")->text(),
              d.findChild<QLineEdit*>("scatterSizeFont_SizeGrid_1Text")->text());

@@ -1,4 +1,5 @@
 #include "demo/StyleWrites.h"
+#include "demo/Translations.h"
 
 #include <sstream>
 #include <variant>
@@ -23,7 +24,8 @@ QString StyleWrites::report()
     QStringList lines;
     for (const QString& path : m_paths)
         lines << QString("%1 = %2").arg(path, valueAt(path));
-    return lines.isEmpty() ? QString("no style written") : "wrote " + lines.join(", ");
+    return lines.isEmpty() ? Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "no style written"))
+                           : Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "wrote %1")).arg(lines.join(", "));
 }
 
 QString StyleWrites::valueAt(const QString& path)

@@ -1,4 +1,5 @@
 #include "demo/Tour.h"
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <QCoreApplication>
@@ -18,11 +19,13 @@ using orrery::dialogs::prompt::ChooseLoaderDialog;
 
 namespace {
 
+// "Color Chooser, Multi Color..." is saved as color-chooser-multi-color.png.
 QString fileNameFor(const QString& dialogName)
 {
     QString name = dialogName.toLower();
-    name.remove("...");
-    return name.replace(' ', '_') + ".png";
+    name.replace(QRegularExpression("[^a-z0-9]+"), "-");
+    name.remove(QRegularExpression("^-+|-+$"));
+    return name + ".png";
 }
 
 void settle()
@@ -82,7 +85,7 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     const QDir dir(screenshotDir);
     window.show();
     settle();
-    bool allSaved = savePlot(window.plot(), dir.filePath("plot_start.png"));
+    bool allSaved = savePlot(window.plot(), dir.filePath("plot-start.png"));
     bool allFit = true;
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
     {
@@ -101,10 +104,10 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
         });
         std::printf("  %s\n", qPrintable(line));
         settle();
-        allSaved &= savePlot(window.plot(), dir.filePath(fileNameFor(entry.name).replace(".png", "_plot.png")));
+        allSaved &= savePlot(window.plot(), dir.filePath(fileNameFor(entry.name).replace(".png", "-plot.png")));
     }
     settle();
-    allSaved &= save(window, dir.filePath("main_window.png"));
+    allSaved &= save(window, dir.filePath("main-window.png"));
     std::fflush(stdout);
     return allSaved && allFit ? 0 : 1;
 }

@@ -68,3 +68,13 @@ QStringList Translations::install(QCoreApplication& app, const QString& language
     }
     return problems;
 }
+
+std::string Translations::forDialog(const char* text)
+{
+    return Translations::text(text).toLatin1().toStdString();
+}
+
+QString Translations::text(const char* text)
+{
+    return QCoreApplication::translate("DialogCatalog", text);
+}

@@ -1,4 +1,5 @@
 #pragma once
+#include <string>
 #include <QString>
 #include <QStringList>
 
@@ -18,4 +19,11 @@ public:
     // leaves the untranslated texts; each problem is one line in the result.
     static QStringList install(QCoreApplication& app, const QString& language,
                                const QString& directory = builtInDirectory());
+
+    // A demo text (context "DialogCatalog") in the user's language, as the
+    // Latin-1 bytes the dialogs take from their host; Latin-1 holds every
+    // letter of the demo's translations.
+    static std::string forDialog(const char* text);
+    // The same as text for the screen and the log.
+    static QString text(const char* text);
 };

@@ -11,6 +11,7 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName("orrery-demo");
+    QApplication::setApplicationDisplayName("Orrery Prompts Demo");
     QApplication::setApplicationVersion(ORRERY_VERSION);
 
     QCommandLineParser parser;
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
                                   "Open, drive and photograph every dialog and the plot after it, saving the "
                                   "pictures in <dir>, then exit.",
                                   "dir");
-    const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D, 3 XY line, 4 sketch, 5 polar line.", "n");
+    const QCommandLineOption plotType("plot-type", "Start with plot type <n>: 1 3D, 2 2D or 3 XY line.", "n");
     const QCommandLineOption language("lang",
                                       "Show the texts in <language> (for example de); the default follows the "
                                       "system locale, en shows the original English texts.",
@@ -45,15 +46,16 @@ int main(int argc, char** argv)
     {
         bool number = false;
         type = parser.value(plotType).toLong(&number);
-        if (!number || type < 1 || type > 5)
+        if (!number || type < 1 || type > 3)
         {
-            std::fprintf(stderr, "orrery-demo: --plot-type takes 1 (3D), 2 (2D), 3 (XY line), 4 or 5.\n");
+            std::fprintf(stderr, "orrery-demo: --plot-type takes 1 (3D), 2 (2D) or 3 (XY line).\n");
             return 2;
         }
     }
 
     MainWindow window;
-    orrery::kernel::KernelDriver::loadSampleDataSet();
+    orrery::kernel::KernelDriver::loadSampleDataSet(
+        "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
     const bool touring = parser.isSet(tour);
     // Without a window to show them in, failures end the run.
     if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))

@@ -108,6 +108,22 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <source>Loaders</source>
         <translation>Lader</translation>
     </message>
+    <message>
+        <source>CSV table</source>
+        <translation>CSV-Tabelle</translation>
+    </message>
+    <message>
+        <source>Text table</source>
+        <translation>Texttabelle</translation>
+    </message>
+    <message>
+        <source>VTK legacy</source>
+        <translation>VTK (Legacy)</translation>
+    </message>
+    <message>
+        <source>Zone blocks</source>
+        <translation>Zonenblöcke</translation>
+    </message>
 </context>
 <context>
     <name>ColorButtonDemoDialog</name>
@@ -320,6 +336,86 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Select Zone...</source>
         <translation>Zone wählen...</translation>
+    </message>
+    <message>
+        <source>color = %1 (%2)</source>
+        <translation>Farbe = %1 (%2)</translation>
+    </message>
+    <message>
+        <source>mesh color of zone 1 = %1, button shows &quot;%2&quot;</source>
+        <translation>Gitterfarbe von Zone 1 = %1, Schaltfläche zeigt &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Heated plate</source>
+        <translation>Beheizte Platte</translation>
+    </message>
+    <message>
+        <source>Choose the add-on&apos;s input variables.</source>
+        <translation>Wählen Sie die Eingabevariablen des Zusatzmoduls.</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Quelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Weight:</source>
+        <translation>&amp;Gewicht:</translation>
+    </message>
+    <message>
+        <source>source = %1, weight = %2, %3</source>
+        <translation>Quelle = %1, Gewicht = %2, %3</translation>
+    </message>
+    <message>
+        <source>zone = %1</source>
+        <translation>Zone = %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>text = &quot;%1&quot;</source>
+        <translation>Text = &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>values = %1, %2, %3</source>
+        <translation>Werte = %1, %2, %3</translation>
+    </message>
+    <message>
+        <source>character = &apos;%1&apos;, type face = %2, base font = %3</source>
+        <translation>Zeichen = &apos;%1&apos;, Schriftart = %2, Grundschrift = %3</translation>
+    </message>
+    <message>
+        <source>alignment = %1</source>
+        <translation>Ausrichtung = %1</translation>
+    </message>
+    <message>
+        <source>loader = %1</source>
+        <translation>Lader = %1</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(keiner)</translation>
+    </message>
+    <message>
+        <source>mode = &quot;%1&quot;, red = %2, green = %3, blue = %4</source>
+        <translation>Modus = &quot;%1&quot;, Rot = %2, Grün = %3, Blau = %4</translation>
+    </message>
+    <message>
+        <source>%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4</source>
+        <translation>%1: Variable = %2, cm/Betrag = %3, Gittereinheiten/Betrag = %4</translation>
+    </message>
+    <message>
+        <source>no style written</source>
+        <translation>kein Stil geschrieben</translation>
+    </message>
+    <message>
+        <source>wrote %1</source>
+        <translation>geschrieben: %1</translation>
     </message>
 </context>
 <context>
@@ -558,6 +654,10 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
             <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; die %n Befehle davor wurden behalten.
 %1</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation>geschlossen</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,7 @@ public:
 
     bool isAvailable() const { return !m_varNames.empty(); }
     const std::string& title() const { return m_title; }
+    void setTitle(const std::string& title) { m_title = title; }
     int numZones() const { return static_cast<int>(m_zones.size()); }
     int numVars() const { return static_cast<int>(m_varNames.size()); }
     bool hasZone(int zone) const { return zone >= 1 && zone <= numZones(); }

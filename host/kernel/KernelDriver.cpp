@@ -27,9 +27,12 @@ void KernelDriver::resetKernel()
     kernel().reset();
 }
 
-void KernelDriver::loadSampleDataSet(const std::string& name)
+void KernelDriver::loadSampleDataSet(const std::string& name, const std::string& title)
 {
-    kernel().setDataSet(SampleDataSet::make(name));
+    DataSet sample = SampleDataSet::make(name);
+    if (!title.empty())
+        sample.setTitle(title);
+    kernel().setDataSet(std::move(sample));
 }
 
 void KernelDriver::setDataSet(const DataSet& dataSet)

@@ -28,7 +28,8 @@ public:
 
     // Sample data sets: "Sample" (3 zones; X, Y, Z, Pressure, Temperature) and
     // "Small" (1 zone; X, Y). Throws std::invalid_argument for another name.
-    static void loadSampleDataSet(const std::string& name = "Sample");
+    // A title (in the user's language, say) replaces the sample's own.
+    static void loadSampleDataSet(const std::string& name = "Sample", const std::string& title = std::string());
     static void setDataSet(const DataSet& dataSet);
     static void clearDataSet();
 

@@ -1,11 +1,13 @@
 #include "host/loaders/CsvDataLoader.h"
+#include <QtGlobal>
 
 namespace orrery {
 namespace sdk {
 
 DataLoaderInterface::Properties CsvDataLoader::properties() const
 {
-    return {"CSV table", "Comma-, semicolon- or tab-separated values, with or without a header row", {"csv"}};
+    // Shown translated in the loader chooser's context; settings keep this name.
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "CSV table"), "Comma-, semicolon- or tab-separated values, with or without a header row", {"csv"}};
 }
 
 std::vector<char> CsvDataLoader::delimiters() const

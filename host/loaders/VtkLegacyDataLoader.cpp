@@ -1,4 +1,5 @@
 #include "host/loaders/VtkLegacyDataLoader.h"
+#include <QtGlobal>
 #include <algorithm>
 #include <cctype>
 #include <charconv>
@@ -671,7 +672,8 @@ private:
 
 DataLoaderInterface::Properties VtkLegacyDataLoader::properties() const
 {
-    return {"VTK legacy", "Points and point data of legacy VTK files (ASCII or binary)", {"vtk"}};
+    // Shown translated in the loader chooser's context; settings keep this name.
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "VTK legacy"), "Points and point data of legacy VTK files (ASCII or binary)", {"vtk"}};
 }
 
 bool VtkLegacyDataLoader::load(const std::string& path, std::string& error)

@@ -1,4 +1,5 @@
 #include "host/loaders/ZoneBlockDataLoader.h"
+#include <QtGlobal>
 #include <utility>
 #include <vector>
 #include "host/kernel/Kernel.h"
@@ -30,7 +31,8 @@ struct Zone
 
 DataLoaderInterface::Properties ZoneBlockDataLoader::properties() const
 {
-    return {"Zone blocks", "Named zones of points in one text file", {"zbk"}};
+    // Shown translated in the loader chooser's context; settings keep this name.
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "Zone blocks"), "Named zones of points in one text file", {"zbk"}};
 }
 
 bool ZoneBlockDataLoader::load(const std::string& path, std::string& error)

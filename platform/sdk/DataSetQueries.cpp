@@ -80,6 +80,17 @@ bool isEnabledVar(int var)
     return enabledVars().contains(var);
 }
 
+// Velocity components as writers name them, lower case and without separators
+// (velocity_X, vel_x, Vx, velocityX all match).
+const std::initializer_list<const char*> VelocityNames[3] = {
+    {"velocityx", "velx", "vx"}, {"velocityy", "vely", "vy"}, {"velocityz", "velz", "vz"}};
+
+bool isConstant(int var)
+{
+    double min = 0, max = 0;
+    return !OrrUtilVarGetMinMax(var, &min, &max) || min == max;
+}
+
 std::string lowerCase(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return char(std::tolower(c)); });
@@ -87,11 +98,13 @@ std::string lowerCase(std::string text)
 }
 
 // The first enabled variable whose name is one of the given (lower-case)
-// names, ignoring case; 0 when there is none.
+// names, ignoring case and the separators _, - and blank; 0 when there is none.
 int enabledVarNamed(std::initializer_list<const char*> names)
 {
     for (int var : enabledVars()) {
-        const std::string name = lowerCase(varName(var));
+        std::string name = lowerCase(varName(var));
+        name.erase(std::remove_if(name.begin(), name.end(), [](char c) { return c == '_' || c == ' ' || c == '-'; }),
+                   name.end());
         for (const char* wanted : names)
             if (name == wanted)
                 return var;
@@ -133,7 +146,14 @@ bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
     const size_t needed = plotType == PlotType_ThreeD ? 3 : 2;
     std::vector<int> vars = needed == 3 ? varsNamed({{"u"}, {"v"}, {"w"}}) : varsNamed({{"u"}, {"v"}});
     if (vars.empty())
-        vars = candidates(plotType, false);
+        vars = needed == 3 ? varsNamed({VelocityNames[0], VelocityNames[1], VelocityNames[2]})
+                           : varsNamed({VelocityNames[0], VelocityNames[1]});
+    if (vars.empty()) {
+        // A constant variable would draw every arrow alike: it is no component.
+        for (int var : candidates(plotType, false))
+            if (!isConstant(var))
+                vars.push_back(var);
+    }
     if (vars.size() < needed)
         return false;
     u = vars[0];

@@ -16,8 +16,10 @@ ORRERY_PLATFORM_EXPORT toolbox::Set getEnabledVarsForFrame(long frameUniqueID);
 
 // Vector components for a field plot (u, v and, for 3D, w; w is 0 for 2D):
 //   1. enabled variables named U, V (and W), ignoring case, when all are there;
-//   2. otherwise the first enabled variables that are not on an axis of that
-//      plot type, in variable order.
+//   2. else velocity components (velocity_x, vel_x, vx ... ignoring case and
+//      separators), when all are there;
+//   3. otherwise the first enabled variables that are not on an axis of that
+//      plot type and not constant, in variable order.
 // False, with all three 0, when neither rule gives enough variables or the
 // plot type is not a field plot.
 ORRERY_PLATFORM_EXPORT bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w);

@@ -24,6 +24,13 @@ std::string translated(const char* text)
     return QCoreApplication::translate("ChooseLoader", text).toStdString();
 }
 
+// A loader as the list shows it: its name in the user's language, where the
+// host translated it in this layout's context. Settings keep the name itself.
+std::string shown(const std::string& name)
+{
+    return translated(name.c_str());
+}
+
 } // namespace
 
 struct ChooseLoaderPropertiesManager::Impl
@@ -93,7 +100,7 @@ ChooseLoaderPropertiesManager::LoaderPtr ChooseLoaderPropertiesManager::selected
     const std::string name = m_impl->loadersListModel->getStr(rows.front());
     for (const std::vector<LoaderPtr>* loaders : {&m_impl->allLoaders, &m_impl->suggestedLoaders})
         for (const LoaderPtr& loader : *loaders)
-            if (nameOf(loader) == name)
+            if (shown(nameOf(loader)) == name)
                 return loader;
     return LoaderPtr();
 }
@@ -116,7 +123,7 @@ void ChooseLoaderPropertiesManager::updateLoaderList(std::vector<LoaderPtr> cons
     {
         model.appendHeaderRow(translated(QT_TRANSLATE_NOOP("ChooseLoader", "Suggested Loaders")));
         for (const std::string& name : suggestedNames)
-            model.appendRow(name);
+            model.appendRow(shown(name));
         model.appendHeaderRow("");
         model.appendHeaderRow(translated(QT_TRANSLATE_NOOP("ChooseLoader", "Other Available Loaders")));
     }
@@ -125,7 +132,7 @@ void ChooseLoaderPropertiesManager::updateLoaderList(std::vector<LoaderPtr> cons
         if (!suggestedNames.count(nameOf(loader)))
             otherNames.insert(nameOf(loader));
     for (const std::string& name : otherNames)
-        model.appendRow(name);
+        model.appendRow(shown(name));
 }
 
 void ChooseLoaderPropertiesManager::selectLoaderBasedOnExtensionsHistory(std::set<std::string> const& extensions)
@@ -135,7 +142,7 @@ void ChooseLoaderPropertiesManager::selectLoaderBasedOnExtensionsHistory(std::se
     const std::string lastUsed = sdk::ApplicationSettings::getInstance().getStringValue(m_impl->historyKey(extensions));
     if (lastUsed.empty())
         return;
-    int row = m_impl->rowNamed(lastUsed);
+    int row = m_impl->rowNamed(shown(lastUsed));
     if (row < 0)
         row = m_impl->loadersListModel->isHeader(0) ? 1 : 0;
     if (row < m_impl->loadersListModel->size())

@@ -158,6 +158,21 @@ TEST_F(KernelDataSet, VectorAndRGBCandidatesAvoidTheAxesWhenTheyCan)
     EXPECT_EQ(std::make_pair(false, Triple{1, 2, 0}), candidates(getValidRGBVarCandidates, PlotType_TwoD));
 }
 
+TEST_F(KernelDataSet, VectorCandidatesAreVelocityComponentsAndNeverConstant)
+{
+    // Named as writers name velocities: found whatever their case and separators.
+    DataSet flow("Vortex", {"x", "y", "Z", "speed", "velocity_X", "Vel-y"});
+    flow.addZone("grid", {{0, 1, 2}, {0, 1, 0}, {0, 0, 0}, {1, 2, 3}, {1, -1, 0}, {0, 1, -1}});
+    Kernel::setDataSet(flow);
+    EXPECT_EQ(std::make_pair(true, Triple{5, 6, 0}), candidates(getValidVectorVarCandidates, PlotType_TwoD));
+
+    // Without such names the first free variables serve, but a constant one never does.
+    DataSet plain("Plain", {"x", "y", "level", "p", "q"});
+    plain.addZone("grid", {{0, 1}, {0, 1}, {7, 7}, {1, 2}, {3, 4}});
+    Kernel::setDataSet(plain);
+    EXPECT_EQ(std::make_pair(true, Triple{4, 5, 0}), candidates(getValidVectorVarCandidates, PlotType_TwoD));
+}
+
 TEST_F(KernelDataSet, VectorLayerAndRGBChannelsNeedEnabledVariables)
 {
     EXPECT_FALSE(okToTurnOnVectorLayer(PlotType_TwoD));
