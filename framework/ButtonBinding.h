@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/function.hpp>
 #include <QMetaObject>
 
@@ -10,7 +11,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Runs an action when a button is clicked. It shows no value, so its updates
 // have nothing to do; it is a binding so that the dialog owns it with the others.
-class ButtonBinding : public BindingInterface
+class ORRERY_FRAMEWORK_EXPORT ButtonBinding : public BindingInterface
 {
 public:
     ButtonBinding(QAbstractButton& button, const boost::function<void ()>& action);

@@ -1,10 +1,11 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include "framework/StateChangeDependentRelevance.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 // Relevant while the host holds a data set.
-class DataSetExistsRelevance : public StateChangeDependentRelevance
+class ORRERY_FRAMEWORK_EXPORT DataSetExistsRelevance : public StateChangeDependentRelevance
 {
 public:
     DataSetExistsRelevance();

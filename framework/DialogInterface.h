@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 
 namespace orrery {
 namespace dialogs {
@@ -6,7 +7,7 @@ namespace common {
 
 // What the host calls on any of its dialogs. Dialogs inherit it virtually so
 // that a dialog class and its frame share one copy.
-class DialogInterface
+class ORRERY_FRAMEWORK_EXPORT DialogInterface
 {
 public:
     virtual ~DialogInterface() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <memory>
 #include <string>
 
@@ -11,7 +12,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // A font combo box editing a property that holds a font family name. A family
 // the system lacks is shown as text and left in the property untouched.
-class FontComboBoxPropertyBinding : public UIPropertyBindingAbstract<std::string>,
+class ORRERY_FRAMEWORK_EXPORT FontComboBoxPropertyBinding : public UIPropertyBindingAbstract<std::string>,
                                     private qwidgetobservable::QComboBoxListenerInterface
 {
 public:

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <QString>
 #include <QWidget>
 
@@ -10,7 +11,7 @@ namespace common {
 
 // A window showing one of the help pages shipped as resources under ":/help".
 // Each dialog has at most one; it closes with the dialog's run.
-class HelpViewer : public QWidget
+class ORRERY_FRAMEWORK_EXPORT HelpViewer : public QWidget
 {
     Q_OBJECT
 public:

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/shared_ptr.hpp>
 #include <boost/signals2/connection.hpp>
 #include "core/propertymanager/RelevanceInterface.h"
@@ -6,7 +7,7 @@
 namespace orrery::sdk::ui::propertymanager {
 
 // Relevant exactly when the wrapped relevance is not; relays its changes.
-class InvertingRelevance : public virtual RelevanceInterface
+class ORRERY_FRAMEWORK_EXPORT InvertingRelevance : public virtual RelevanceInterface
 {
 public:
     explicit InvertingRelevance(const boost::shared_ptr<const RelevanceInterface>& inverted);

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <string>
 #include <QAction>
 
@@ -7,7 +8,7 @@ namespace dialogs {
 namespace common {
 
 // Opens one page of the application's help beside the widget that owns the action.
-class LaunchHelpAction : public QAction
+class ORRERY_FRAMEWORK_EXPORT LaunchHelpAction : public QAction
 {
     Q_OBJECT
 public:

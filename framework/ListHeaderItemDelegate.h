@@ -1,11 +1,12 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <QStyledItemDelegate>
 
 namespace orrery::sdk::ui::dialogs {
 
 // Draws the header rows of a list (the rows a model shows disabled) as
 // captions: bold, in the normal text colour, never highlighted.
-class ListHeaderItemDelegate : public QStyledItemDelegate
+class ORRERY_FRAMEWORK_EXPORT ListHeaderItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 public:

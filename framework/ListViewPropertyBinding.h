@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <memory>
 #include <boost/shared_ptr.hpp>
 #include <QAbstractItemView>
@@ -14,7 +15,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // A list view whose selected rows edit a property of the selected rows' values
 // (std::vector<int> or std::set<int>), through a ListViewPropertySynchronizer.
 // Its enabled state and visibility are a RelevanceApplier's business.
-class ListViewPropertyBinding : public PropertyBindingInterface
+class ORRERY_FRAMEWORK_EXPORT ListViewPropertyBinding : public PropertyBindingInterface
 {
 public:
     // Any property of std::vector<int> or std::set<int>.

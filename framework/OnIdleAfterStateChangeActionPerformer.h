@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/function.hpp>
 #include <boost/signals2/connection.hpp>
 
@@ -9,7 +10,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // Runs an action once on idle after one or more host state changes that pass a
 // predicate.
-class OnIdleAfterStateChangeActionPerformer
+class ORRERY_FRAMEWORK_EXPORT OnIdleAfterStateChangeActionPerformer
 {
 public:
     typedef boost::function<bool (const integration::StateChangeEventInterface&)> Predicate;

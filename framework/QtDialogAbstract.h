@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <vector>
 #include <QDialog>
 #include <QPointer>
@@ -18,7 +19,7 @@ namespace common {
 // Close, Help and Escape keep working, so the user can always get out. It owns
 // the help action (F1 and a Help button), and makes the OK and Cancel buttons
 // of layouts that connect nothing end the dialog.
-class QtDialogAbstract : public QDialog, public virtual DialogInterface
+class ORRERY_FRAMEWORK_EXPORT QtDialogAbstract : public QDialog, public virtual DialogInterface
 {
     Q_OBJECT
 public:

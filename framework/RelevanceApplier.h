@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <vector>
 #include <boost/shared_ptr.hpp>
 #include <boost/signals2/connection.hpp>
@@ -14,7 +15,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 // Shows a relevance on widgets: enables and disables them, or shows and hides
 // them. Applied at construction and again after each relevance change, at
 // once or once on idle.
-class RelevanceApplier
+class ORRERY_FRAMEWORK_EXPORT RelevanceApplier
 {
 public:
     enum Manifestation_e

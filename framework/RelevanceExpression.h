@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <vector>
 #include <boost/shared_ptr.hpp>
 #include "platform/common/SignalConnectionCollection.h"
@@ -9,7 +10,7 @@ namespace orrery::sdk::ui::propertymanager {
 // A combination of relevances read left to right, without precedence:
 // RelevanceExpression(a).aand(b).oor(c) is ((a and b) or c). Relays the
 // changes of every term.
-class RelevanceExpression : public virtual RelevanceInterface
+class ORRERY_FRAMEWORK_EXPORT RelevanceExpression : public virtual RelevanceInterface
 {
 public:
     explicit RelevanceExpression(const boost::shared_ptr<const RelevanceInterface>& first);

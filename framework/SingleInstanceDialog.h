@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <utility>
 
 namespace orrery {
@@ -8,8 +9,9 @@ namespace prompt {
 // The one live dialog of class D (a CRTP base). The instance is registered only
 // once its constructor has returned, and forgotten when it is destroyed, so a
 // failed construction leaves nothing behind and a destroyed dialog is rebuilt.
+// Exported, so that every library and program shares one live dialog per class.
 template <typename D>
-class SingleInstanceDialog
+class ORRERY_FRAMEWORK_EXPORT SingleInstanceDialog
 {
 public:
     // Null while there is no live dialog.

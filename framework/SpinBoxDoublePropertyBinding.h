@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <memory>
 #include "framework/SpinBoxIncDecCalculatorBase.h"
 #include "framework/SpinBoxPropertyBindingAbstract.h"
@@ -8,7 +9,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // A scientific spin box editing a double property; its steps are sized by a
 // calculator, which the binding owns.
-class SpinBoxDoublePropertyBinding : public SpinBoxPropertyBindingAbstract<double, orrery::ui::QScientificSpinBox, double>
+class ORRERY_FRAMEWORK_EXPORT SpinBoxDoublePropertyBinding : public SpinBoxPropertyBindingAbstract<double, orrery::ui::QScientificSpinBox, double>
 {
 public:
     SpinBoxDoublePropertyBinding(orrery::ui::QScientificSpinBox* spinBox,

@@ -1,10 +1,11 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 // Computes how far a spin box moves per step, when a fixed step does not fit
 // the values (a step proportional to a data range, for instance).
-class SpinBoxIncDecCalculatorBase
+class ORRERY_FRAMEWORK_EXPORT SpinBoxIncDecCalculatorBase
 {
 public:
     virtual ~SpinBoxIncDecCalculatorBase();

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <QSpinBox>
 #include "framework/SpinBoxPropertyBindingAbstract.h"
 
@@ -6,7 +7,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 
 // An integer spin box editing a long property. Values beyond the spin box's
 // int range are shown at its nearest end.
-class SpinBoxLgIndexPropertyBinding : public SpinBoxPropertyBindingAbstract<long, QSpinBox, int>
+class ORRERY_FRAMEWORK_EXPORT SpinBoxLgIndexPropertyBinding : public SpinBoxPropertyBindingAbstract<long, QSpinBox, int>
 {
 public:
     SpinBoxLgIndexPropertyBinding(QSpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<long>>& property,

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/function.hpp>
 #include <boost/signals2/connection.hpp>
 #include "core/propertymanager/RelevanceInterface.h"
@@ -7,7 +8,7 @@ namespace orrery::sdk::ui::propertymanager {
 
 // Relevance given by a predicate over the host's state, asked again after every
 // announced change of that state.
-class StateChangeDependentRelevance : public virtual RelevanceInterface
+class ORRERY_FRAMEWORK_EXPORT StateChangeDependentRelevance : public virtual RelevanceInterface
 {
 public:
     explicit StateChangeDependentRelevance(const boost::function<bool ()>& predicate);

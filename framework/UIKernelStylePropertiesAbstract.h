@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/signals2/connection.hpp>
 #include "framework/UIKernelStylePropertiesInterface.h"
 
@@ -10,7 +11,7 @@ namespace propertymanager {
 // Host base of every properties manager. A child set (built with a parent)
 // takes the parent's modality, submits when the parent submits, and addresses
 // collection members as (parent's offset, own offset).
-class UIKernelStylePropertiesAbstract : public virtual UIKernelStylePropertiesInterface
+class ORRERY_FRAMEWORK_EXPORT UIKernelStylePropertiesAbstract : public virtual UIKernelStylePropertiesInterface
 {
 public:
     explicit UIKernelStylePropertiesAbstract(bool modal);

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/signals2/signal.hpp>
 
 namespace orrery {
@@ -8,7 +9,7 @@ namespace propertymanager {
 
 // A group of style properties that a dialog edits together: initialised from
 // the kernel, submitted together, moved together to another collection member.
-class UIKernelStylePropertiesInterface
+class ORRERY_FRAMEWORK_EXPORT UIKernelStylePropertiesInterface
 {
 public:
     typedef boost::signals2::signal<void ()> Signal;

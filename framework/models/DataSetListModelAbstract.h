@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -15,7 +16,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 //
 // Names are asked of the kernel only for the rows that are shown, and kept:
 // a data set may hold a million zones, of which a list shows a few dozen.
-class DataSetListModelAbstract : public ListModelAbstract<int>
+class ORRERY_FRAMEWORK_EXPORT DataSetListModelAbstract : public ListModelAbstract<int>
 {
 public:
     ~DataSetListModelAbstract() override;

@@ -1,11 +1,12 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include "framework/models/DataSetListModelAbstract.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
 // The variables enabled in the current frame, in ascending order; a row's
 // value is the variable number, its text the variable's name.
-class EnabledVariablesListModel : public DataSetListModelAbstract
+class ORRERY_FRAMEWORK_EXPORT EnabledVariablesListModel : public DataSetListModelAbstract
 {
 public:
     EnabledVariablesListModel();

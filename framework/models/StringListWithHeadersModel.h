@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <string>
 #include <vector>
 #include "core/propertybindings/models/ListModelAbstract.h"
@@ -7,7 +8,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
 // A list of texts with header rows between groups (captions, not choices). A
 // row's value is its row number.
-class StringListWithHeadersModel : public ListModelAbstract<int>
+class ORRERY_FRAMEWORK_EXPORT StringListWithHeadersModel : public ListModelAbstract<int>
 {
 public:
     StringListWithHeadersModel() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "framework/FrameworkExport.h"
 #include <boost/function.hpp>
 #include "framework/models/DataSetListModelAbstract.h"
 #include "platform/toolbox/Set.h"
@@ -8,7 +9,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 // The zones that a source function gives for the current frame, in ascending
 // order; a row's value is the zone number, its text the zone's name (preceded
 // by the number when numbered).
-class ZoneListModel : public DataSetListModelAbstract
+class ORRERY_FRAMEWORK_EXPORT ZoneListModel : public DataSetListModelAbstract
 {
 public:
     typedef boost::function<toolbox::Set (long frameUniqueID)> ZoneSource;

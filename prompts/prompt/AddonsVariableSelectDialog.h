@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,7 +14,7 @@ namespace prompt {
 
 // Up to three variables for an add-on, chosen straight into properties that
 // the add-on supplies; the add-on reads them after the dialog closes.
-class AddonsVariableSelectDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT AddonsVariableSelectDialog : public common::QtDialogAbstract,
                                    public virtual common::DialogInterface,
                                    public SingleInstanceDialog<AddonsVariableSelectDialog>
 {

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include "framework/QtDialogAbstract.h"
 #include "platform/kernel/OrrTypes.h"
@@ -12,7 +13,7 @@ namespace prompt {
 
 // Picks one of the nine anchor points of a box. Cancel falls back to the
 // alignment the caller passed most recently.
-class AnchorAlignmentDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT AnchorAlignmentDialog : public common::QtDialogAbstract,
                               public virtual common::DialogInterface,
                               public SingleInstanceDialog<AnchorAlignmentDialog>
 {

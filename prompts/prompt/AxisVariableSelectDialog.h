@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <functional>
 #include <boost/shared_ptr.hpp>
 #include "core/propertymanager/RelevanceInterface.h"
@@ -10,7 +11,7 @@ namespace dialogs {
 namespace prompt {
 
 // The variables on the X, Y (and, in 3D, Z) axes of the current frame.
-class AxisVariableSelectDialog
+class ORRERY_PROMPTS_EXPORT AxisVariableSelectDialog
 {
 public:
     // Starts from the variables the axes already use.

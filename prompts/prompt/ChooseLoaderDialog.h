@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <set>
 #include <string>
@@ -15,7 +16,7 @@ namespace prompt {
 // Lets the user pick the data loader for a file: the suggested loaders first,
 // then all others; the loader last confirmed for the file's extension is
 // preselected, and a confirmed choice is remembered for the next time.
-class ChooseLoaderDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT ChooseLoaderDialog : public common::QtDialogAbstract,
                            public virtual common::DialogInterface,
                            public SingleInstanceDialog<ChooseLoaderDialog>
 {

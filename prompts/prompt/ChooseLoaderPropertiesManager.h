@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <set>
 #include <string>
@@ -26,7 +27,7 @@ namespace prompt {
 
 // The list of loaders offered for a file, its selection, and the loader last
 // chosen for each file extension, kept in the application settings.
-class ChooseLoaderPropertiesManager
+class ORRERY_PROMPTS_EXPORT ChooseLoaderPropertiesManager
 {
 public:
     typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;

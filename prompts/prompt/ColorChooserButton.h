@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <QColor>
 #include <QToolButton>
 
@@ -8,7 +9,7 @@ namespace prompt {
 
 // One swatch of the colour grid: a tool button filled with a colour of the
 // kernel's colour map.
-class ColorChooserButton : public QToolButton
+class ORRERY_PROMPTS_EXPORT ColorChooserButton : public QToolButton
 {
     Q_OBJECT
 public:

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <set>
 #include <string>
@@ -16,7 +17,7 @@ namespace prompt {
 // Picks a plot colour with one click: a colour of the grid, one of the eight
 // multi colourings (colour by variable) or RGB colouring. Close leaves the
 // previous answer in place, so callers look at result() first.
-class ColorChooserDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT ColorChooserDialog : public common::QtDialogAbstract,
                            public virtual common::DialogInterface,
                            public SingleInstanceDialog<ColorChooserDialog>
 {
@@ -75,7 +76,7 @@ private:
 
 // Asks the user for the RGB channel variables in a dialog over parent; true
 // when they were chosen.
-bool askForRGBChannelVariables(QWidget& parent);
+ORRERY_PROMPTS_EXPORT bool askForRGBChannelVariables(QWidget& parent);
 
 } // namespace prompt
 } // namespace dialogs

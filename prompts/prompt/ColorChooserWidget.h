@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <boost/signals2/signal.hpp>
 #include <QWidget>
 
@@ -8,7 +9,7 @@ namespace prompt {
 
 // The 8 x 8 grid of colour swatches: the basic colours in display order on the
 // first row, then the custom colours. A click announces the swatch's index.
-class ColorChooserWidget : public QWidget
+class ORRERY_PROMPTS_EXPORT ColorChooserWidget : public QWidget
 {
     Q_OBJECT
 public:

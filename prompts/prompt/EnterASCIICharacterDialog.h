@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include "framework/QtDialogAbstract.h"
@@ -11,7 +12,7 @@ namespace prompt {
 
 // Asks for one character to draw as a plot symbol, and its font: the base font
 // or the Greek, Math or user-defined symbol font.
-class EnterASCIICharacterDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT EnterASCIICharacterDialog : public common::QtDialogAbstract,
                                   public virtual common::DialogInterface,
                                   public SingleInstanceDialog<EnterASCIICharacterDialog>
 {

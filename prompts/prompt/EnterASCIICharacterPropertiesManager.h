@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include <boost/shared_ptr.hpp>
@@ -12,7 +13,7 @@ namespace prompt {
 
 // The symbol character and the font it is drawn in. The font 255 stands for
 // the plot's base font (no override).
-class EnterASCIICharacterPropertiesManager
+class ORRERY_PROMPTS_EXPORT EnterASCIICharacterPropertiesManager
 {
 public:
     EnterASCIICharacterPropertiesManager(std::string const& initialChar, Font_e font);

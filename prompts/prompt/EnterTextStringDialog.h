@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include <QString>
@@ -10,7 +11,7 @@ namespace prompt {
 
 // Asks for one line of text. The caller constructs, runs and destroys it, and
 // reads text() before destroying it.
-class EnterTextStringDialog : public common::QtDialogAbstract, public virtual common::DialogInterface
+class ORRERY_PROMPTS_EXPORT EnterTextStringDialog : public common::QtDialogAbstract, public virtual common::DialogInterface
 {
     Q_OBJECT
 public:

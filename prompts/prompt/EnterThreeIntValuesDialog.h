@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include "framework/QtDialogAbstract.h"
@@ -10,7 +11,7 @@ namespace prompt {
 
 // Asks for three whole numbers side by side (by default a begin, an end and a
 // skip), with captions, title and lower limits chosen by the caller.
-class EnterThreeIntValuesDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesDialog : public common::QtDialogAbstract,
                                   public virtual common::DialogInterface,
                                   public SingleInstanceDialog<EnterThreeIntValuesDialog>
 {

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <boost/shared_ptr.hpp>
 #include "core/property/PropertyAbstract.h"
@@ -9,7 +10,7 @@ namespace dialogs {
 namespace prompt {
 
 // The three whole numbers of the three-values prompt; any value is accepted.
-class EnterThreeIntValuesPropertiesManager
+class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesPropertiesManager
 {
 public:
     EnterThreeIntValuesPropertiesManager(long value1, long value2, long value3);

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include "framework/QtDialogAbstract.h"
 #include "framework/SingleInstanceDialog.h"
@@ -10,7 +11,7 @@ namespace prompt {
 // Edits the RGB colouring of a field plot: the RGB mode, the channel variables
 // and the value range mapped to the intensities. Modeless: every edit reaches
 // the style at once, and the dialog follows changes made elsewhere.
-class RGBColorOptsDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT RGBColorOptsDialog : public common::QtDialogAbstract,
                            public virtual common::DialogInterface,
                            public SingleInstanceDialog<RGBColorOptsDialog>
 {

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include "prompts/prompt/VariableSelectDialog.h"
 
 namespace orrery {
@@ -6,7 +7,7 @@ namespace dialogs {
 namespace prompt {
 
 // The variables of the red, green and blue channels of RGB colouring.
-class RGBVariableSelectDialog
+class ORRERY_PROMPTS_EXPORT RGBVariableSelectDialog
 {
 public:
     // Starts from the host's RGB candidates, whether or not it found all three.

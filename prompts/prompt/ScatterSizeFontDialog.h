@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <boost/scoped_ptr.hpp>
 #include "framework/QtDialogAbstract.h"
 #include "framework/SingleInstanceDialog.h"
@@ -10,7 +11,7 @@ namespace prompt {
 // Edits how scatter symbols are sized and which font their letters use; in a
 // line plot it edits the symbol font only ("Symbol Font"). Edits reach the
 // style at once; a plot type change re-titles and retargets it.
-class ScatterSizeFontDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT ScatterSizeFontDialog : public common::QtDialogAbstract,
                               public virtual common::DialogInterface,
                               public SingleInstanceDialog<ScatterSizeFontDialog>
 {

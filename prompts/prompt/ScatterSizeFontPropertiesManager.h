@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include <boost/shared_ptr.hpp>
@@ -24,7 +25,7 @@ namespace prompt {
 // the font of the current plot type (scatter symbols in field plots, line
 // plot symbols in line plots), the size multiplier in either unit, and which
 // size controls apply.
-class ScatterSizeFontPropertiesManager
+class ORRERY_PROMPTS_EXPORT ScatterSizeFontPropertiesManager
 {
 public:
     typedef sdk::ui::propertymanager::RelevanceInterface RelevanceInterface;

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <boost/ptr_container/ptr_vector.hpp>
 #include <boost/shared_ptr.hpp>
 #include "core/property/PropertyAbstract.h"
@@ -19,7 +20,7 @@ namespace prompt {
 // listed (never was, or vanished when the data set or the frame changed) is
 // replaced by the first listed variable, or by 0 when nothing is listed, so
 // that no dangling variable number is ever written.
-class VariableChoiceBindings
+class ORRERY_PROMPTS_EXPORT VariableChoiceBindings
 {
 public:
     typedef boost::shared_ptr<PropertyAbstract<int>> PropertyPtr;

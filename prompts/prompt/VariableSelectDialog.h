@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,7 +16,7 @@ namespace prompt {
 // Asks for two or three variables of the data set, one per drop-down list, and
 // writes each to the style value the caller names when the user presses OK.
 // Nothing reaches the kernel before OK; OK is one undoable step.
-class VariableSelectDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT VariableSelectDialog : public common::QtDialogAbstract,
                              public virtual common::DialogInterface,
                              public SingleInstanceDialog<VariableSelectDialog>
 {

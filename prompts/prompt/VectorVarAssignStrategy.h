@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include "platform/kernel/OrrTypes.h"
 
 class QWidget;
@@ -10,7 +11,7 @@ namespace prompt {
 // Decides whether the vector layer may be switched on: at once when the style
 // already names usable vector variables, otherwise after the user has chosen
 // them in the vector dialog.
-class VectorVarAssignStrategy
+class ORRERY_PROMPTS_EXPORT VectorVarAssignStrategy
 {
 public:
     explicit VectorVarAssignStrategy(QWidget& parent) : m_parent(parent) {}

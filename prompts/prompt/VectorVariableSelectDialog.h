@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <boost/shared_ptr.hpp>
 #include "core/propertymanager/RelevanceInterface.h"
 #include "platform/kernel/OrrTypes.h"
@@ -9,7 +10,7 @@ namespace dialogs {
 namespace prompt {
 
 // The U, V (and, in 3D, W) components of the vector plot.
-class VectorVariableSelectDialog
+class ORRERY_PROMPTS_EXPORT VectorVariableSelectDialog
 {
 public:
     // Starts from the host's vector candidates when it finds usable ones,

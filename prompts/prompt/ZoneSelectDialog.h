@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include "framework/QtDialogAbstract.h"
 #include "framework/SingleInstanceDialog.h"
@@ -9,7 +10,7 @@ namespace prompt {
 
 // Lets the user pick one zone of the current frame from a list; a double
 // click on a zone picks it and closes the dialog.
-class ZoneSelectDialog : public common::QtDialogAbstract,
+class ORRERY_PROMPTS_EXPORT ZoneSelectDialog : public common::QtDialogAbstract,
                          public virtual common::DialogInterface,
                          public SingleInstanceDialog<ZoneSelectDialog>
 {

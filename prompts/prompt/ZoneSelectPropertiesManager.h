@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <set>
 #include <boost/shared_ptr.hpp>
@@ -12,7 +13,7 @@ namespace prompt {
 
 // The zone prompt's values: the selected zone numbers and the list of the
 // zones enabled in the current frame.
-class ZoneSelectPropertiesManager
+class ORRERY_PROMPTS_EXPORT ZoneSelectPropertiesManager
 {
 public:
     ZoneSelectPropertiesManager();

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <boost/shared_ptr.hpp>
 #include "core/propertybindings/QObjectPropertyBinding.h"
 
@@ -13,7 +14,7 @@ namespace propertybindings {
 // A push or tool button showing a colour index of the kernel's colour map as a
 // swatch and a name; a click lets the user choose another colour in the colour
 // chooser. Colouring by variable (negative indices) shows the multi-colour icon.
-class ColorButtonPropertyBinding : public QObjectPropertyBinding<int>
+class ORRERY_PROMPTS_EXPORT ColorButtonPropertyBinding : public QObjectPropertyBinding<int>
 {
     Q_OBJECT
 public:

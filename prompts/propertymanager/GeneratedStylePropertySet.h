@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <vector>
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
@@ -25,7 +26,7 @@ struct GeneratedStyleEntry
 
 // Common part of the generated style property sets: a modal set collects edits
 // and writes them on submission, a non-modal one writes every edit at once.
-class GeneratedStylePropertySet : public virtual UIKernelStylePropertiesAbstract
+class ORRERY_PROMPTS_EXPORT GeneratedStylePropertySet : public virtual UIKernelStylePropertiesAbstract
 {
 public:
     const toolbox::StringList& prefix() const { return m_prefix; }

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include "framework/SpinBoxIncDecCalculatorBase.h"
 
 namespace orrery::sdk::ui::propertymanager {
@@ -7,7 +8,7 @@ class RGBColorOptsPropertiesGenerated;
 
 // Steps the RGB intensity range by a tenth of the value range that the three
 // channel variables span together; 0 when any channel has no range.
-class IntensitySpinBoxIncDecCalculator : public virtual SpinBoxIncDecCalculatorBase
+class ORRERY_PROMPTS_EXPORT IntensitySpinBoxIncDecCalculator : public virtual SpinBoxIncDecCalculatorBase
 {
 public:
     explicit IntensitySpinBoxIncDecCalculator(const RGBColorOptsPropertiesGenerated& generated);

@@ -1,10 +1,11 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 // The RGB colouring style values of a field plot.
-class RGBColorOptsPropertiesGenerated : public GeneratedStylePropertySet
+class ORRERY_PROMPTS_EXPORT RGBColorOptsPropertiesGenerated : public GeneratedStylePropertySet
 {
     ORRERY_GENERATED_STYLE_SET(RGBColorOptsPropertiesGenerated)
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <memory>
 #include <boost/shared_ptr.hpp>
 #include "core/propertybindings/models/PremappedListModel.h"
@@ -17,7 +18,7 @@ class RGBColorOptsPropertiesGenerated;
 // What the RGB colouring options offer beside the style values: the mode and
 // variable lists, which channel variables can be edited in the current mode,
 // and channel variables kept valid when the data change.
-class RGBColorOptsPropertiesManager
+class ORRERY_PROMPTS_EXPORT RGBColorOptsPropertiesManager
 {
 public:
     typedef dialogs::propertybindings::models::PremappedListModel<RGBMode_e> RGBModeModel;

@@ -1,11 +1,12 @@
 #pragma once
+#include "prompts/PromptsExport.h"
 #include <string>
 #include "prompts/propertymanager/GeneratedStylePropertySet.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 // The scatter symbol size and font style values, and the line plot symbol font.
-class ScatterSizeFontPropertiesGenerated : public GeneratedStylePropertySet
+class ORRERY_PROMPTS_EXPORT ScatterSizeFontPropertiesGenerated : public GeneratedStylePropertySet
 {
     ORRERY_GENERATED_STYLE_SET(ScatterSizeFontPropertiesGenerated)
 

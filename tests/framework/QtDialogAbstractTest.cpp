@@ -15,12 +15,6 @@ using orrery::dialogs::common::LaunchHelpAction;
 using orrery::dialogs::common::QtDialogAbstract;
 using orrery::sdk::ui::propertymanager::PropertyDependentRelevance;
 
-// The pages ship with the prompt library, which this program otherwise does not need.
-static void loadHelpPages()
-{
-    Q_INIT_RESOURCE(help);
-}
-
 namespace {
 
 // A dialog with a button box that the layout either connects itself or not.
@@ -137,7 +131,6 @@ TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneKeeps
 
 TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)
 {
-    loadHelpPages();
     ProbeDialog dialog(parent, nullptr, false);
     dialog.show();
     EXPECT_EQ(dialog.box->button(QDialogButtonBox::Help), nullptr); // none without a help action
