@@ -1,5 +1,6 @@
 #include "host/kernel/StyleAccess.h"
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <algorithm>
 #include <boost/format.hpp>
@@ -42,7 +43,7 @@ const char* typeName(StyleType type)
 }
 
 // Integers are stored as long but used as int everywhere (colours, variables,
-// sizes); a text a journal line must be able to hold.
+// sizes); numbers are finite; a text must fit on a journal line.
 WriteVerdict withinType(const StyleDatum& value)
 {
     constexpr size_t LongestText = 1 << 20;
@@ -51,6 +52,9 @@ WriteVerdict withinType(const StyleDatum& value)
             return WriteVerdict::refuse(std::to_string(*l) + " is out of range: whole numbers lie between "
                                         + std::to_string(std::numeric_limits<int>::min()) + " and "
                                         + std::to_string(std::numeric_limits<int>::max()) + ".");
+    } else if (const double* d = std::get_if<double>(&value)) {
+        if (!std::isfinite(*d))
+            return WriteVerdict::refuse("Style values are finite numbers.");
     } else if (const std::string* text = std::get_if<std::string>(&value)) {
         if (text->size() > LongestText)
             return WriteVerdict::refuse("The text is longer than " + std::to_string(LongestText) + " characters.");

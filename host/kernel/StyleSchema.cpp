@@ -73,6 +73,14 @@ StyleDatum StyleSchema::valueIn(const StyleState& style, const std::string& key,
     return entry->defaultValue;
 }
 
+std::vector<std::string> StyleSchema::keys() const
+{
+    std::vector<std::string> all;
+    for (const auto& entry : m_entries)
+        all.push_back(entry.first);
+    return all;
+}
+
 std::vector<std::string> StyleSchema::variableKeys() const
 {
     std::vector<std::string> keys;

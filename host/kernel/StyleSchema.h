@@ -21,6 +21,8 @@ public:
     // The value held in style, else the default. The key must be known.
     StyleDatum valueIn(const StyleState& style, const std::string& key, long member) const;
     std::vector<std::string> variableKeys() const;
+    // Every key, in order.
+    std::vector<std::string> keys() const;
 
 private:
     void add(const std::string& key, const StyleEntry& entry);
