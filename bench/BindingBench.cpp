@@ -26,7 +26,10 @@ typedef std::chrono::steady_clock Clock;
 
 namespace {
 
-void runIdle() { sdk::ui::common::IdleQueue::instance().flush(); }
+void runIdle()
+{
+    sdk::ui::common::IdleQueue::instance().flush();
+}
 
 double secondsSince(Clock::time_point start)
 {

@@ -41,15 +41,12 @@ void showPlainChooser(QWidget& parent, bool styleSheetPerSwatch)
     auto* swatches = new QGridLayout(grid);
     swatches->setSpacing(2);
     swatches->setContentsMargins(0, 0, 0, 0);
-    for (int i = 0; i < 64; ++i)
-    {
+    for (int i = 0; i < 64; ++i) {
         auto* swatch = new QToolButton(grid);
-        if (styleSheetPerSwatch)
-        {
+        if (styleSheetPerSwatch) {
             unsigned char r, g, b;
             OrrUtilColorMapGetBasicColorRGB(i, &r, &g, &b);
-            swatch->setStyleSheet(
-                QString("QToolButton {background-color: rgb(%1,%2,%3);}").arg(r).arg(g).arg(b));
+            swatch->setStyleSheet(QString("QToolButton {background-color: rgb(%1,%2,%3);}").arg(r).arg(g).arg(b));
         }
         swatches->addWidget(swatch, i / 8, i % 8);
     }
@@ -65,8 +62,7 @@ void showPlainChooser(QWidget& parent, bool styleSheetPerSwatch)
 
 void BM_PlainToolButtonsBaseline(benchmark::State& state)
 {
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         showPlainChooser(*parent, false);
         state.PauseTiming();
@@ -77,8 +73,7 @@ void BM_PlainToolButtonsBaseline(benchmark::State& state)
 
 void BM_StyleSheetPerSwatch(benchmark::State& state)
 {
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         showPlainChooser(*parent, true);
         state.PauseTiming();
@@ -89,8 +84,7 @@ void BM_StyleSheetPerSwatch(benchmark::State& state)
 
 void BM_ColorChooserFirstShow(benchmark::State& state)
 {
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         ColorChooserDialog::getInstance(*parent, true)->show();
         settle();
@@ -106,8 +100,7 @@ void BM_ColorChooserReuseShow(benchmark::State& state)
     ColorChooserDialog::getInstance(parent, true)->show();
     settle();
     bool enable = false;
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         ColorChooserDialog* dialog = ColorChooserDialog::getInstance(parent, enable);
         dialog->show();
         settle();

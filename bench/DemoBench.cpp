@@ -61,10 +61,22 @@ void operator delete(void* p) noexcept
     counted(-static_cast<long long>(*reinterpret_cast<std::size_t*>(block)));
     std::free(block);
 }
-void operator delete(void* p, std::size_t) noexcept { operator delete(p); }
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete[](void* p) noexcept { operator delete(p); }
-void operator delete[](void* p, std::size_t) noexcept { operator delete(p); }
+void operator delete(void* p, std::size_t) noexcept
+{
+    operator delete(p);
+}
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+void operator delete[](void* p) noexcept
+{
+    operator delete(p);
+}
+void operator delete[](void* p, std::size_t) noexcept
+{
+    operator delete(p);
+}
 
 namespace {
 

@@ -41,13 +41,16 @@ struct ThreeInts
 {
     static QDialog* get(QWidget& parent)
     {
-        return EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Index Range", "", "&Begin", "&End", "&Skip",
-                                                      1, 1, 1);
+        return EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Index Range", "", "&Begin", "&End", "&Skip", 1,
+                                                      1, 1);
     }
 };
 struct AsciiCharacter
 {
-    static QDialog* get(QWidget& parent) { return EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math); }
+    static QDialog* get(QWidget& parent)
+    {
+        return EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
+    }
 };
 struct Anchor
 {
@@ -77,8 +80,7 @@ int widgetCount()
 template <typename D>
 void BM_FirstShow(benchmark::State& state)
 {
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         QDialog* dialog = D::get(*parent);
         dialog->show();
@@ -97,8 +99,7 @@ void BM_ReuseShow(benchmark::State& state)
     QWidget parent;
     D::get(parent)->show();
     settle();
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         QDialog* dialog = D::get(parent);
         dialog->show();
         settle();
@@ -126,8 +127,7 @@ template <typename D>
 void BM_PlainDialogBaseline(benchmark::State& state)
 {
     const int widgets = widgetCount<D>();
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         showPlainDialog(*parent, widgets);
         state.PauseTiming();
@@ -137,8 +137,8 @@ void BM_PlainDialogBaseline(benchmark::State& state)
     state.counters["widgets"] = widgets;
 }
 
-#define DIALOG_BENCHMARKS(D)                                                                                         \
-    BENCHMARK_TEMPLATE(BM_PlainDialogBaseline, D)->Unit(benchmark::kMillisecond);                                    \
+#define DIALOG_BENCHMARKS(D)                                                                                           \
+    BENCHMARK_TEMPLATE(BM_PlainDialogBaseline, D)->Unit(benchmark::kMillisecond);                                      \
     BENCHMARK_TEMPLATE(BM_FirstShow, D)->Unit(benchmark::kMillisecond)
 
 DIALOG_BENCHMARKS(TextString); // constructed by its caller each time: nothing to reuse
@@ -179,8 +179,7 @@ int coldStartChild(const QString& what)
         showPlainDialog(parent, widgets);
     else
         for (const ColdStart& c : ColdStarts)
-            if (what == c.name)
-            {
+            if (what == c.name) {
                 c.get(parent)->show();
                 settle();
             }
@@ -191,8 +190,7 @@ int coldStartChild(const QString& what)
 double medianColdStart(const QString& what)
 {
     std::vector<double> ms;
-    for (int run = 0; run < 5; ++run)
-    {
+    for (int run = 0; run < 5; ++run) {
         QProcess child;
         child.start(QCoreApplication::applicationFilePath(), {"--cold-start", what});
         child.waitForFinished(30000);
@@ -205,8 +203,7 @@ double medianColdStart(const QString& what)
 void reportColdStarts()
 {
     std::printf("%-16s %8s %14s %8s %7s\n", "Cold start", "widgets", "plain dialog", "dialog", "ratio");
-    for (const ColdStart& c : ColdStarts)
-    {
+    for (const ColdStart& c : ColdStarts) {
         const int widgets = c.widgets();
         const double plain = medianColdStart(QString::number(widgets));
         const double dialog = medianColdStart(c.name);

@@ -107,7 +107,8 @@ std::vector<long> sizes()
 
 long long fileSize(const std::string& path)
 {
-    struct stat status {};
+    struct stat status
+    {};
     return ::stat(path.c_str(), &status) == 0 ? status.st_size : 0;
 }
 
@@ -243,19 +244,40 @@ void registerAll()
 #ifdef ORRERY_BENCH_LIBCSV
         benchmark::RegisterBenchmark("BaselineLibcsv", BaselineLibcsv)->Arg(mb)->Unit(benchmark::kMillisecond);
 #endif
-        benchmark::RegisterBenchmark("CsvLoadOneThread", CsvLoad, true)->Arg(mb)->Unit(benchmark::kMillisecond)->UseRealTime();
+        benchmark::RegisterBenchmark("CsvLoadOneThread", CsvLoad, true)
+            ->Arg(mb)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
         benchmark::RegisterBenchmark("CsvLoad", CsvLoad, false)->Arg(mb)->Unit(benchmark::kMillisecond)->UseRealTime();
     }
 }
 
 } // namespace
 
-void* operator new(std::size_t size) { return counted(size); }
-void* operator new[](std::size_t size) { return counted(size); }
-void operator delete(void* block) noexcept { release(block); }
-void operator delete[](void* block) noexcept { release(block); }
-void operator delete(void* block, std::size_t) noexcept { release(block); }
-void operator delete[](void* block, std::size_t) noexcept { release(block); }
+void* operator new(std::size_t size)
+{
+    return counted(size);
+}
+void* operator new[](std::size_t size)
+{
+    return counted(size);
+}
+void operator delete(void* block) noexcept
+{
+    release(block);
+}
+void operator delete[](void* block) noexcept
+{
+    release(block);
+}
+void operator delete(void* block, std::size_t) noexcept
+{
+    release(block);
+}
+void operator delete[](void* block, std::size_t) noexcept
+{
+    release(block);
+}
 
 int main(int argc, char** argv)
 {

@@ -35,7 +35,7 @@ BENCHMARK(BaselineVirtualCall);
 
 void BaselineSignalEmitOneSlot(benchmark::State& state)
 {
-    boost::signals2::signal<void (const long&)> signal;
+    boost::signals2::signal<void(const long&)> signal;
     long sink = 0;
     signal.connect([&sink](const long& v) { sink += v; });
     long v = 0;

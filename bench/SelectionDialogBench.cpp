@@ -43,16 +43,14 @@ const QStringList& loadDataSet(int zones, int vars)
 {
     static int loadedZones = -1, loadedVars = -1;
     static QStringList zoneNames;
-    if (zones != loadedZones || vars != loadedVars)
-    {
+    if (zones != loadedZones || vars != loadedVars) {
         std::vector<std::string> varNames;
         for (int v = 1; v <= vars; ++v)
             varNames.push_back("Variable " + std::to_string(v));
         orrery::kernel::DataSet dataSet("Bench", varNames);
         const std::vector<std::vector<double>> point(size_t(vars), std::vector<double>{1.0});
         zoneNames.clear();
-        for (int z = 1; z <= zones; ++z)
-        {
+        for (int z = 1; z <= zones; ++z) {
             dataSet.addZone("Zone " + std::to_string(z), point);
             zoneNames << QString("Zone %1").arg(z);
         }
@@ -95,8 +93,7 @@ struct PlainZoneList
 void BM_ZonePromptFirstShow(benchmark::State& state)
 {
     loadDataSet(int(state.range(0)), 2);
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         ZoneSelectDialog::getInstance(*parent, 1)->show();
         settle();
@@ -110,8 +107,7 @@ void BM_ZonePromptFirstShow(benchmark::State& state)
 void BM_PlainZoneListFirstShow(benchmark::State& state)
 {
     const QStringList& names = loadDataSet(int(state.range(0)), 2);
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         PlainZoneList plain(*parent, names);
         state.PauseTiming();
@@ -132,8 +128,7 @@ void BM_ZonePromptChangeSelection(benchmark::State& state)
     settle();
     auto* view = dialog->findChild<QListView*>("Zone_Source_MList");
     int row = 0;
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         row = row == 0 ? zones / 2 : 0;
         view->setCurrentIndex(view->model()->index(row, 0));
         settle();
@@ -150,8 +145,7 @@ void BM_PlainZoneListChangeSelection(benchmark::State& state)
     QWidget parent;
     PlainZoneList plain(parent, names);
     int row = 0;
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         row = row == 0 ? zones / 2 : 0;
         plain.view->setCurrentIndex(plain.model->index(row, 0));
         settle();
@@ -179,11 +173,9 @@ struct PlainCombos
         : dialog(new QDialog(&parent)), model(new QStringListModel(names, dialog))
     {
         auto* grid = new QGridLayout(dialog);
-        for (int i = 0; i < 3; ++i)
-        {
+        for (int i = 0; i < 3; ++i) {
             combos[i] = new QComboBox(dialog);
-            if (!measureRows)
-            {
+            if (!measureRows) {
                 combos[i]->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
                 combos[i]->setMinimumContentsLength(12);
                 if (auto* view = qobject_cast<QListView*>(combos[i]->view()))
@@ -210,8 +202,7 @@ void BM_PlainCombosFirstShow(benchmark::State& state)
 {
     prepareVariables();
     const QStringList names = variableNames();
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         PlainCombos plain(*parent, names, state.range(0) != 0);
         state.PauseTiming();
@@ -223,8 +214,7 @@ void BM_PlainCombosFirstShow(benchmark::State& state)
 void BM_VariablePromptFirstShow(benchmark::State& state)
 {
     prepareVariables();
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
         RGBVariableSelectDialog::getInstance(*parent)->show();
         settle();
@@ -239,8 +229,7 @@ void BM_PlainCombosOpenPopup(benchmark::State& state)
     prepareVariables();
     QWidget parent;
     PlainCombos plain(parent, variableNames(), state.range(0) != 0);
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         plain.combos[2]->showPopup();
         settle();
         state.PauseTiming();
@@ -258,8 +247,7 @@ void BM_VariablePromptOpenPopup(benchmark::State& state)
     dialog->show();
     settle();
     auto* combo = dialog->findChild<QComboBox*>("var3_comboBox");
-    for (auto _ : state)
-    {
+    for (auto _ : state) {
         combo->showPopup();
         settle();
         state.PauseTiming();

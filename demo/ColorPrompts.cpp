@@ -70,5 +70,7 @@ void ColorPrompts::driveColorButton(ColorButtonDemoDialog& d)
 
 QString ColorPrompts::colorButtonAnswers(ColorButtonDemoDialog& d)
 {
-    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "mesh color of zone 1 = %1, button shows \"%2\"")).arg(d.meshColor()).arg(d.colorButton()->text());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "mesh color of zone 1 = %1, button shows \"%2\""))
+        .arg(d.meshColor())
+        .arg(d.colorButton()->text());
 }

@@ -7,10 +7,10 @@
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/CheckedStyleValue.h"
 
+using orrery::RawArray;
 using orrery::sdk::AppLock;
 using orrery::toolbox::ArgList;
 using orrery::toolbox::CheckedStyleValue;
-using orrery::RawArray;
 using orrery::toolbox::StringList;
 using orrery::toolbox::StyleValue;
 
@@ -26,8 +26,7 @@ bool finish(SetValueReturnCode_e code, std::string* error)
 {
     if (code == SetValue_Ok)
         return true;
-    if (error)
-    {
+    if (error) {
         char* text = OrrUtilStyleGetLastErrorString();
         *error = text ? text : "The kernel declined the change.";
         OrrUtilStringDealloc(&text);
@@ -41,8 +40,7 @@ StringList HostStyle::path(const std::string& slashed)
 {
     StringList names;
     size_t start = 0;
-    while (start <= slashed.size())
-    {
+    while (start <= slashed.size()) {
         const size_t slash = std::min(slashed.find('/', start), slashed.size());
         names.append(slashed.substr(start, slash - start));
         start = slash + 1;

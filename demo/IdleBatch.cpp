@@ -1,9 +1,7 @@
 #include "demo/IdleBatch.h"
 #include <QTimer>
 
-IdleBatch::IdleBatch(Flush flush, QObject* parent) : QObject(parent), m_flush(std::move(flush))
-{
-}
+IdleBatch::IdleBatch(Flush flush, QObject* parent) : QObject(parent), m_flush(std::move(flush)) {}
 
 void IdleBatch::add(const QString& line)
 {

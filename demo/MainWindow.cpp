@@ -56,9 +56,8 @@ public:
     ProgressWhileLoading(QWidget& parent, const QString& path) : m_parent(parent), m_path(path)
     {
         m_clock.start();
-        m_previous = LoadProgress::setHandler([this](std::uint64_t done, std::uint64_t total) {
-            return step(done, total);
-        });
+        m_previous =
+            LoadProgress::setHandler([this](std::uint64_t done, std::uint64_t total) { return step(done, total); });
     }
     ~ProgressWhileLoading()
     {
@@ -72,8 +71,7 @@ private:
     {
         if (!m_dialog && m_clock.elapsed() < 400)
             return true;
-        if (!m_dialog)
-        {
+        if (!m_dialog) {
             m_dialog = new QProgressDialog(QObject::tr("Loading %1...").arg(QFileInfo(m_path).fileName()),
                                            QObject::tr("Cancel"), 0, 1000, &m_parent);
             m_dialog->setWindowModality(Qt::WindowModal);
@@ -132,8 +130,7 @@ MainWindow::MainWindow()
     QAction* save = file->addAction(tr("&Save Journal..."), this, &MainWindow::saveJournalAs);
     save->setObjectName("fileSaveJournal");
     save->setShortcut(QKeySequence::Save);
-    file->addAction(tr("&Replay Journal..."), this, &MainWindow::replayJournalFrom)->setObjectName(
-        "fileReplayJournal");
+    file->addAction(tr("&Replay Journal..."), this, &MainWindow::replayJournalFrom)->setObjectName("fileReplayJournal");
     file->addSeparator();
     file->addAction(tr("&Quit"), qApp, &QApplication::quit)->setShortcut(QKeySequence::Quit);
 
@@ -154,10 +151,10 @@ MainWindow::MainWindow()
     QMenu* view = menuBar()->addMenu(tr("&View"));
     QMenu* plotType = view->addMenu(tr("&Plot Type"));
     m_plotTypes = new QActionGroup(this);
-    const std::pair<PlotType_e, QString> types[] = {
-        {PlotType_ThreeD, tr("&3D Cartesian")}, {PlotType_TwoD, tr("&2D Cartesian")}, {PlotType_XYLine, tr("&XY Line")}};
-    for (const auto& [type, text] : types)
-    {
+    const std::pair<PlotType_e, QString> types[] = {{PlotType_ThreeD, tr("&3D Cartesian")},
+                                                    {PlotType_TwoD, tr("&2D Cartesian")},
+                                                    {PlotType_XYLine, tr("&XY Line")}};
+    for (const auto& [type, text] : types) {
         QAction* action = plotType->addAction(text);
         action->setCheckable(true);
         action->setData(int(type));
@@ -262,8 +259,7 @@ void MainWindow::setShowVectors(bool on)
     const PlotType_e plotType = OrrUtilFrameGetPlotType();
     int u = 0, v = 0, w = 0;
     if (on && !orrery::sdk::okToTurnOnVectorLayer(plotType)
-        && !orrery::sdk::getValidVectorVarCandidates(plotType, u, v, w))
-    {
+        && !orrery::sdk::getValidVectorVarCandidates(plotType, u, v, w)) {
         complain(tr("Vectors need a field plot and two variables besides the axes."));
         refreshViewActions();
         return;
@@ -271,8 +267,9 @@ void MainWindow::setShowVectors(bool on)
     OrrUtilUndoStateBeginNamed(0, on ? "Show Vectors" : "Hide Vectors");
     std::string error;
     const std::string root = plotType == PlotType_ThreeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
-    bool ok = !u || (HostStyle::setInteger(root + "UVar", u, &error) && HostStyle::setInteger(root + "VVar", v, &error)
-                     && (!w || HostStyle::setInteger(root + "WVar", w, &error)));
+    bool ok = !u
+              || (HostStyle::setInteger(root + "UVar", u, &error) && HostStyle::setInteger(root + "VVar", v, &error)
+                  && (!w || HostStyle::setInteger(root + "WVar", w, &error)));
     ok = ok && HostStyle::setFlag("FieldLayers/ShowVector", on, &error);
     OrrUtilUndoStateEnd(!ok, true);
     if (!ok)
@@ -302,8 +299,7 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
     QString line;
     if (!dialog->isRelevant())
         line = tr("%1: not available now (it needs a data set)").arg(DialogCatalog::title(entry));
-    else
-    {
+    else {
         if (whileOpen)
             QTimer::singleShot(0, dialog, [dialog, whileOpen] { whileOpen(*dialog); });
         dialog->launch();
@@ -316,7 +312,9 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
         }
         line = QString("%1: %2, %3")
                    .arg(DialogCatalog::title(entry),
-                        dialog->result() == QDialog::Accepted ? tr("accepted") : modeless ? tr("closed") : tr("cancelled"),
+                        dialog->result() == QDialog::Accepted ? tr("accepted")
+                        : modeless                            ? tr("closed")
+                                                              : tr("cancelled"),
                         entry.answers(*dialog));
     }
     if (entry.callerOwnsDialog)
@@ -331,8 +329,7 @@ bool MainWindow::loadFile(const QString& path)
     std::vector<ChooseLoaderDialog::LoaderPtr> loaders =
         DataLoaderRepository::getInstance().loadersForExtension(suffix.toStdString());
     ChooseLoaderDialog::LoaderPtr loader = loaders.size() == 1 ? loaders.front() : nullptr;
-    if (!loader)
-    {
+    if (!loader) {
         std::set<std::string> extensions;
         if (!suffix.isEmpty())
             extensions.insert("." + suffix.toStdString());
@@ -345,18 +342,14 @@ bool MainWindow::loadFile(const QString& path)
     bool loaded = false;
     {
         ProgressWhileLoading progress(*this, path);
-        try
-        {
+        try {
             // The native name: a file name that is not UTF-8 must still open.
             loaded = loader->load(QFile::encodeName(path).toStdString(), error);
-        }
-        catch (const std::exception& e)
-        {
+        } catch (const std::exception& e) {
             error = e.what();
         }
     }
-    if (!loaded)
-    {
+    if (!loaded) {
         complain(tr("Cannot load %1: %2").arg(path, QString::fromStdString(error)));
         return false;
     }
@@ -371,20 +364,16 @@ bool MainWindow::loadFile(const QString& path)
 bool MainWindow::replayJournal(const QString& path)
 {
     JournalReplayer::Result result;
-    try
-    {
+    try {
         result = JournalReplayer::replayFile(QFile::encodeName(path).toStdString());
-    }
-    catch (const std::exception& e)
-    {
+    } catch (const std::exception& e) {
         result.ok = false;
         result.message = path.toStdString() + ": " + e.what();
     }
-    if (!result.ok)
-    {
-        complain(tr("The replay stopped at a bad line; the %n command(s) before it were kept.\n%1", nullptr,
-                    result.played)
-                     .arg(QString::fromStdString(result.message)));
+    if (!result.ok) {
+        complain(
+            tr("The replay stopped at a bad line; the %n command(s) before it were kept.\n%1", nullptr, result.played)
+                .arg(QString::fromStdString(result.message)));
         return false;
     }
     report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));
@@ -394,8 +383,7 @@ bool MainWindow::replayJournal(const QString& path)
 bool MainWindow::saveJournal(const QString& path)
 {
     std::string error;
-    if (!Kernel::instance().journal().save(QFile::encodeName(path).toStdString(), error))
-    {
+    if (!Kernel::instance().journal().save(QFile::encodeName(path).toStdString(), error)) {
         complain(QString::fromStdString(error));
         return false;
     }
@@ -405,9 +393,8 @@ bool MainWindow::saveJournal(const QString& path)
 
 void MainWindow::openFile()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open Data File"), QString(),
-        tr("Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open Data File"), QString(),
+                                                      tr("Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)"));
     if (!path.isEmpty())
         loadFile(path);
 }
@@ -439,13 +426,12 @@ void MainWindow::buildSampleMenu(QMenu& menu)
 {
     menu.addAction(tr("Built-in: Heated Plate"), this, [this] {
         orrery::kernel::KernelDriver::loadSampleDataSet(
-        "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
+            "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
         report(tr("Loaded the built-in sample data set"));
     });
     QStringList seen;
     for (const QString& folder : sampleFolders())
-        for (const QFileInfo& info : QDir(folder).entryInfoList(QDir::Files, QDir::Name))
-        {
+        for (const QFileInfo& info : QDir(folder).entryInfoList(QDir::Files, QDir::Name)) {
             if (seen.contains(info.fileName()))
                 continue;
             seen << info.fileName();

@@ -91,9 +91,9 @@ public:
             return m_fixed;
         double c[3];
         for (int k = 0; k < 3; ++k)
-            c[k] = m_channel[k] ? std::clamp((m_channel[k][i] - m_min) / (m_max > m_min ? m_max - m_min : 1.0),
-                                             0.0, 1.0)
-                                : 0.0;
+            c[k] = m_channel[k]
+                       ? std::clamp((m_channel[k][i] - m_min) / (m_max > m_min ? m_max - m_min : 1.0), 0.0, 1.0)
+                       : 0.0;
         // Modes 1 to 3 leave one channel to be calculated from the other two.
         if (m_mode >= 1 && m_mode <= 3) {
             const int calculated = m_mode == 1 ? 2 : m_mode == 2 ? 1 : 0;
@@ -105,7 +105,12 @@ public:
     }
 
 private:
-    enum class Kind { Fixed, RGB, Ramp };
+    enum class Kind
+    {
+        Fixed,
+        RGB,
+        Ramp
+    };
     Kind m_kind = Kind::Fixed;
     int m_mode = 0;
     double m_min = 0.0;
@@ -309,8 +314,7 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
                 for (long i = 0; i < n; ++i)
                     if (at(i, q)) {
                         const QRgb c = meshColour.at(i);
-                        groups[size_t(((qRed(c) >> 4) << 8) | ((qGreen(c) >> 4) << 4) | (qBlue(c) >> 4))]
-                            .push_back(q);
+                        groups[size_t(((qRed(c) >> 4) << 8) | ((qGreen(c) >> 4) << 4) | (qBlue(c) >> 4))].push_back(q);
                     }
                 for (size_t g = 0; g < groups.size(); ++g)
                     if (!groups[g].empty()) {

@@ -46,16 +46,14 @@ void PlotView::paintEvent(QPaintEvent*)
     if (m_stale || m_picture.size() != pixels) {
         m_picture = QImage(pixels, QImage::Format_RGB32);
         m_picture.setDevicePixelRatio(1.0);
-        try
-        {
+        try {
             render(m_picture);
-        }
-        catch (const std::exception& e)
-        {
+        } catch (const std::exception& e) {
             // Nothing may escape into Qt's event loop; the picture says what went wrong.
             m_picture.fill(Qt::white);
-            QPainter(&m_picture).drawText(m_picture.rect(), Qt::AlignCenter,
-                                          tr("The plot cannot be drawn: %1").arg(QString::fromUtf8(e.what())));
+            QPainter(&m_picture)
+                .drawText(m_picture.rect(), Qt::AlignCenter,
+                          tr("The plot cannot be drawn: %1").arg(QString::fromUtf8(e.what())));
         }
         m_picture.setDevicePixelRatio(ratio);
         m_stale = false;

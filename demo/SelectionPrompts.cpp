@@ -94,8 +94,8 @@ AddonsVariableSelectDialog* SelectionPrompts::openAddonVariables(QWidget& parent
     instructions = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Choose the add-on's input variables."));
     source = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Source:"));
     weight = Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Weight:"));
-    return AddonsVariableSelectDialog::getInstance(parent, instructions.c_str(), source.c_str(), weight.c_str(), nullptr,
-                                                   inputs.source, inputs.weight, inputs.unused);
+    return AddonsVariableSelectDialog::getInstance(parent, instructions.c_str(), source.c_str(), weight.c_str(),
+                                                   nullptr, inputs.source, inputs.weight, inputs.unused);
 }
 
 void SelectionPrompts::driveAddonVariables(AddonsVariableSelectDialog& d)

@@ -26,8 +26,9 @@ QString yesNo(bool value)
 
 SimplePrompts::EnterTextStringDialog* SimplePrompts::openTextString(QWidget& parent)
 {
-    auto* dialog = new EnterTextStringDialog(parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
-                                             QCoreApplication::translate("DialogCatalog", "Frame 1"), "", false);
+    auto* dialog =
+        new EnterTextStringDialog(parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
+                                  QCoreApplication::translate("DialogCatalog", "Frame 1"), "", false);
     dialog->setModal(true); // the host runs this prompt modally; it sets no modality itself
     return dialog;
 }
@@ -44,10 +45,11 @@ QString SimplePrompts::textStringAnswers(EnterTextStringDialog& d)
 
 SimplePrompts::EnterThreeIntValuesDialog* SimplePrompts::openThreeInts(QWidget& parent)
 {
-    return EnterThreeIntValuesDialog::getInstance(parent, 1, 100, 1, Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
-                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
-                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
-                                                  Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
+    return EnterThreeIntValuesDialog::getInstance(
+        parent, 1, 100, 1, Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+        Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
+        Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
+        Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
 }
 
 void SimplePrompts::driveThreeInts(EnterThreeIntValuesDialog& d)
@@ -59,7 +61,10 @@ void SimplePrompts::driveThreeInts(EnterThreeIntValuesDialog& d)
 
 QString SimplePrompts::threeIntsAnswers(EnterThreeIntValuesDialog& d)
 {
-    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "values = %1, %2, %3")).arg(d.value1()).arg(d.value2()).arg(d.value3());
+    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "values = %1, %2, %3"))
+        .arg(d.value1())
+        .arg(d.value2())
+        .arg(d.value3());
 }
 
 SimplePrompts::EnterASCIICharacterDialog* SimplePrompts::openAsciiCharacter(QWidget& parent)

@@ -17,19 +17,21 @@ using orrery::sdk::integration::StateChangeEventObservable;
 namespace {
 
 // The style values that the dialogs read or write.
-const char* const WatchedPaths[] = {
-    "FrameLayout/PlotType",          "GlobalRGB/RGBMode",        "GlobalRGB/RedChannelVar",
-    "GlobalRGB/GreenChannelVar",     "GlobalRGB/BlueChannelVar", "GlobalRGB/RangeMin",
-    "GlobalRGB/RangeMax",            "GlobalScatter/Var",        "GlobalScatter/RelativeSize",
-    "GlobalScatter/RelativeSizeInGridUnits", "TwoDAxis/XDetail/VarNum", "TwoDAxis/YDetail/VarNum",
-    "ThreeDAxis/XDetail/VarNum",     "ThreeDAxis/YDetail/VarNum", "ThreeDAxis/ZDetail/VarNum",
-    "GlobalTwoDVector/UVar",         "GlobalTwoDVector/VVar",    "GlobalThreeDVector/UVar",
-    "GlobalThreeDVector/VVar",       "GlobalThreeDVector/WVar",     "FieldLayers/ShowVector"};
+const char* const WatchedPaths[] = {"FrameLayout/PlotType",       "GlobalRGB/RGBMode",
+                                    "GlobalRGB/RedChannelVar",    "GlobalRGB/GreenChannelVar",
+                                    "GlobalRGB/BlueChannelVar",   "GlobalRGB/RangeMin",
+                                    "GlobalRGB/RangeMax",         "GlobalScatter/Var",
+                                    "GlobalScatter/RelativeSize", "GlobalScatter/RelativeSizeInGridUnits",
+                                    "TwoDAxis/XDetail/VarNum",    "TwoDAxis/YDetail/VarNum",
+                                    "ThreeDAxis/XDetail/VarNum",  "ThreeDAxis/YDetail/VarNum",
+                                    "ThreeDAxis/ZDetail/VarNum",  "GlobalTwoDVector/UVar",
+                                    "GlobalTwoDVector/VVar",      "GlobalThreeDVector/UVar",
+                                    "GlobalThreeDVector/VVar",    "GlobalThreeDVector/WVar",
+                                    "FieldLayers/ShowVector"};
 
 QString codeName(StateChange_e code)
 {
-    switch (code)
-    {
+    switch (code) {
     case StateChange_VarsAltered: return "variables altered";
     case StateChange_VarsAdded: return "variables added";
     case StateChange_ZonesDeleted: return "zones deleted";
@@ -137,12 +139,10 @@ void StateView::refreshDataSet()
     setRow(*m_dataSet, 1, tr("Zones"), QString::number(available ? OrrUtilDataSetGetNumZones() : 0));
     QStringList variables;
     const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
-    for (int var = 1; available && var <= OrrUtilDataSetGetNumVars(); ++var)
-    {
+    for (int var = 1; available && var <= OrrUtilDataSetGetNumVars(); ++var) {
         QString name = takeString(OrrUtilVarGetName(var));
         // A text column: show its categories, the first few by name.
-        if (data.hasVar(var) && !data.categories(var).empty())
-        {
+        if (data.hasVar(var) && !data.categories(var).empty()) {
             const std::vector<std::string>& categories = data.categories(var);
             QStringList shown;
             for (size_t i = 0; i < categories.size() && i < 4; ++i)
@@ -160,18 +160,14 @@ void StateView::refreshDataSet()
 void StateView::refreshStyle()
 {
     int row = 0;
-    for (const char* path : WatchedPaths)
-    {
+    for (const char* path : WatchedPaths) {
         QString value;
-        try
-        {
+        try {
             orrery::toolbox::StringList names;
             for (const QString& name : QString(path).split('/'))
                 names.append(name.toStdString());
             value = toText(KernelDriver::styleValue(names));
-        }
-        catch (const std::exception& e)
-        {
+        } catch (const std::exception& e) {
             value = tr("(unreadable: %1)").arg(e.what());
         }
         setRow(*m_style, row++, path, value);

@@ -46,7 +46,8 @@ void StylePrompts::driveScatterSizeFont(ScatterSizeFontDialog& d)
 
 QString StylePrompts::scatterSizeFontAnswers(ScatterSizeFontDialog& d)
 {
-    return Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4"))
+    return Translations::text(
+               QT_TRANSLATE_NOOP("DialogCatalog", "%1: variable = %2, cm/magnitude = %3, grid units/magnitude = %4"))
         .arg(d.windowTitle(), d.findChild<QComboBox*>("scatterSizeFont_SizeVaiable_ComboBox")->currentText(),
              d.findChild<QLineEdit*>("scatterSizeFont_SizeCm_1Text")->text(),
              d.findChild<QLineEdit*>("scatterSizeFont_SizeGrid_1Text")->text());

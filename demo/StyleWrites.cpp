@@ -33,8 +33,7 @@ QString StyleWrites::valueAt(const QString& path)
     orrery::toolbox::StringList names;
     for (const QString& name : path.split('/'))
         names.append(name.toStdString());
-    try
-    {
+    try {
         return std::visit(
             [](const auto& value) {
                 std::ostringstream text;
@@ -42,9 +41,7 @@ QString StyleWrites::valueAt(const QString& path)
                 return QString::fromStdString(text.str());
             },
             orrery::kernel::KernelDriver::styleValue(names));
-    }
-    catch (const std::exception&)
-    {
+    } catch (const std::exception&) {
         return "?";
     }
 }

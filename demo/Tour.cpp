@@ -61,8 +61,7 @@ bool Tour::loadFile(MainWindow& window, const QString& path)
             return;
         settle();
         auto* list = chooser->findChild<QListView*>("LoadersList");
-        for (int row = 0; !chooser->selectedLoader() && row < list->model()->rowCount(); ++row)
-        {
+        for (int row = 0; !chooser->selectedLoader() && row < list->model()->rowCount(); ++row) {
             DemoUser::selectRow(*list, list->model()->index(row, 0).data().toString());
             settle();
         }
@@ -77,8 +76,7 @@ bool Tour::loadFile(MainWindow& window, const QString& path)
 
 int Tour::run(MainWindow& window, const QString& screenshotDir)
 {
-    if (!QDir().mkpath(screenshotDir))
-    {
+    if (!QDir().mkpath(screenshotDir)) {
         std::fprintf(stderr, "Cannot create %s\n", qPrintable(screenshotDir));
         return 1;
     }
@@ -87,16 +85,14 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     settle();
     bool allSaved = savePlot(window.plot(), dir.filePath("plot-start.png"));
     bool allFit = true;
-    for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
-    {
+    for (const DialogCatalog::Entry& entry : DialogCatalog::entries()) {
         std::printf("%s\n", qPrintable(entry.name));
         const QString line = window.runDialog(entry, [&](DialogCatalog::Dialog& dialog) {
             settle();
             entry.drive(dialog);
             settle();
             allSaved &= save(dialog, dir.filePath(fileNameFor(entry.name)));
-            for (const QString& clipped : TextFit::clippedTexts(dialog))
-            {
+            for (const QString& clipped : TextFit::clippedTexts(dialog)) {
                 std::fprintf(stderr, "%s: text cut off: %s\n", qPrintable(entry.name), qPrintable(clipped));
                 allFit = false;
             }

@@ -47,8 +47,7 @@ QStringList Translations::install(QCoreApplication& app, const QString& language
     QStringList problems;
     auto* own = new QTranslator(&app);
     const QString file = directory + "/orrery_" + wanted + ".qm";
-    if (!own->load(file))
-    {
+    if (!own->load(file)) {
         delete own;
         // A system locale we have no translation for is normal: stay quiet.
         if (!followSystem)
@@ -60,8 +59,7 @@ QStringList Translations::install(QCoreApplication& app, const QString& language
     auto* qt = new QTranslator(&app);
     if (qt->load("qtbase_" + wanted, qtTranslationsPath()))
         QCoreApplication::installTranslator(qt);
-    else
-    {
+    else {
         delete qt;
         problems << QString("Qt's own translation qtbase_%1.qm is not installed in %2; standard buttons stay English")
                         .arg(wanted, qtTranslationsPath());

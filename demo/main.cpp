@@ -36,18 +36,15 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
 
     const QStringList files = parser.positionalArguments();
-    if (files.size() > 1)
-    {
+    if (files.size() > 1) {
         std::fprintf(stderr, "orrery-demo: give at most one data file.\n");
         return 2;
     }
     long type = 0;
-    if (parser.isSet(plotType))
-    {
+    if (parser.isSet(plotType)) {
         bool number = false;
         type = parser.value(plotType).toLong(&number);
-        if (!number || type < 1 || type > 3)
-        {
+        if (!number || type < 1 || type > 3) {
             std::fprintf(stderr, "orrery-demo: --plot-type takes 1 (3D), 2 (2D) or 3 (XY line).\n");
             return 2;
         }
@@ -62,8 +59,7 @@ int main(int argc, char** argv)
         && touring)
         return 1;
     std::string error;
-    if (type && !HostStyle::setInteger("FrameLayout/PlotType", type, &error))
-    {
+    if (type && !HostStyle::setInteger("FrameLayout/PlotType", type, &error)) {
         std::fprintf(stderr, "orrery-demo: %s\n", error.c_str());
         if (touring)
             return 1;

@@ -14,7 +14,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT ButtonBinding : public BindingInterface
 {
 public:
-    ButtonBinding(QAbstractButton& button, const boost::function<void ()>& action);
+    ButtonBinding(QAbstractButton& button, const boost::function<void()>& action);
     ~ButtonBinding() override;
 
     void updateWidget() override {}
@@ -22,7 +22,7 @@ public:
     void updateSensitivity() override {}
 
 private:
-    boost::function<void ()> m_action;
+    boost::function<void()> m_action;
     QMetaObject::Connection m_connection;
 };
 

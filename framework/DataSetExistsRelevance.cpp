@@ -4,8 +4,8 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-DataSetExistsRelevance::DataSetExistsRelevance() : StateChangeDependentRelevance([] { return OrrUtilDataSetIsAvailable(); })
-{
-}
+DataSetExistsRelevance::DataSetExistsRelevance()
+    : StateChangeDependentRelevance([] { return OrrUtilDataSetIsAvailable(); })
+{}
 
 } // namespace orrery::sdk::ui::propertymanager

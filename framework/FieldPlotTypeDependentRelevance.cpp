@@ -9,7 +9,6 @@ FieldPlotTypeDependentRelevance::FieldPlotTypeDependentRelevance()
           const PlotType_e plotType = OrrUtilFrameGetPlotType();
           return plotType == PlotType_ThreeD || plotType == PlotType_TwoD;
       })
-{
-}
+{}
 
 } // namespace orrery::sdk::ui::propertymanager

@@ -4,8 +4,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-FontComboBoxPropertyBinding::FontComboBoxPropertyBinding(QFontComboBox& combo,
-                                                         const boost::shared_ptr<PropertyAbstract<std::string>>& property)
+FontComboBoxPropertyBinding::FontComboBoxPropertyBinding(
+    QFontComboBox& combo, const boost::shared_ptr<PropertyAbstract<std::string>>& property)
     : UIPropertyBindingAbstract<std::string>(property, BindingInterface::WidgetUpdateMode_OnIdle), m_combo(combo),
       m_observable(new qwidgetobservable::QComboBoxObservable(&combo))
 {
@@ -14,7 +14,10 @@ FontComboBoxPropertyBinding::FontComboBoxPropertyBinding(QFontComboBox& combo,
     m_observable->addListener(this);
 }
 
-FontComboBoxPropertyBinding::~FontComboBoxPropertyBinding() { m_observable->removeListener(this); }
+FontComboBoxPropertyBinding::~FontComboBoxPropertyBinding()
+{
+    m_observable->removeListener(this);
+}
 
 void FontComboBoxPropertyBinding::updateWidget()
 {
@@ -26,9 +29,15 @@ void FontComboBoxPropertyBinding::updateWidget()
         m_combo.setEditText(family);
 }
 
-void FontComboBoxPropertyBinding::updateVisibility() { m_combo.setVisible(isPropertyVisible()); }
+void FontComboBoxPropertyBinding::updateVisibility()
+{
+    m_combo.setVisible(isPropertyVisible());
+}
 
-void FontComboBoxPropertyBinding::updateSensitivity() { m_combo.setEnabled(isPropertySensitive()); }
+void FontComboBoxPropertyBinding::updateSensitivity()
+{
+    m_combo.setEnabled(isPropertySensitive());
+}
 
 void FontComboBoxPropertyBinding::currentIndexChanged(int index, qwidgetobservable::QComboBoxObservable&)
 {

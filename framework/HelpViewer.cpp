@@ -50,8 +50,8 @@ void HelpViewer::open(const QString& page)
     if (m_found)
         m_browser->setSource(QUrl("qrc:/help/" + page));
     else
-        m_browser->setHtml(tr("<h3>Help not available</h3><p>No help page named \"%1\" is installed.</p>")
-                               .arg(page.toHtmlEscaped()));
+        m_browser->setHtml(
+            tr("<h3>Help not available</h3><p>No help page named \"%1\" is installed.</p>").arg(page.toHtmlEscaped()));
     setWindowTitle(m_found ? m_browser->documentTitle() : tr("Help"));
 }
 

@@ -11,6 +11,9 @@ InvertingRelevance::InvertingRelevance(const boost::shared_ptr<const RelevanceIn
 
 InvertingRelevance::~InvertingRelevance() = default;
 
-bool InvertingRelevance::isRelevant() const { return !m_inverted->isRelevant(); }
+bool InvertingRelevance::isRelevant() const
+{
+    return !m_inverted->isRelevant();
+}
 
 } // namespace orrery::sdk::ui::propertymanager

@@ -9,7 +9,6 @@ LinePlotTypeDependentRelevance::LinePlotTypeDependentRelevance()
           const PlotType_e plotType = OrrUtilFrameGetPlotType();
           return plotType == PlotType_XYLine || plotType == PlotType_PolarLine;
       })
-{
-}
+{}
 
 } // namespace orrery::sdk::ui::propertymanager

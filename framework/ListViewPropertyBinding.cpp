@@ -17,6 +17,9 @@ void ListViewPropertyBinding::setSelectionMode(QAbstractItemView::SelectionMode 
     m_view.setSelectionMode(mode);
 }
 
-void ListViewPropertyBinding::updateWidget() { m_synchronizer->updateWidgetFromProperty(); }
+void ListViewPropertyBinding::updateWidget()
+{
+    m_synchronizer->updateWidgetFromProperty();
+}
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -25,8 +25,7 @@ public:
                             BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle)
         : m_view(view),
           m_synchronizer(new ListViewPropertySynchronizer<typename Property::ValueType>(view, property, rows, mode))
-    {
-    }
+    {}
     ~ListViewPropertyBinding() override;
 
     void init(BindingInterface::ModelUpdateMode mode);

@@ -5,7 +5,7 @@
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
 OnIdleAfterStateChangeActionPerformer::OnIdleAfterStateChangeActionPerformer(const Predicate& predicate,
-                                                                             const boost::function<void ()>& action)
+                                                                             const boost::function<void()>& action)
     : m_predicate(predicate), m_performer(action)
 {
     m_stateChanges = integration::StateChangeEventObservable::getInstance().signal().connect(

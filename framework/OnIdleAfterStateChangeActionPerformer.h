@@ -13,9 +13,9 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT OnIdleAfterStateChangeActionPerformer
 {
 public:
-    typedef boost::function<bool (const integration::StateChangeEventInterface&)> Predicate;
+    typedef boost::function<bool(const integration::StateChangeEventInterface&)> Predicate;
 
-    OnIdleAfterStateChangeActionPerformer(const Predicate& predicate, const boost::function<void ()>& action);
+    OnIdleAfterStateChangeActionPerformer(const Predicate& predicate, const boost::function<void()>& action);
     ~OnIdleAfterStateChangeActionPerformer();
 
 private:

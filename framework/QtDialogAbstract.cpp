@@ -46,16 +46,14 @@ bool QtDialogAbstract::isRelevant() const
 
 void QtDialogAbstract::launch()
 {
-    if (!isRelevant())
-    {
+    if (!isRelevant()) {
         setResult(Rejected);
         return;
     }
     applyRelevance();
     if (isModal())
         exec();
-    else
-    {
+    else {
         show();
         raise();
         activateWindow();
@@ -144,10 +142,8 @@ void QtDialogAbstract::applyRelevance()
 
 void QtDialogAbstract::wireButtonBoxes()
 {
-    for (QDialogButtonBox* box : findChildren<QDialogButtonBox*>())
-    {
-        if (!box->property(WiredMarker).toBool())
-        {
+    for (QDialogButtonBox* box : findChildren<QDialogButtonBox*>()) {
+        if (!box->property(WiredMarker).toBool()) {
             box->setProperty(WiredMarker, true);
             // A layout that connected its buttons itself keeps its own wiring.
             if (!isConnected(*box, &QDialogButtonBox::accepted))

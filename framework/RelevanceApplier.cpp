@@ -6,8 +6,8 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 RelevanceApplier::RelevanceApplier(const boost::shared_ptr<const propertymanager::RelevanceInterface>& relevance,
                                    const std::vector<QWidget*>& widgets, Manifestation_e manifestation,
                                    BindingInterface::WidgetUpdateMode_e mode)
-    : m_relevance(requireNonNull(relevance, "The relevance to apply")), m_widgets(widgets.begin(), widgets.end()), m_manifestation(manifestation), m_mode(mode),
-      m_idleApplier([this] { apply(); })
+    : m_relevance(requireNonNull(relevance, "The relevance to apply")), m_widgets(widgets.begin(), widgets.end()),
+      m_manifestation(manifestation), m_mode(mode), m_idleApplier([this] { apply(); })
 {
     m_connection = relevance->connectToRelevanceChangedSignal([this] { relevanceChanged(); });
     apply();

@@ -22,7 +22,11 @@ public:
     bool isRelevant() const override;
 
 private:
-    enum Operator_e { Operator_And, Operator_Or };
+    enum Operator_e
+    {
+        Operator_And,
+        Operator_Or
+    };
     struct Term
     {
         Operator_e op;

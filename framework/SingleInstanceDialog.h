@@ -24,8 +24,7 @@ protected:
     ~SingleInstanceDialog()
     {
         // A dialog constructed directly, beside the live one, must not unregister it.
-        if (m_registered == this)
-        {
+        if (m_registered == this) {
             m_registered = nullptr;
             m_dialogInstance = nullptr;
         }
@@ -35,8 +34,7 @@ protected:
     template <typename... Args>
     static D* obtain(Args&&... args)
     {
-        if (!m_dialogInstance)
-        {
+        if (!m_dialogInstance) {
             D* dialog = new D(std::forward<Args>(args)...);
             m_registered = dialog;
             m_dialogInstance = dialog;

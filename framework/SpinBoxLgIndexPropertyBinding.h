@@ -10,8 +10,9 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT SpinBoxLgIndexPropertyBinding : public SpinBoxPropertyBindingAbstract<long, QSpinBox, int>
 {
 public:
-    SpinBoxLgIndexPropertyBinding(QSpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<long>>& property,
-                                  BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle);
+    SpinBoxLgIndexPropertyBinding(
+        QSpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<long>>& property,
+        BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle);
 
 private:
     int toShown(const long& value) const override;

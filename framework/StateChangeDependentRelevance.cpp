@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-StateChangeDependentRelevance::StateChangeDependentRelevance(const boost::function<bool ()>& predicate)
+StateChangeDependentRelevance::StateChangeDependentRelevance(const boost::function<bool()>& predicate)
     : m_predicate(predicate)
 {
     m_stateChanges = integration::StateChangeEventObservable::getInstance().signal().connect(
@@ -13,6 +13,9 @@ StateChangeDependentRelevance::StateChangeDependentRelevance(const boost::functi
 
 StateChangeDependentRelevance::~StateChangeDependentRelevance() = default;
 
-bool StateChangeDependentRelevance::isRelevant() const { return m_predicate(); }
+bool StateChangeDependentRelevance::isRelevant() const
+{
+    return m_predicate();
+}
 
 } // namespace orrery::sdk::ui::propertymanager

@@ -11,13 +11,13 @@ namespace orrery::sdk::ui::propertymanager {
 class ORRERY_FRAMEWORK_EXPORT StateChangeDependentRelevance : public virtual RelevanceInterface
 {
 public:
-    explicit StateChangeDependentRelevance(const boost::function<bool ()>& predicate);
+    explicit StateChangeDependentRelevance(const boost::function<bool()>& predicate);
     ~StateChangeDependentRelevance() override;
 
     bool isRelevant() const override;
 
 private:
-    boost::function<bool ()> m_predicate;
+    boost::function<bool()> m_predicate;
     boost::signals2::scoped_connection m_stateChanges;
 };
 

@@ -16,7 +16,10 @@ UIKernelStylePropertiesAbstract::UIKernelStylePropertiesAbstract(UIKernelStylePr
 
 UIKernelStylePropertiesAbstract::~UIKernelStylePropertiesAbstract() = default;
 
-void UIKernelStylePropertiesAbstract::init() { m_initialized(); }
+void UIKernelStylePropertiesAbstract::init()
+{
+    m_initialized();
+}
 
 void UIKernelStylePropertiesAbstract::submit()
 {
@@ -35,7 +38,10 @@ void UIKernelStylePropertiesAbstract::setCollectionOffset(const int& offset)
 
 void UIKernelStylePropertiesAbstract::setOffset(int, int) {}
 
-void UIKernelStylePropertiesAbstract::parentSubmitted() { submit(); }
+void UIKernelStylePropertiesAbstract::parentSubmitted()
+{
+    submit();
+}
 
 } // namespace propertymanager
 } // namespace ui

@@ -12,7 +12,7 @@ namespace propertymanager {
 class ORRERY_FRAMEWORK_EXPORT UIKernelStylePropertiesInterface
 {
 public:
-    typedef boost::signals2::signal<void ()> Signal;
+    typedef boost::signals2::signal<void()> Signal;
 
     virtual ~UIKernelStylePropertiesInterface() = default;
     virtual void init() = 0;

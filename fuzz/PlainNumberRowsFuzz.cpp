@@ -24,7 +24,7 @@ std::vector<std::string_view> cellsOf(std::string_view line, char delimiter)
 {
     std::vector<std::string_view> cells;
     if (delimiter) {
-        for (size_t start = 0;; ) {
+        for (size_t start = 0;;) {
             const size_t stop = line.find(delimiter, start);
             cells.push_back(line.substr(start, stop == std::string_view::npos ? std::string_view::npos : stop - start));
             if (stop == std::string_view::npos)

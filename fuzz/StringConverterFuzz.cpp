@@ -52,12 +52,12 @@ bool parseInteger(const std::string& text, T& value)
         magnitude = magnitude * 10 + digit;
     }
     const unsigned long long largest = negative
-        ? static_cast<unsigned long long>(-(std::numeric_limits<T>::min() + 1)) + 1
-        : static_cast<unsigned long long>(std::numeric_limits<T>::max());
+                                           ? static_cast<unsigned long long>(-(std::numeric_limits<T>::min() + 1)) + 1
+                                           : static_cast<unsigned long long>(std::numeric_limits<T>::max());
     if (magnitude > largest)
         return false;
-    const long long signedValue =
-        negative ? (magnitude == 0 ? 0 : -static_cast<long long>(magnitude - 1) - 1) : static_cast<long long>(magnitude);
+    const long long signedValue = negative ? (magnitude == 0 ? 0 : -static_cast<long long>(magnitude - 1) - 1)
+                                           : static_cast<long long>(magnitude);
     value = static_cast<T>(signedValue);
     return true;
 }

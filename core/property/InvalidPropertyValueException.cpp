@@ -2,10 +2,8 @@
 
 namespace orrery {
 
-InvalidPropertyValueException::InvalidPropertyValueException(const std::string& message)
-    : ExceptionBase(message, true)
-{
-}
+InvalidPropertyValueException::InvalidPropertyValueException(const std::string& message) : ExceptionBase(message, true)
+{}
 
 InvalidPropertyValueException::~InvalidPropertyValueException() = default;
 

@@ -18,7 +18,7 @@ class PropertyAbstract : public PropertyItemInterface
 {
 public:
     typedef T ValueType;
-    typedef boost::signals2::signal<void (const T&)> ValueChangedSignal;
+    typedef boost::signals2::signal<void(const T&)> ValueChangedSignal;
 
     PropertyAbstract() : m_validator(boost::make_shared<AllowAnyValueValidator<T>>()) { forwardToUntypedSignal(); }
     PropertyAbstract(const PropertyAbstract&) = delete;

@@ -17,10 +17,7 @@ struct ValueEquality
 template <>
 struct ValueEquality<double>
 {
-    static bool equal(double a, double b)
-    {
-        return !(a < b) && !(a > b) && !std::isnan(a) && !std::isnan(b);
-    }
+    static bool equal(double a, double b) { return !(a < b) && !(a > b) && !std::isnan(a) && !std::isnan(b); }
 };
 
 // Same elements in the same order, compared as one block of memory.

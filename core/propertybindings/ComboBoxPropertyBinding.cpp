@@ -13,8 +13,8 @@ template <typename T>
 ComboBoxPropertyBinding<T>::ComboBoxPropertyBinding(QComboBox& combo,
                                                     const boost::shared_ptr<PropertyAbstract<T>>& property,
                                                     const ListModelPtr& rows, BindingInterface::ModelUpdateMode mode)
-    : UIPropertyBindingAbstract<T>(property, BindingInterface::WidgetUpdateMode_OnIdle), m_combo(&combo),
-      m_rows(rows), m_listener(*this)
+    : UIPropertyBindingAbstract<T>(property, BindingInterface::WidgetUpdateMode_OnIdle), m_combo(&combo), m_rows(rows),
+      m_listener(*this)
 {
     init(mode);
 }

@@ -63,8 +63,7 @@ LineEditPropertyBindingAbstract<T>::LineEditPropertyBindingAbstract(
     : UIPropertyBindingAbstract<T>(property, mode),
       m_observable(new qwidgetobservable::QTextFieldObservable(*field, [this] { return editingFinished(); })),
       m_field(field)
-{
-}
+{}
 
 template <typename T>
 bool LineEditPropertyBindingAbstract<T>::editingFinished()

@@ -206,7 +206,8 @@ QItemSelection ListViewPropertySynchronizer<C>::rangesOf(const std::vector<int>&
         size_t last = first;
         while (last + 1 < sortedRows.size() && sortedRows[last + 1] == sortedRows[last] + 1)
             ++last;
-        ranges.append(QItemSelectionRange(m_qtModel->index(sortedRows[first], 0), m_qtModel->index(sortedRows[last], 0)));
+        ranges.append(
+            QItemSelectionRange(m_qtModel->index(sortedRows[first], 0), m_qtModel->index(sortedRows[last], 0)));
         first = last + 1;
     }
     return ranges;

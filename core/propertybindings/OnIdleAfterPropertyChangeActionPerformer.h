@@ -13,7 +13,7 @@ class ORRERY_CORE_EXPORT OnIdleAfterPropertyChangeActionPerformer
 {
 public:
     template <typename T>
-    OnIdleAfterPropertyChangeActionPerformer(const PropertyAbstract<T>& property, const boost::function<void ()>& action)
+    OnIdleAfterPropertyChangeActionPerformer(const PropertyAbstract<T>& property, const boost::function<void()>& action)
         : m_performer(action)
     {
         m_connections.add(property.connectToValueChangedSignal([this](const T&) { valueChanged(); }));

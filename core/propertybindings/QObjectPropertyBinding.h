@@ -15,13 +15,11 @@ class QObjectPropertyBinding : public QObject, public virtual BindingInterface
 public:
     QObjectPropertyBinding(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
-    {
-    }
+    {}
     // The properties manager owns a style property; it must outlive the binding.
     QObjectPropertyBinding(typename UIPropertyBindingAbstract<T>::StyleProperty& property, WidgetUpdateMode_e mode)
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
-    {
-    }
+    {}
 
 protected:
     PropertyAbstract<T>& property() const { return m_updater->boundProperty(); }
@@ -39,13 +37,11 @@ private:
         PropertyBindingUpdater(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode,
                                QObjectPropertyBinding& owner)
             : UIPropertyBindingAbstract<T>(property, mode), m_owner(owner)
-        {
-        }
+        {}
         PropertyBindingUpdater(typename UIPropertyBindingAbstract<T>::StyleProperty& property, WidgetUpdateMode_e mode,
                                QObjectPropertyBinding& owner)
             : UIPropertyBindingAbstract<T>(property, mode), m_owner(owner)
-        {
-        }
+        {}
         void updateWidget() override { m_owner.updateWidget(); }
         void updateVisibility() override { m_owner.updateVisibility(); }
         void updateSensitivity() override { m_owner.updateSensitivity(); }

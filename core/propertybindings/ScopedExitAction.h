@@ -9,7 +9,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_CORE_EXPORT ScopedExitAction
 {
 public:
-    explicit ScopedExitAction(std::function<void ()> action) : m_action(std::move(action)) {}
+    explicit ScopedExitAction(std::function<void()> action) : m_action(std::move(action)) {}
     ScopedExitAction(const ScopedExitAction&) = delete;
     ScopedExitAction& operator=(const ScopedExitAction&) = delete;
     ~ScopedExitAction()
@@ -25,14 +25,14 @@ public:
     }
 
     // Raises the flag now; the returned action lowers it again.
-    static std::function<void ()> raiseUntilExit(bool& flag)
+    static std::function<void()> raiseUntilExit(bool& flag)
     {
         flag = true;
         return std::bind(&ScopedExitAction::setObjectValue<bool, bool>, std::ref(flag), false);
     }
 
 private:
-    std::function<void ()> m_action;
+    std::function<void()> m_action;
 };
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings

@@ -8,7 +8,8 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 template <typename T>
 TextFieldPropertyBinding<T>::TextFieldPropertyBinding(QLineEdit* field,
                                                       const boost::shared_ptr<PropertyAbstract<T>>& property,
-                                                      BindingInterface::WidgetUpdateMode_e mode, CursorPosition_e cursor)
+                                                      BindingInterface::WidgetUpdateMode_e mode,
+                                                      CursorPosition_e cursor)
     : LineEditPropertyBindingAbstract<T>(field, property, mode), m_format("%1%"), m_cursor(cursor)
 {
     LineEditPropertyBindingAbstract<T>::ValidationInstaller::install(*field);

@@ -22,16 +22,15 @@ public:
     typedef propertymanager::UIStylePropertyAbstract<T> StyleProperty;
 
     UIPropertyBindingAbstract(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
-        : m_mode(mode), m_styleProperty(nullptr), m_property(*requireNonNull(property, "The property of a binding")), m_propertyKeeper(property),
-          m_valueUpdater([this] { updateWidget(); })
+        : m_mode(mode), m_styleProperty(nullptr), m_property(*requireNonNull(property, "The property of a binding")),
+          m_propertyKeeper(property), m_valueUpdater([this] { updateWidget(); })
     {
         startListeningToProperty();
     }
 
     // The properties manager owns a style property; it must outlive the binding.
     UIPropertyBindingAbstract(StyleProperty& property, WidgetUpdateMode_e mode)
-        : m_mode(mode), m_styleProperty(&property), m_property(property),
-          m_valueUpdater([this] { updateWidget(); })
+        : m_mode(mode), m_styleProperty(&property), m_property(property), m_valueUpdater([this] { updateWidget(); })
     {
         startListeningToProperty();
     }

@@ -92,7 +92,7 @@ private:
         {
             array.append(p.m_styleValue.macroIDs());
             p.m_styleValue.initMacroIDsfromStyleValueNames(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                                                          nullptr, array);
+                                                           nullptr, array);
             array.push_back(-1);
         }
         long storage[8];

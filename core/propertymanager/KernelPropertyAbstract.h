@@ -9,8 +9,7 @@ namespace styleproperties {
 // A property whose value lives in the kernel's style state.
 template <typename T>
 class KernelPropertyAbstract : public virtual PropertyAbstract<T>, public KernelPropertyHandle
-{
-};
+{};
 
 } // namespace styleproperties
 } // namespace sdk

@@ -11,8 +11,7 @@ template <typename T>
 class KernelPropertyDeferred : public KernelPropertyAbstract<T>
 {
 public:
-    explicit KernelPropertyDeferred(const toolbox::StyleValue& styleValue)
-        : m_kernelProperty(styleValue)
+    explicit KernelPropertyDeferred(const toolbox::StyleValue& styleValue) : m_kernelProperty(styleValue)
     {
         m_pending = m_kernelProperty.retrieveValue();
     }

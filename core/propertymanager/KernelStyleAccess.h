@@ -50,16 +50,13 @@ struct KernelFinalValueAccess
 
 template <>
 struct KernelStyleAccess<double> : KernelFinalValueAccess<double>
-{
-};
+{};
 template <>
 struct KernelStyleAccess<bool> : KernelFinalValueAccess<bool>
-{
-};
+{};
 template <>
 struct KernelStyleAccess<std::string> : KernelFinalValueAccess<std::string>
-{
-};
+{};
 
 // Whether a value read from the kernel is the one already cached. Unlike the
 // change test of setValue, two NaNs count as the same here: otherwise a NaN in

@@ -7,7 +7,7 @@ namespace ui {
 namespace propertymanager {
 
 PropertyPredicateDependentRelevance::PropertyPredicateDependentRelevance(
-    const boost::shared_ptr<const PropertyItemInterface>& property, const boost::function<bool ()>& predicate)
+    const boost::shared_ptr<const PropertyItemInterface>& property, const boost::function<bool()>& predicate)
     : m_predicate(predicate)
 {
     requireNonNull(property, "The property of a relevance");
@@ -18,7 +18,10 @@ PropertyPredicateDependentRelevance::PropertyPredicateDependentRelevance(
 
 PropertyPredicateDependentRelevance::~PropertyPredicateDependentRelevance() = default;
 
-bool PropertyPredicateDependentRelevance::isRelevant() const { return m_predicate(); }
+bool PropertyPredicateDependentRelevance::isRelevant() const
+{
+    return m_predicate();
+}
 
 } // namespace propertymanager
 } // namespace ui

@@ -16,13 +16,13 @@ class ORRERY_CORE_EXPORT PropertyPredicateDependentRelevance : public virtual Re
 {
 public:
     PropertyPredicateDependentRelevance(const boost::shared_ptr<const PropertyItemInterface>& property,
-                                        const boost::function<bool ()>& predicate);
+                                        const boost::function<bool()>& predicate);
     ~PropertyPredicateDependentRelevance() override;
 
     bool isRelevant() const override;
 
 private:
-    boost::function<bool ()> m_predicate;
+    boost::function<bool()> m_predicate;
     SignalConnectionCollection m_connections;
 };
 

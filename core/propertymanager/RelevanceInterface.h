@@ -12,7 +12,7 @@ namespace propertymanager {
 class ORRERY_CORE_EXPORT RelevanceInterface
 {
 public:
-    typedef boost::signals2::signal<void ()> RelevanceChangedSignal;
+    typedef boost::signals2::signal<void()> RelevanceChangedSignal;
 
     virtual bool isRelevant() const = 0;
     virtual void signalRelevanceChangedConnected() const {}

@@ -16,7 +16,7 @@ template <typename T>
 class UIStylePropertyAbstract : public virtual PropertyAbstract<T>
 {
 public:
-    typedef boost::signals2::signal<void ()> RelevanceSignal;
+    typedef boost::signals2::signal<void()> RelevanceSignal;
     typedef boost::shared_ptr<const RelevanceInterface> RelevancePtr;
 
     bool isVisible() const { return !m_visibility || m_visibility->isRelevant(); }
@@ -41,8 +41,8 @@ public:
     }
 
 private:
-    static void relay(const RelevancePtr& relevance, RelevancePtr& kept, boost::signals2::scoped_connection& relayConnection,
-                      RelevanceSignal& changed)
+    static void relay(const RelevancePtr& relevance, RelevancePtr& kept,
+                      boost::signals2::scoped_connection& relayConnection, RelevanceSignal& changed)
     {
         kept = relevance;
         relayConnection.disconnect();

@@ -16,8 +16,8 @@ namespace examples {
 IndexRange askForIndexRange(QWidget& mainWindow)
 {
     // The first call makes the dialog; later calls refresh it from the new arguments.
-    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
-        mainWindow, 1, 100, 1, "Index range", "", "&Begin", "&End", "&Skip", 1, 1, 1);
+    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(mainWindow, 1, 100, 1, "Index range", "",
+                                                                               "&Begin", "&End", "&Skip", 1, 1, 1);
     dialog->launch(); // modal: returns when the user closes it
     IndexRange range;
     range.accepted = dialog->result() == QDialog::Accepted;

@@ -5,7 +5,10 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-EnabledVariablesListModel::EnabledVariablesListModel() { refresh(); }
+EnabledVariablesListModel::EnabledVariablesListModel()
+{
+    refresh();
+}
 
 std::vector<int> EnabledVariablesListModel::fetchNumbers() const
 {

@@ -2,9 +2,15 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-void StringListWithHeadersModel::appendRow(const std::string& text) { append(text, false); }
+void StringListWithHeadersModel::appendRow(const std::string& text)
+{
+    append(text, false);
+}
 
-void StringListWithHeadersModel::appendHeaderRow(const std::string& text) { append(text, true); }
+void StringListWithHeadersModel::appendHeaderRow(const std::string& text)
+{
+    append(text, true);
+}
 
 void StringListWithHeadersModel::append(const std::string& text, bool header)
 {

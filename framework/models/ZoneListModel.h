@@ -12,7 +12,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 class ORRERY_FRAMEWORK_EXPORT ZoneListModel : public DataSetListModelAbstract
 {
 public:
-    typedef boost::function<toolbox::Set (long frameUniqueID)> ZoneSource;
+    typedef boost::function<toolbox::Set(long frameUniqueID)> ZoneSource;
 
     ZoneListModel(const ZoneSource& zones, bool numbered);
 

@@ -8,8 +8,7 @@ namespace kernel {
 
 DataSet::DataSet(const std::string& title, const std::vector<std::string>& varNames)
     : m_title(title), m_varNames(varNames), m_categories(varNames.size())
-{
-}
+{}
 
 double DataSet::missingValue()
 {

@@ -26,7 +26,7 @@ namespace kernel {
 class Journal
 {
 public:
-    typedef boost::signals2::signal<void (const std::string&)> LineSignal;
+    typedef boost::signals2::signal<void(const std::string&)> LineSignal;
 
     const std::vector<std::string>& lines() const { return m_lines; }
     void clear();

@@ -210,8 +210,8 @@ bool JournalReplayer::playStyle(const std::string& arguments, std::string& error
     const std::optional<StyleDatum> value = Journal::parse(valueText, entry->defaultValue);
     if (!value) {
         static const char* const kinds[] = {"an integer", "a number", "true or false", "a quoted text"};
-        error = key.join("/") + " takes " + kinds[entry->defaultValue.index()] + ", not " + valueText.substr(0, 40)
-                + ".";
+        error =
+            key.join("/") + " takes " + kinds[entry->defaultValue.index()] + ", not " + valueText.substr(0, 40) + ".";
         return false;
     }
     const SetValueReturnCode_e code = kernel.style().write(names, nullptr, member, AssignOp_Equals, *value);

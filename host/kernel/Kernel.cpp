@@ -136,8 +136,8 @@ Frame* Kernel::frameAt(int position)
 
 Frame* Kernel::frameByID(long uniqueID)
 {
-    const auto it = std::find_if(m_frames.begin(), m_frames.end(),
-                                 [uniqueID](const Frame& f) { return f.uniqueID() == uniqueID; });
+    const auto it =
+        std::find_if(m_frames.begin(), m_frames.end(), [uniqueID](const Frame& f) { return f.uniqueID() == uniqueID; });
     return it == m_frames.end() ? nullptr : &*it;
 }
 

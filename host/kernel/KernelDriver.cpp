@@ -81,8 +81,7 @@ int KernelDriver::styleWriteCount(const toolbox::StringList& path)
     return kernel().style().writeCount(path.join("/"));
 }
 
-SetValueReturnCode_e KernelDriver::setStyle(const toolbox::StringList& path,
-                                                 const StyleDatum& value, long member)
+SetValueReturnCode_e KernelDriver::setStyle(const toolbox::StringList& path, const StyleDatum& value, long member)
 {
     return kernel().style().write(path, nullptr, member, AssignOp_Equals, value);
 }

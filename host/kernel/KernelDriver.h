@@ -46,8 +46,7 @@ public:
 
     // A write by another part of the host, with the kernel's rules; member is the
     // collection member (-1: none). Announced like any other style write.
-    static SetValueReturnCode_e setStyle(const toolbox::StringList& path,
-                                         const StyleDatum& value, long member = -1);
+    static SetValueReturnCode_e setStyle(const toolbox::StringList& path, const StyleDatum& value, long member = -1);
     // The current value; throws std::invalid_argument for an unreadable path.
     static StyleDatum styleValue(const toolbox::StringList& path, long member = -1);
 

@@ -30,17 +30,10 @@ int MessageBoxPresenter::show(const std::string& text, int type) const
     const QString message = QString::fromStdString(text);
     const QString title = QApplication::applicationDisplayName();
     switch (type) {
-    case MessageBoxType_Question:
-        return QMessageBox::question(nullptr, title, message) == QMessageBox::Yes ? 1 : 0;
-    case MessageBoxType_Warning:
-        QMessageBox::warning(nullptr, title, message);
-        return 1;
-    case MessageBoxType_Information:
-        QMessageBox::information(nullptr, title, message);
-        return 1;
-    default:
-        QMessageBox::critical(nullptr, title, message);
-        return 1;
+    case MessageBoxType_Question: return QMessageBox::question(nullptr, title, message) == QMessageBox::Yes ? 1 : 0;
+    case MessageBoxType_Warning: QMessageBox::warning(nullptr, title, message); return 1;
+    case MessageBoxType_Information: QMessageBox::information(nullptr, title, message); return 1;
+    default: QMessageBox::critical(nullptr, title, message); return 1;
     }
 }
 

@@ -9,7 +9,7 @@ namespace kernel {
 class MessageBoxPresenter
 {
 public:
-    typedef std::function<int (const std::string& text, int type)> Handler;
+    typedef std::function<int(const std::string& text, int type)> Handler;
 
     // Returns 1 for OK/Yes and 0 for No. Without a handler and without an
     // interactive display (offscreen or minimal platform, or no application) the

@@ -145,8 +145,7 @@ double OrrUtilConvertUnits(int fromUnits, int toUnits, double value)
     return orrery::kernel::UnitConverter(yMax - yMin, heightCm).convert(fromUnits, toUnits, value);
 }
 
-void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigned char* green,
-                                     unsigned char* blue)
+void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigned char* green, unsigned char* blue)
 {
     orrery::kernel::ColorMap::rgb(colorIndex, *red, *green, *blue);
 }

@@ -122,8 +122,7 @@ WriteVerdict arithmetic(T a, AssignOp_e op, T b, StyleDatum& result)
             return WriteVerdict::refuse("Division by zero.");
         result = a / b;
         break;
-    default:
-        return {SetValue_InvalidOperator, "Unknown assignment operator " + std::to_string(op) + "."};
+    default: return {SetValue_InvalidOperator, "Unknown assignment operator " + std::to_string(op) + "."};
     }
     return WriteVerdict::accept();
 }
@@ -179,8 +178,8 @@ SetValueReturnCode_e StyleAccess::set(const toolbox::ArgList& args)
                    static_cast<AssignOp_e>(args.longOr("AssignOp", AssignOp_Equals)));
 }
 
-SetValueReturnCode_e StyleAccess::write(const toolbox::StringList& names, const toolbox::Set* members,
-                                        long first, AssignOp_e op, const StyleDatum& value)
+SetValueReturnCode_e StyleAccess::write(const toolbox::StringList& names, const toolbox::Set* members, long first,
+                                        AssignOp_e op, const StyleDatum& value)
 {
     Target target;
     WriteVerdict verdict = resolve(names, target);
@@ -189,9 +188,9 @@ SetValueReturnCode_e StyleAccess::write(const toolbox::StringList& names, const 
     return perform(names, target, verdict, value, members, first, op);
 }
 
-SetValueReturnCode_e StyleAccess::perform(const toolbox::StringList& names, const Target& target,
-                                          WriteVerdict verdict, const std::optional<StyleDatum>& value,
-                                          const toolbox::Set* set, long first, AssignOp_e op)
+SetValueReturnCode_e StyleAccess::perform(const toolbox::StringList& names, const Target& target, WriteVerdict verdict,
+                                          const std::optional<StyleDatum>& value, const toolbox::Set* set, long first,
+                                          AssignOp_e op)
 {
     ++m_writeTotal;
     ++m_writes[target.entry ? target.key : names.join("/")];
@@ -309,8 +308,9 @@ WriteVerdict StyleAccess::members(const Target& target, const toolbox::Set* set,
     for (long member : chosen)
         if (member < 1 || member > count)
             return {SetValue_InvalidOffset,
-                    (boost::format("Member %1% of %2% is out of range (the data set has %3% zones).")
-                     % member % target.key % count).str()};
+                    (boost::format("Member %1% of %2% is out of range (the data set has %3% zones).") % member
+                     % target.key % count)
+                        .str()};
     return WriteVerdict::accept();
 }
 

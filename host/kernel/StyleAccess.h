@@ -30,8 +30,8 @@ public:
     SetValueReturnCode_e set(const toolbox::ArgList& args);
 
     GetValueReturnCode_e read(const toolbox::StringList& names, long member, StyleDatum& value) const;
-    SetValueReturnCode_e write(const toolbox::StringList& names, const toolbox::Set* members,
-                               long first, AssignOp_e op, const StyleDatum& value);
+    SetValueReturnCode_e write(const toolbox::StringList& names, const toolbox::Set* members, long first, AssignOp_e op,
+                               const StyleDatum& value);
     // Puts back the values before (undoing) or after (redoing) a step.
     void restore(const UndoStack::Step& step, bool undoing);
 
@@ -51,14 +51,12 @@ private:
         const StyleEntry* entry = nullptr;
     };
 
-    SetValueReturnCode_e perform(const toolbox::StringList& names, const Target& target,
-                                 WriteVerdict verdict, const std::optional<StyleDatum>& value,
-                                 const toolbox::Set* set, long first, AssignOp_e op);
+    SetValueReturnCode_e perform(const toolbox::StringList& names, const Target& target, WriteVerdict verdict,
+                                 const std::optional<StyleDatum>& value, const toolbox::Set* set, long first,
+                                 AssignOp_e op);
     WriteVerdict resolve(const toolbox::StringList& names, Target& target) const;
-    WriteVerdict members(const Target& target, const toolbox::Set* set, long first,
-                         std::vector<long>& chosen) const;
-    WriteVerdict combine(const StyleDatum& old, AssignOp_e op, const StyleDatum& operand,
-                         StyleDatum& result) const;
+    WriteVerdict members(const Target& target, const toolbox::Set* set, long first, std::vector<long>& chosen) const;
+    WriteVerdict combine(const StyleDatum& old, AssignOp_e op, const StyleDatum& operand, StyleDatum& result) const;
     SetValueReturnCode_e finish(const WriteVerdict& verdict);
 
     Kernel& m_kernel;

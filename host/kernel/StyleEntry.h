@@ -29,18 +29,24 @@ struct RuleContext
     long member;             // collection member, 0 outside collections
 };
 
-typedef std::function<WriteVerdict (const StyleDatum&, const RuleContext&)> StyleRule;
+typedef std::function<WriteVerdict(const StyleDatum&, const RuleContext&)> StyleRule;
 
-enum class StyleType { Long, Double, Bool, String };
+enum class StyleType
+{
+    Long,
+    Double,
+    Bool,
+    String
+};
 
 // The schema's description of one style path.
 struct StyleEntry
 {
     StyleType type;
     StyleDatum defaultValue;
-    StyleRule rule;               // empty: any value of the type is accepted
-    bool perZone = false;         // a collection with one member per zone
-    bool holdsVariable = false;   // a variable number, reset when it leaves the data set
+    StyleRule rule;             // empty: any value of the type is accepted
+    bool perZone = false;       // a collection with one member per zone
+    bool holdsVariable = false; // a variable number, reset when it leaves the data set
 };
 
 } // namespace kernel

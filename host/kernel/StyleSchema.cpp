@@ -13,17 +13,15 @@ const double RGBRangeMax = 1.0;
 
 StyleSchema::StyleSchema()
 {
-    add("FrameLayout/PlotType", {StyleType::Long, long(PlotType_TwoD),
-                                 rules::withinRange("Plot type", PlotType_ThreeD, PlotType_PolarLine)});
+    add("FrameLayout/PlotType",
+        {StyleType::Long, long(PlotType_TwoD), rules::withinRange("Plot type", PlotType_ThreeD, PlotType_PolarLine)});
 
     add("GlobalRGB/RGBMode", {StyleType::Long, long(RGBMode_SpecifyRGB),
                               rules::withinRange("RGB mode", RGBMode_SpecifyRGB, RGBMode_SpecifyGB)});
     for (const char* channel : {"RedChannelVar", "GreenChannelVar", "BlueChannelVar"})
         addVariable(std::string("GlobalRGB/") + channel, 0);
-    add("GlobalRGB/RangeMin", {StyleType::Double, RGBRangeMin,
-                               rules::lessThan("GlobalRGB/RangeMax", RGBRangeMax)});
-    add("GlobalRGB/RangeMax", {StyleType::Double, RGBRangeMax,
-                               rules::greaterThan("GlobalRGB/RangeMin", RGBRangeMin)});
+    add("GlobalRGB/RangeMin", {StyleType::Double, RGBRangeMin, rules::lessThan("GlobalRGB/RangeMax", RGBRangeMax)});
+    add("GlobalRGB/RangeMax", {StyleType::Double, RGBRangeMax, rules::greaterThan("GlobalRGB/RangeMin", RGBRangeMin)});
 
     addFont("GlobalScatter");
     addFont("GlobalLinePlot");

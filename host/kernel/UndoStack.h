@@ -53,7 +53,7 @@ public:
     std::string undoName() const;
     std::string redoName() const;
     // Fired whenever the steps to undo or redo change.
-    boost::signals2::signal<void ()>& changedSignal() { return m_changed; }
+    boost::signals2::signal<void()>& changedSignal() { return m_changed; }
 
 private:
     struct Named
@@ -77,7 +77,7 @@ private:
     std::deque<Named> m_done;
     std::vector<Named> m_undone;
     size_t m_limit = DefaultLimit;
-    boost::signals2::signal<void ()> m_changed;
+    boost::signals2::signal<void()> m_changed;
 };
 
 } // namespace kernel

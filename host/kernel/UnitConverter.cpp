@@ -11,8 +11,7 @@ const double CentimetresPerPoint = 2.54 / 72.0;
 
 UnitConverter::UnitConverter(double gridExtent, double frameHeightCm)
     : m_gridExtent(gridExtent), m_frameHeightCm(frameHeightCm)
-{
-}
+{}
 
 double UnitConverter::convert(int fromUnits, int toUnits, double value) const
 {

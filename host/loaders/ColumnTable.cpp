@@ -32,9 +32,9 @@ void makeRoom(std::vector<double>& values, size_t rows)
 
 const char* const ColumnTable::NoRoomReason = "the file changed while it was being read.";
 
-ColumnTable::ColumnTable(std::vector<Kind> kinds, Options options) : m_initialKinds(std::move(kinds)), m_options(options)
-{
-}
+ColumnTable::ColumnTable(std::vector<Kind> kinds, Options options)
+    : m_initialKinds(std::move(kinds)), m_options(options)
+{}
 
 void ColumnTable::reserve(size_t rows)
 {
@@ -112,15 +112,13 @@ bool ColumnTable::add(size_t index, std::string_view text, std::string& reason)
         return false;
     }
     switch (column.kind) {
-    case Kind::Number:
-        return addNumber(column, text, reason);
+    case Kind::Number: return addNumber(column, text, reason);
     case Kind::Category:
         if (addCategory(column, text))
             return true;
         reason = NoRoomReason;
         return false;
-    case Kind::Undecided:
-        break;
+    case Kind::Undecided: break;
     }
     // The first value of a column decides what it holds.
     double value = 0;

@@ -14,7 +14,12 @@ namespace sdk {
 class ColumnTable
 {
 public:
-    enum class Kind { Undecided, Number, Category };
+    enum class Kind
+    {
+        Undecided,
+        Number,
+        Category
+    };
     struct Options
     {
         bool decimalComma = false;

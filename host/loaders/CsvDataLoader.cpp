@@ -7,7 +7,9 @@ namespace sdk {
 DataLoaderInterface::Properties CsvDataLoader::properties() const
 {
     // Shown translated in the loader chooser's context; settings keep this name.
-    return {QT_TRANSLATE_NOOP("ChooseLoader", "CSV table"), "Comma-, semicolon- or tab-separated values, with or without a header row", {"csv"}};
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "CSV table"),
+            "Comma-, semicolon- or tab-separated values, with or without a header row",
+            {"csv"}};
 }
 
 std::vector<char> CsvDataLoader::delimiters() const

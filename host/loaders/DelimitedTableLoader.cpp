@@ -109,9 +109,11 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     std::atomic<bool> cancelled{false};
     file.setBlockHook([&file, &cancelled](long long offset) {
         const long long total = file.size();
-        const long long done = total == 0 || file.end() == FileBlockReader::ToEnd ? offset : offset * total / file.end();
-        cancelled = cancelled || !LoadProgress::report(static_cast<std::uint64_t>(std::min(done, total)),
-                                                       static_cast<std::uint64_t>(total));
+        const long long done =
+            total == 0 || file.end() == FileBlockReader::ToEnd ? offset : offset * total / file.end();
+        cancelled = cancelled
+                    || !LoadProgress::report(static_cast<std::uint64_t>(std::min(done, total)),
+                                             static_cast<std::uint64_t>(total));
         return !cancelled;
     });
     ColumnTable table(layout.kinds, {layout.decimalComma, true});
@@ -164,7 +166,8 @@ bool DelimitedTableLoader::loadTable(const std::string& path, std::string& error
     for (size_t c = 0; c < columns; ++c)
         if (table.kind(c) == ColumnTable::Kind::Category) {
             data.setCategories(static_cast<int>(c + 1), table.categories(c));
-            notes += ", " + data.varName(static_cast<int>(c + 1)) + " as " + plural(table.categories(c).size(), "category", "categories");
+            notes += ", " + data.varName(static_cast<int>(c + 1)) + " as "
+                     + plural(table.categories(c).size(), "category", "categories");
         }
     if (table.missingCount() > 0)
         notes += ", " + plural(table.missingCount(), "missing value", "missing values");

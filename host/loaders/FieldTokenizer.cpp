@@ -48,8 +48,8 @@ std::string FieldTokenizer::error(const std::string& fileName, size_t linesBefor
 {
     if (!m_errorHasPlace)
         return m_error;
-    return fileName + ", line " + std::to_string(m_errorLine + linesBefore) + ", column " + std::to_string(m_errorColumn)
-           + ": " + m_error;
+    return fileName + ", line " + std::to_string(m_errorLine + linesBefore) + ", column "
+           + std::to_string(m_errorColumn) + ": " + m_error;
 }
 
 std::string_view FieldTokenizer::bufferedRecords() const

@@ -27,7 +27,12 @@ public:
         size_t line = 0;   // where the field starts, from 1
         size_t column = 0; // the field's place in its record, from 1
     };
-    enum class Step { Field, End, Failed };
+    enum class Step
+    {
+        Field,
+        End,
+        Failed
+    };
 
     static constexpr size_t MaxFieldLength = 1 << 16;
 

@@ -80,7 +80,8 @@ std::string FileBlockReader::displayName(const std::string& path)
 bool FileBlockReader::open(const std::string& path, std::string& error)
 {
     m_displayName = displayName(path);
-    struct stat status {};
+    struct stat status
+    {};
     if (::stat(path.c_str(), &status) != 0) {
         error = failure("Cannot open", errno);
         return false;
@@ -139,7 +140,8 @@ bool FileBlockReader::readAt(long long at, char* buffer, size_t capacity, size_t
 bool FileBlockReader::read(char* buffer, size_t capacity, size_t& got, std::string& error)
 {
     if (m_end != ToEnd)
-        capacity = static_cast<size_t>(std::max(0LL, std::min<long long>(static_cast<long long>(capacity), m_end - m_offset)));
+        capacity =
+            static_cast<size_t>(std::max(0LL, std::min<long long>(static_cast<long long>(capacity), m_end - m_offset)));
     got = 0;
     if (capacity > 0 && !readAt(m_offset, buffer, capacity, got, error))
         return false;

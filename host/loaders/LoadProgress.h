@@ -12,7 +12,7 @@ class LoadProgress
 {
 public:
     // done and total in bytes; returns false to cancel the load.
-    typedef std::function<bool (std::uint64_t done, std::uint64_t total)> Handler;
+    typedef std::function<bool(std::uint64_t done, std::uint64_t total)> Handler;
 
     // Returns the handler it replaces.
     static Handler setHandler(Handler handler);

@@ -92,17 +92,13 @@ std::string NumberText::explain(std::string_view text, Verdict verdict)
 {
     const std::string quoted = TextExcerpt::quoted(text);
     switch (verdict) {
-    case Verdict::NotFinite:
-        return quoted + " is not a finite number; only finite decimal numbers are read.";
-    case Verdict::Hexadecimal:
-        return quoted + " is hexadecimal; only decimal numbers are read.";
+    case Verdict::NotFinite: return quoted + " is not a finite number; only finite decimal numbers are read.";
+    case Verdict::Hexadecimal: return quoted + " is hexadecimal; only decimal numbers are read.";
     case Verdict::OutOfRange:
         return quoted + " is out of range: a value must lie within +-1.8e308 and not round to zero.";
-    case Verdict::WrongDecimalMark:
-        return quoted + " uses a decimal mark other than the file's.";
+    case Verdict::WrongDecimalMark: return quoted + " uses a decimal mark other than the file's.";
     case Verdict::NotANumber:
-    case Verdict::Number:
-        break;
+    case Verdict::Number: break;
     }
     return quoted + " is not a number.";
 }

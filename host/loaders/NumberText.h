@@ -13,7 +13,15 @@ namespace sdk {
 class NumberText
 {
 public:
-    enum class Verdict { Number, NotANumber, NotFinite, Hexadecimal, OutOfRange, WrongDecimalMark };
+    enum class Verdict
+    {
+        Number,
+        NotANumber,
+        NotFinite,
+        Hexadecimal,
+        OutOfRange,
+        WrongDecimalMark
+    };
 
     // Reads the whole text as a number; the decimal mark is ',' when
     // decimalComma is set, '.' otherwise.

@@ -78,8 +78,7 @@ bool readShortNumber(const char*& cursor, const char* end, char decimalMark, dou
 
 PlainNumberRows::PlainNumberRows(char delimiter, bool decimalComma)
     : m_delimiter(delimiter), m_decimalComma(decimalComma)
-{
-}
+{}
 
 size_t PlainNumberRows::read(std::string_view text, ColumnTable& table, size_t& records)
 {

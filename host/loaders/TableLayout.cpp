@@ -62,8 +62,8 @@ bool TableLayout::recognise(std::string_view sample, const std::vector<char>& de
         error = "cannot tell how the values are separated: tried ";
         for (size_t i = 0; i < delimiters.size(); ++i)
             error += (i == 0 ? "" : i + 1 == delimiters.size() ? " and " : ", ") + delimiterName(delimiters[i]);
-        error += "; none gives the same number of values on most of the first " + std::to_string(best.size())
-                 + " lines.";
+        error +=
+            "; none gives the same number of values on most of the first " + std::to_string(best.size()) + " lines.";
         return false;
     }
 
@@ -105,16 +105,11 @@ bool TableLayout::recognise(std::string_view sample, const std::vector<char>& de
 std::string TableLayout::delimiterName(char delimiter)
 {
     switch (delimiter) {
-    case ',':
-        return "comma";
-    case ';':
-        return "semicolon";
-    case '\t':
-        return "tab";
-    case 0:
-        return "spaces";
-    default:
-        return std::string("'") + delimiter + "'";
+    case ',': return "comma";
+    case ';': return "semicolon";
+    case '\t': return "tab";
+    case 0: return "spaces";
+    default: return std::string("'") + delimiter + "'";
     }
 }
 

@@ -15,22 +15,14 @@ std::string values(size_t count)
 } // namespace
 
 TableReader::TableReader(FileBlockReader& file, const TableLayout& layout, ColumnTable& table)
-    : m_tokenizer(file, layout.delimiter),
-      m_table(table),
-      m_plainRows(layout.delimiter, layout.decimalComma),
+    : m_tokenizer(file, layout.delimiter), m_table(table), m_plainRows(layout.delimiter, layout.decimalComma),
       m_inHeader(layout.header)
-{
-}
+{}
 
 TableReader::TableReader(FileBlockReader& file, const TableLayout& layout, ColumnTable& table, size_t columns)
-    : m_tokenizer(file, layout.delimiter, false),
-      m_table(table),
-      m_plainRows(layout.delimiter, layout.decimalComma),
-      m_inHeader(false),
-      m_allNumbers(table.allNumbers()),
-      m_columns(columns)
-{
-}
+    : m_tokenizer(file, layout.delimiter, false), m_table(table), m_plainRows(layout.delimiter, layout.decimalComma),
+      m_inHeader(false), m_allNumbers(table.allNumbers()), m_columns(columns)
+{}
 
 bool TableReader::fail(size_t line, size_t column, std::string what)
 {
@@ -65,11 +57,13 @@ bool TableReader::read(bool firstRecordOnly)
             size_t count = m_column + 1;
             while (!field.lastInRecord && m_tokenizer.next(field) == FieldTokenizer::Step::Field)
                 ++count;
-            return fail(field.line, m_columns + 1, values(count) + " where " + std::to_string(m_columns) + " were expected.");
+            return fail(field.line, m_columns + 1,
+                        values(count) + " where " + std::to_string(m_columns) + " were expected.");
         }
         if (m_inHeader) {
             if (m_headerCells.size() >= ColumnTable::MaxColumns)
-                return fail(field.line, field.column, "more than " + std::to_string(ColumnTable::MaxColumns) + " columns.");
+                return fail(field.line, field.column,
+                            "more than " + std::to_string(ColumnTable::MaxColumns) + " columns.");
             m_headerCells.emplace_back(field.text);
         } else if (!m_table.add(m_column, field.text, reason)) {
             return fail(field.line, field.column, reason);
@@ -77,7 +71,8 @@ bool TableReader::read(bool firstRecordOnly)
         ++m_column;
         if (field.lastInRecord) {
             if (m_columns && m_column < m_columns)
-                return fail(field.line, m_column + 1, values(m_column) + " where " + std::to_string(m_columns) + " were expected.");
+                return fail(field.line, m_column + 1,
+                            values(m_column) + " where " + std::to_string(m_columns) + " were expected.");
             m_columns = m_column;
             m_column = 0;
             const bool header = m_inHeader;

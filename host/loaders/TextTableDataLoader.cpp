@@ -7,7 +7,9 @@ namespace sdk {
 DataLoaderInterface::Properties TextTableDataLoader::properties() const
 {
     // Shown translated in the loader chooser's context; settings keep this name.
-    return {QT_TRANSLATE_NOOP("ChooseLoader", "Text table"), "Columns separated by spaces or tabs, with or without a header row", {"txt", "dat"}};
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "Text table"),
+            "Columns separated by spaces or tabs, with or without a header row",
+            {"txt", "dat"}};
 }
 
 std::vector<char> TextTableDataLoader::delimiters() const

@@ -34,9 +34,9 @@ class VtkStream
 {
 public:
     explicit VtkStream(FileBlockReader& file)
-        : m_file(file), m_size(static_cast<std::uint64_t>(file.size())), m_buffer(new char[VtkLegacyDataLoader::BlockSize])
-    {
-    }
+        : m_file(file), m_size(static_cast<std::uint64_t>(file.size())),
+          m_buffer(new char[VtkLegacyDataLoader::BlockSize])
+    {}
 
     [[noreturn]] void fail(const std::string& why) const
     {
@@ -160,7 +160,19 @@ std::string upper(std::string text)
     return text;
 }
 
-enum class Kind { Char, UChar, Short, UShort, Int, UInt, Int64, UInt64, Float, Double };
+enum class Kind
+{
+    Char,
+    UChar,
+    Short,
+    UShort,
+    Int,
+    UInt,
+    Int64,
+    UInt64,
+    Float,
+    Double
+};
 
 struct Type
 {
@@ -170,14 +182,19 @@ struct Type
 
 Type typeNamed(VtkStream& in, const std::string& name)
 {
-    static const std::pair<const char*, Type> types[] = {
-        {"char", {Kind::Char, 1}},          {"unsigned_char", {Kind::UChar, 1}},
-        {"short", {Kind::Short, 2}},        {"unsigned_short", {Kind::UShort, 2}},
-        {"int", {Kind::Int, 4}},            {"unsigned_int", {Kind::UInt, 4}},
-        {"long", {Kind::Int64, 8}},         {"unsigned_long", {Kind::UInt64, 8}},
-        {"vtkidtype", {Kind::Int, 4}},      {"vtktypeint64", {Kind::Int64, 8}},
-        {"vtktypeuint64", {Kind::UInt64, 8}}, {"float", {Kind::Float, 4}},
-        {"double", {Kind::Double, 8}}};
+    static const std::pair<const char*, Type> types[] = {{"char", {Kind::Char, 1}},
+                                                         {"unsigned_char", {Kind::UChar, 1}},
+                                                         {"short", {Kind::Short, 2}},
+                                                         {"unsigned_short", {Kind::UShort, 2}},
+                                                         {"int", {Kind::Int, 4}},
+                                                         {"unsigned_int", {Kind::UInt, 4}},
+                                                         {"long", {Kind::Int64, 8}},
+                                                         {"unsigned_long", {Kind::UInt64, 8}},
+                                                         {"vtkidtype", {Kind::Int, 4}},
+                                                         {"vtktypeint64", {Kind::Int64, 8}},
+                                                         {"vtktypeuint64", {Kind::UInt64, 8}},
+                                                         {"float", {Kind::Float, 4}},
+                                                         {"double", {Kind::Double, 8}}};
     std::string lower = name;
     for (char& c : lower)
         c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -364,7 +381,8 @@ private:
         const std::uint64_t n = wholeNumber(m_in, w[1], "The point count");
         const Type t = typeNamed(m_in, w[2]);
         if (m_points && n != m_points)
-            m_in.fail("POINTS gives " + std::to_string(n) + " points, the dimensions " + std::to_string(m_points) + ".");
+            m_in.fail("POINTS gives " + std::to_string(n) + " points, the dimensions " + std::to_string(m_points)
+                      + ".");
         if (!m_points)
             setPoints(n);
         // Coordinates are stored interleaved; read them a block at a time and spread them.
@@ -417,7 +435,8 @@ private:
                     m_in.fail(key + " takes three numbers.");
                 double* into = key == "ORIGIN" ? origin : spacing;
                 for (int a = 0; a < 3; ++a) {
-                    const auto [end, err] = std::from_chars(w[a + 1].data(), w[a + 1].data() + w[a + 1].size(), into[a]);
+                    const auto [end, err] =
+                        std::from_chars(w[a + 1].data(), w[a + 1].data() + w[a + 1].size(), into[a]);
                     if (err != std::errc() || end != w[a + 1].data() + w[a + 1].size())
                         m_in.fail(key + " takes three numbers, not \"" + w[a + 1].substr(0, 30) + "\".");
                     if (!std::isfinite(into[a]))
@@ -431,7 +450,8 @@ private:
                 const int a = key[0] - 'X';
                 const std::uint64_t n = wholeNumber(m_in, w[1], "The coordinate count");
                 if (dims[a] && n != dims[a])
-                    m_in.fail(key + " gives " + std::to_string(n) + " values, DIMENSIONS " + std::to_string(dims[a]) + ".");
+                    m_in.fail(key + " gives " + std::to_string(n) + " values, DIMENSIONS " + std::to_string(dims[a])
+                              + ".");
                 if (n > m_in.remaining())
                     m_in.fail(key + " promises more values than the file holds.");
                 axes[a].resize(n);
@@ -623,8 +643,8 @@ private:
 
     bool m_binary() const { return m_binaryFlag; }
 
-    void readArray(const std::string& name, const Type& t, std::uint64_t components, std::uint64_t tuples,
-                   bool keep, std::vector<std::string> suffixes)
+    void readArray(const std::string& name, const Type& t, std::uint64_t components, std::uint64_t tuples, bool keep,
+                   std::vector<std::string> suffixes)
     {
         if (components < 1 || components > 64)
             m_in.fail("an array takes 1 to 64 components, not " + std::to_string(components) + ".");
@@ -673,7 +693,9 @@ private:
 DataLoaderInterface::Properties VtkLegacyDataLoader::properties() const
 {
     // Shown translated in the loader chooser's context; settings keep this name.
-    return {QT_TRANSLATE_NOOP("ChooseLoader", "VTK legacy"), "Points and point data of legacy VTK files (ASCII or binary)", {"vtk"}};
+    return {QT_TRANSLATE_NOOP("ChooseLoader", "VTK legacy"),
+            "Points and point data of legacy VTK files (ASCII or binary)",
+            {"vtk"}};
 }
 
 bool VtkLegacyDataLoader::load(const std::string& path, std::string& error)

@@ -88,9 +88,9 @@ bool ZoneBlockDataLoader::loadZones(const std::string& path, std::string& error)
             } else {
                 if (varNames.empty())
                     return failAt(keywordLine, 1, "a zone starts before the VARIABLES line.");
-                zones.push_back({joined(words), ColumnTable(std::vector<ColumnTable::Kind>(varNames.size(),
-                                                                                           ColumnTable::Kind::Number),
-                                                            {false, false})});
+                zones.push_back({joined(words),
+                                 ColumnTable(std::vector<ColumnTable::Kind>(varNames.size(), ColumnTable::Kind::Number),
+                                             {false, false})});
             }
             continue;
         }

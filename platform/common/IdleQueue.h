@@ -15,7 +15,7 @@ class ORRERY_PLATFORM_EXPORT IdleQueue : public QObject
 {
     Q_OBJECT
 public:
-    typedef std::function<void ()> Task;
+    typedef std::function<void()> Task;
     typedef unsigned long long Ticket;
 
     static IdleQueue& instance();

@@ -5,10 +5,9 @@ namespace sdk {
 namespace ui {
 namespace common {
 
-OnIdleActionPerformerSingleShot::OnIdleActionPerformerSingleShot(const boost::function<void ()>& action)
+OnIdleActionPerformerSingleShot::OnIdleActionPerformerSingleShot(const boost::function<void()>& action)
     : m_action(action)
-{
-}
+{}
 
 OnIdleActionPerformerSingleShot::~OnIdleActionPerformerSingleShot()
 {

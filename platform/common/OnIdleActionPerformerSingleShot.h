@@ -12,7 +12,7 @@ namespace common {
 class ORRERY_PLATFORM_EXPORT OnIdleActionPerformerSingleShot
 {
 public:
-    explicit OnIdleActionPerformerSingleShot(const boost::function<void ()>& action);
+    explicit OnIdleActionPerformerSingleShot(const boost::function<void()>& action);
     OnIdleActionPerformerSingleShot(const OnIdleActionPerformerSingleShot&) = delete;
     OnIdleActionPerformerSingleShot& operator=(const OnIdleActionPerformerSingleShot&) = delete;
     ~OnIdleActionPerformerSingleShot();
@@ -28,7 +28,7 @@ private:
     void arm();
     void perform();
 
-    boost::function<void ()> m_action;
+    boost::function<void()> m_action;
     IdleQueue::Ticket m_ticket = 0;
     bool m_armed = false;
 };

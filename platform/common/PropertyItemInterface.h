@@ -8,7 +8,7 @@ namespace orrery {
 class ORRERY_PLATFORM_EXPORT PropertyItemInterface
 {
 public:
-    typedef boost::signals2::signal<void ()> PropertyChangedSignal;
+    typedef boost::signals2::signal<void()> PropertyChangedSignal;
 
     virtual void signalPropertyChangedConnected() const {}
     virtual ~PropertyItemInterface() = default;

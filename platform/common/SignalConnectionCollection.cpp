@@ -15,7 +15,10 @@ void SignalConnectionCollection::ConnectionBlocker::unblock()
         b.unblock();
 }
 
-SignalConnectionCollection::~SignalConnectionCollection() { clear(); }
+SignalConnectionCollection::~SignalConnectionCollection()
+{
+    clear();
+}
 
 void SignalConnectionCollection::add(const boost::signals2::connection& connection)
 {

@@ -59,17 +59,17 @@ typedef int ColorIndex_t;
 // cannot.
 enum StateChange_e : int
 {
-    StateChange_VarsAltered = 0,     // values of variables changed
+    StateChange_VarsAltered = 0, // values of variables changed
     StateChange_VarsAdded = 1,
     StateChange_ZonesDeleted = 2,
     StateChange_ZonesAdded = 3,
     StateChange_NodeMapsAltered = 4, // connectivity only; variables unaffected
     StateChange_FrameDeleted = 5,
-    StateChange_NewTopFrame = 6,     // another frame became the current one
-    StateChange_Style = 7,           // a style value changed; the event names its path
-    StateChange_DataSetReset = 8,    // the data set was replaced or cleared
-    StateChange_NewLayout = 9,       // everything was reset (pages, frames, data)
-    StateChange_CompleteReset = 10,  // a new data set was attached to the frame
+    StateChange_NewTopFrame = 6,    // another frame became the current one
+    StateChange_Style = 7,          // a style value changed; the event names its path
+    StateChange_DataSetReset = 8,   // the data set was replaced or cleared
+    StateChange_NewLayout = 9,      // everything was reset (pages, frames, data)
+    StateChange_CompleteReset = 10, // a new data set was attached to the frame
     StateChange_PageCountChanged = 11,
     StateChange_FrameAdded = 12,
     StateChange_EnabledZonesChanged = 13, // the frame shows another set of zones
@@ -121,9 +121,9 @@ enum UndoCategory_e : int
 // Unit codes of OrrUtilConvertUnits.
 enum Units_e : int
 {
-    Units_Grid = 0,    // axis grid units (vertical extent of the grid range)
-    Units_Frame = 1,   // percent of the frame height
-    Units_Point = 2,   // typographic points, 1/72 inch
+    Units_Grid = 0,  // axis grid units (vertical extent of the grid range)
+    Units_Frame = 1, // percent of the frame height
+    Units_Point = 2, // typographic points, 1/72 inch
     Units_Centimetre = 3
 };
 

@@ -52,8 +52,7 @@ void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* y
 double OrrUtilConvertUnits(int fromUnits, int toUnits, double value);
 
 // Components of basic (0..7) and custom (8..63) colours; any other index gives black.
-void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red,
-                                     unsigned char* green, unsigned char* blue);
+void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigned char* green, unsigned char* blue);
 
 // Undo bracket. Style writes between Begin and End form one undoable step,
 // named by its category (11: "Assign Variables").

@@ -12,10 +12,10 @@ class ORRERY_PLATFORM_EXPORT DataLoaderInterface
 public:
     struct Properties
     {
-        std::string name;        // unique; what users and settings know the loader by
+        std::string name; // unique; what users and settings know the loader by
         std::string description;
         std::vector<std::string> extensions; // lower case, without the dot
-        bool hidden = false;     // not offered to users, only used by name
+        bool hidden = false;                 // not offered to users, only used by name
     };
 
     virtual ~DataLoaderInterface() = default;

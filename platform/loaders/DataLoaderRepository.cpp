@@ -31,8 +31,8 @@ void DataLoaderRepository::registerLoader(const LoaderPtr& loader)
         m_loaders.push_back(loader);
 }
 
-std::vector<DataLoaderRepository::LoaderPtr> DataLoaderRepository::loadersForExtension(
-    const std::string& extension) const
+std::vector<DataLoaderRepository::LoaderPtr>
+DataLoaderRepository::loadersForExtension(const std::string& extension) const
 {
     QString wanted = QString::fromStdString(extension).toLower();
     if (wanted.startsWith('.'))

@@ -9,11 +9,20 @@ QButtonObservable::QButtonObservable(QAbstractButton* button) : m_button(button)
     m_connection = QObject::connect(button, &QAbstractButton::toggled, button, [this](bool) { notify(); });
 }
 
-QButtonObservable::~QButtonObservable() { QObject::disconnect(m_connection); }
+QButtonObservable::~QButtonObservable()
+{
+    QObject::disconnect(m_connection);
+}
 
-void QButtonObservable::addListener(QButtonListenerInterface* listener) { m_listeners.add(listener); }
+void QButtonObservable::addListener(QButtonListenerInterface* listener)
+{
+    m_listeners.add(listener);
+}
 
-void QButtonObservable::removeListener(QButtonListenerInterface* listener) { m_listeners.remove(listener); }
+void QButtonObservable::removeListener(QButtonListenerInterface* listener)
+{
+    m_listeners.remove(listener);
+}
 
 void QButtonObservable::notify()
 {

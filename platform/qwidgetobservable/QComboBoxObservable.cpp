@@ -10,11 +10,20 @@ QComboBoxObservable::QComboBoxObservable(QComboBox* combo) : m_combo(combo)
                                     [this](int index) { notify(index); });
 }
 
-QComboBoxObservable::~QComboBoxObservable() { QObject::disconnect(m_connection); }
+QComboBoxObservable::~QComboBoxObservable()
+{
+    QObject::disconnect(m_connection);
+}
 
-void QComboBoxObservable::addListener(QComboBoxListenerInterface* listener) { m_listeners.add(listener); }
+void QComboBoxObservable::addListener(QComboBoxListenerInterface* listener)
+{
+    m_listeners.add(listener);
+}
 
-void QComboBoxObservable::removeListener(QComboBoxListenerInterface* listener) { m_listeners.remove(listener); }
+void QComboBoxObservable::removeListener(QComboBoxListenerInterface* listener)
+{
+    m_listeners.remove(listener);
+}
 
 void QComboBoxObservable::notify(int index)
 {

@@ -6,7 +6,7 @@
 
 namespace qwidgetobservable {
 
-QTextFieldObservable::QTextFieldObservable(QLineEdit& field, const std::function<bool ()>& commit)
+QTextFieldObservable::QTextFieldObservable(QLineEdit& field, const std::function<bool()>& commit)
     : m_field(&field), m_commit(commit)
 {
     connect(&field, &QLineEdit::textEdited, this, [this] { m_edited = true; });

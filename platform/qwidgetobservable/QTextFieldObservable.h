@@ -17,7 +17,7 @@ class ORRERY_PLATFORM_EXPORT QTextFieldObservable : public QObject
 {
     Q_OBJECT
 public:
-    QTextFieldObservable(QLineEdit& field, const std::function<bool ()>& commit);
+    QTextFieldObservable(QLineEdit& field, const std::function<bool()>& commit);
     ~QTextFieldObservable() override;
 
 protected:
@@ -27,7 +27,7 @@ private:
     bool commit();
 
     QPointer<QLineEdit> m_field;
-    std::function<bool ()> m_commit;
+    std::function<bool()> m_commit;
     bool m_edited = false;
     bool m_committing = false;
 };

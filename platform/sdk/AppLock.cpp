@@ -7,7 +7,7 @@ namespace sdk {
 namespace {
 int g_depth = 0;
 int g_suppressing = 0;
-}
+} // namespace
 
 AppLock::AppLock(ImplicitMacroRecording recording) : m_recording(recording)
 {
@@ -27,15 +27,24 @@ AppLock::~AppLock()
     }
 }
 
-bool AppLock::isBusy() { return g_depth > 0; }
-
-int AppLock::depth() { return g_depth; }
-
-bool AppLock::recordingSuppressed() { return g_suppressing > 0; }
-
-boost::signals2::signal<void ()>& AppLock::becameIdleSignal()
+bool AppLock::isBusy()
 {
-    static boost::signals2::signal<void ()> signal;
+    return g_depth > 0;
+}
+
+int AppLock::depth()
+{
+    return g_depth;
+}
+
+bool AppLock::recordingSuppressed()
+{
+    return g_suppressing > 0;
+}
+
+boost::signals2::signal<void()>& AppLock::becameIdleSignal()
+{
+    static boost::signals2::signal<void()> signal;
     return signal;
 }
 

@@ -29,7 +29,7 @@ public:
     // then are not written to the journal.
     static bool recordingSuppressed();
     // Fired when the last lock is released and the host becomes idle.
-    static boost::signals2::signal<void ()>& becameIdleSignal();
+    static boost::signals2::signal<void()>& becameIdleSignal();
 
 private:
     ImplicitMacroRecording m_recording;

@@ -12,7 +12,7 @@ namespace integration {
 class ORRERY_PLATFORM_EXPORT StateChangeEventObservable
 {
 public:
-    typedef boost::signals2::signal<void (const StateChangeEventInterface&)> Signal;
+    typedef boost::signals2::signal<void(const StateChangeEventInterface&)> Signal;
 
     static StateChangeEventObservable& getInstance();
 

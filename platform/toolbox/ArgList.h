@@ -24,9 +24,7 @@ class Set;
 class ORRERY_PLATFORM_EXPORT ArgList
 {
 public:
-    typedef std::variant<long, long*, double, double*, std::string, std::string*,
-                         const Set*, std::vector<long>>
-        Value;
+    typedef std::variant<long, long*, double, double*, std::string, std::string*, const Set*, std::vector<long>> Value;
 
     void appendArbParam(const std::string& name, long value);
     void appendArbParamPtr(const std::string& name, long* value);

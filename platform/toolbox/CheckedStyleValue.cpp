@@ -4,9 +4,7 @@
 namespace orrery {
 namespace toolbox {
 
-CheckedStyleValue::CheckedStyleValue(const StyleValue& value) : StyleValue(value)
-{
-}
+CheckedStyleValue::CheckedStyleValue(const StyleValue& value) : StyleValue(value) {}
 
 GetValueReturnCode_e CheckedStyleValue::styleGetLowLevel(const ArgList& args) const
 {

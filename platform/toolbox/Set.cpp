@@ -16,8 +16,7 @@ void Set::add(int member)
 {
     if (member < 1)
         throw std::out_of_range("Set members start at 1, not " + std::to_string(member));
-    if (m_members.empty() || m_members.back() < member)
-    {
+    if (m_members.empty() || m_members.back() < member) {
         m_members.push_back(member);
         return;
     }

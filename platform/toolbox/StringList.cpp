@@ -3,9 +3,7 @@
 namespace orrery {
 namespace toolbox {
 
-StringList::StringList(std::initializer_list<std::string> strings) : m_strings(strings)
-{
-}
+StringList::StringList(std::initializer_list<std::string> strings) : m_strings(strings) {}
 
 void StringList::append(const std::string& string)
 {

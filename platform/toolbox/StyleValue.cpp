@@ -42,8 +42,8 @@ StyleValue::StyleValue(const StringList& path)
     assignNames(path);
 }
 
-StyleValue::StyleValue(const char* n1, const char* n2, const char* n3, const char* n4,
-                       const char* n5, const char* n6, const char* n7)
+StyleValue::StyleValue(const char* n1, const char* n2, const char* n3, const char* n4, const char* n5, const char* n6,
+                       const char* n7)
 {
     assignNames(namesUpToNull({n1, n2, n3, n4, n5, n6, n7}));
 }
@@ -60,22 +60,21 @@ void StyleValue::assignNames(const StringList& names)
         m_macroIDs.push_back(OrrUtilStyleNameGetID(name.c_str()));
 }
 
-void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3,
-                                                 const char* n4, const char* n5, const char* n6,
-                                                 const char* n7, RawArray<long>& ids) const
+void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3, const char* n4,
+                                                 const char* n5, const char* n6, const char* n7,
+                                                 RawArray<long>& ids) const
 {
     for (const std::string& name : namesUpToNull({n1, n2, n3, n4, n5, n6, n7}))
         ids.push_back(OrrUtilStyleNameGetID(name.c_str()));
 }
 
-void StyleValue::setupGetValueArgList(const RawArray<long>& ids, long first, long second,
-                                      ArgList& args) const
+void StyleValue::setupGetValueArgList(const RawArray<long>& ids, long first, long second, ArgList& args) const
 {
     setupPathArgs(ids, first, second, args);
 }
 
-void StyleValue::setupSetValueArgList(const RawArray<long>& ids, const Set* set, long first,
-                                      long second, AssignOp_e op, ArgList& args) const
+void StyleValue::setupSetValueArgList(const RawArray<long>& ids, const Set* set, long first, long second, AssignOp_e op,
+                                      ArgList& args) const
 {
     setupPathArgs(ids, first, second, args);
     args.appendSet("Set", set);

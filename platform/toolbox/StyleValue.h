@@ -22,9 +22,8 @@ class ORRERY_PLATFORM_EXPORT StyleValue
 {
 public:
     explicit StyleValue(const StringList& path);
-    explicit StyleValue(const char* n1, const char* n2 = nullptr, const char* n3 = nullptr,
-                        const char* n4 = nullptr, const char* n5 = nullptr,
-                        const char* n6 = nullptr, const char* n7 = nullptr);
+    explicit StyleValue(const char* n1, const char* n2 = nullptr, const char* n3 = nullptr, const char* n4 = nullptr,
+                        const char* n5 = nullptr, const char* n6 = nullptr, const char* n7 = nullptr);
     StyleValue(const StyleValue& other);
     // Not assignable: the identifier array cannot be rebuilt in place.
     StyleValue& operator=(const StyleValue&) = delete;
@@ -36,17 +35,15 @@ public:
 
     // Appends the identifiers of the given names, up to the first null, to ids:
     // extra names that continue this value's path. With no names it adds nothing.
-    void initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3,
-                                         const char* n4, const char* n5, const char* n6,
-                                         const char* n7, RawArray<long>& ids) const;
+    void initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3, const char* n4, const char* n5,
+                                         const char* n6, const char* n7, RawArray<long>& ids) const;
 
     // Fill args for a read or write of the path in ids at the given collection
     // member (-1: none; no family has a second level yet, so second is carried but
     // unused). A write applies to every member of set when set is given.
-    void setupGetValueArgList(const RawArray<long>& ids, long first, long second,
+    void setupGetValueArgList(const RawArray<long>& ids, long first, long second, ArgList& args) const;
+    void setupSetValueArgList(const RawArray<long>& ids, const Set* set, long first, long second, AssignOp_e op,
                               ArgList& args) const;
-    void setupSetValueArgList(const RawArray<long>& ids, const Set* set, long first,
-                              long second, AssignOp_e op, ArgList& args) const;
 
     // Read or write through prepared args.
     GetValueReturnCode_e getFinalValue(double* value, ArgList& args) const;

@@ -30,9 +30,15 @@ void QScientificSpinBox::setDecimals(int significantDigits)
     showValue();
 }
 
-void QScientificSpinBox::setMinimum(double minimum) { setRange(minimum, std::max(minimum, m_maximum)); }
+void QScientificSpinBox::setMinimum(double minimum)
+{
+    setRange(minimum, std::max(minimum, m_maximum));
+}
 
-void QScientificSpinBox::setMaximum(double maximum) { setRange(std::min(m_minimum, maximum), maximum); }
+void QScientificSpinBox::setMaximum(double maximum)
+{
+    setRange(std::min(m_minimum, maximum), maximum);
+}
 
 void QScientificSpinBox::setRange(double minimum, double maximum)
 {

@@ -19,7 +19,7 @@ class ORRERY_PLATFORM_EXPORT QScientificSpinBox : public QAbstractSpinBox
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
 public:
     // Size of a move of the given number of steps (negative: downwards).
-    typedef std::function<double (int steps)> StepCalculator;
+    typedef std::function<double(int steps)> StepCalculator;
 
     explicit QScientificSpinBox(QWidget* parent = nullptr);
 

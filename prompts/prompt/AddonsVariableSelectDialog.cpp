@@ -18,8 +18,8 @@ public:
     Impl(AddonsVariableSelectDialog& dialog, const VarPropertyPtr (&vars)[3], const std::string& instructions,
          const std::vector<std::string>& labels)
         : instructions(instructions), labels(labels),
-          variablesModel(boost::make_shared<VariableChoiceBindings::ModelPtr::element_type>()),
-          vars{vars[0], vars[1], vars[2]}
+          variablesModel(boost::make_shared<VariableChoiceBindings::ModelPtr::element_type>()), vars{vars[0], vars[1],
+                                                                                                     vars[2]}
     {
         ui.setupUi(&dialog);
         setupDialog(dialog);
@@ -32,14 +32,10 @@ public:
         ui.var1_label->setText(QString::fromLatin1(labels.at(0).c_str()));
         QLabel* const rowLabels[] = {ui.var2_label, ui.var3_label};
         QComboBox* const rowCombos[] = {ui.var2_comboBox, ui.var3_comboBox};
-        for (size_t row = 1; row < 3; ++row)
-        {
-            if (labels.size() > row)
-            {
+        for (size_t row = 1; row < 3; ++row) {
+            if (labels.size() > row) {
                 rowLabels[row - 1]->setText(QString::fromLatin1(labels[row].c_str()));
-            }
-            else
-            {
+            } else {
                 rowLabels[row - 1]->setVisible(false);
                 rowCombos[row - 1]->setVisible(false);
             }
@@ -48,8 +44,8 @@ public:
 
     void setupPropertyBindings()
     {
-        bindings.reset(new VariableChoiceBindings(variablesModel, {ui.var1_comboBox, ui.var2_comboBox, ui.var3_comboBox},
-                                                  vars));
+        bindings.reset(
+            new VariableChoiceBindings(variablesModel, {ui.var1_comboBox, ui.var2_comboBox, ui.var3_comboBox}, vars));
     }
 
     std::string instructions;

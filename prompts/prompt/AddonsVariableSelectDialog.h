@@ -15,8 +15,8 @@ namespace prompt {
 // Up to three variables for an add-on, chosen straight into properties that
 // the add-on supplies; the add-on reads them after the dialog closes.
 class ORRERY_PROMPTS_EXPORT AddonsVariableSelectDialog : public common::QtDialogAbstract,
-                                   public virtual common::DialogInterface,
-                                   public SingleInstanceDialog<AddonsVariableSelectDialog>
+                                                         public virtual common::DialogInterface,
+                                                         public SingleInstanceDialog<AddonsVariableSelectDialog>
 {
     Q_OBJECT
 public:

@@ -12,8 +12,7 @@ namespace prompt {
 
 AnchorAlignmentDialog* AnchorAlignmentDialog::getInstance(AnchorAlignment_e initial, QWidget& parent)
 {
-    if (AnchorAlignmentDialog* live = liveInstance())
-    {
+    if (AnchorAlignmentDialog* live = liveInstance()) {
         live->m_initialAlignment = initial;
         return live;
     }
@@ -21,9 +20,7 @@ AnchorAlignmentDialog* AnchorAlignmentDialog::getInstance(AnchorAlignment_e init
 }
 
 AnchorAlignmentDialog::AnchorAlignmentDialog(AnchorAlignment_e initial, QWidget& parent)
-    : QtDialogAbstract(parent, RelevancePtr()),
-      m_selectedAlignment(initial),
-      m_initialAlignment(initial)
+    : QtDialogAbstract(parent, RelevancePtr()), m_selectedAlignment(initial), m_initialAlignment(initial)
 {
     setHelpAction(new common::LaunchHelpAction("anchor_alignment.html", *this));
     m_ui.reset(new Ui_AnchorAlignment());
@@ -37,10 +34,10 @@ AnchorAlignmentDialog::~AnchorAlignmentDialog() = default;
 void AnchorAlignmentDialog::setSelectedAlignmentButton(AnchorAlignment_e alignment)
 {
     QRadioButton* const buttons[] = {
-        m_ui->anchorAlignment_TopLeft_RadioButton,     m_ui->anchorAlignment_TopCenter_RadioButton,
-        m_ui->anchorAlignment_TopRight_RadioButton,    m_ui->anchorAlignment_MiddleLeft_RadioButton,
+        m_ui->anchorAlignment_TopLeft_RadioButton,      m_ui->anchorAlignment_TopCenter_RadioButton,
+        m_ui->anchorAlignment_TopRight_RadioButton,     m_ui->anchorAlignment_MiddleLeft_RadioButton,
         m_ui->anchorAlignment_MiddleCenter_RadioButton, m_ui->anchorAlignment_MiddleRight_RadioButton,
-        m_ui->anchorAlignment_BottomLeft_RadioButton,  m_ui->anchorAlignment_BottomCenter_RadioButton,
+        m_ui->anchorAlignment_BottomLeft_RadioButton,   m_ui->anchorAlignment_BottomCenter_RadioButton,
         m_ui->anchorAlignment_BottomRight_RadioButton};
     // Only the display changes: the answer keeps whatever the caller gave,
     // even a value that no button stands for.

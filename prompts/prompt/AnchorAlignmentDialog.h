@@ -14,8 +14,8 @@ namespace prompt {
 // Picks one of the nine anchor points of a box. Cancel falls back to the
 // alignment the caller passed most recently.
 class ORRERY_PROMPTS_EXPORT AnchorAlignmentDialog : public common::QtDialogAbstract,
-                              public virtual common::DialogInterface,
-                              public SingleInstanceDialog<AnchorAlignmentDialog>
+                                                    public virtual common::DialogInterface,
+                                                    public SingleInstanceDialog<AnchorAlignmentDialog>
 {
     Q_OBJECT
 public:
@@ -42,10 +42,16 @@ private Q_SLOTS:
     void on_anchorAlignment_TopCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopCenter; }
     void on_anchorAlignment_TopRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopRight; }
     void on_anchorAlignment_MiddleLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleLeft; }
-    void on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleCenter; }
+    void on_anchorAlignment_MiddleCenter_RadioButton_toggled(bool)
+    {
+        m_selectedAlignment = AnchorAlignment_MiddleCenter;
+    }
     void on_anchorAlignment_MiddleRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_MiddleRight; }
     void on_anchorAlignment_BottomLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomLeft; }
-    void on_anchorAlignment_BottomCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomCenter; }
+    void on_anchorAlignment_BottomCenter_RadioButton_toggled(bool)
+    {
+        m_selectedAlignment = AnchorAlignment_BottomCenter;
+    }
     void on_anchorAlignment_BottomRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_BottomRight; }
 
 private:

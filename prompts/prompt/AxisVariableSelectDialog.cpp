@@ -12,17 +12,17 @@ namespace prompt {
 
 void AxisVariableSelectDialog::AxisVarAssignment::assignVariables(PropertyAbstract<int>&, PropertyAbstract<int>&,
                                                                   PropertyAbstract<int>&) const
-{
-}
+{}
 
 VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
 {
     sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
     const PlotType_e plotType = OrrUtilFrameGetPlotType();
-    const char* const root = plotType == PlotType_TwoD ? "TwoDAxis" : plotType == PlotType_ThreeD ? "ThreeDAxis" : nullptr;
+    const char* const root = plotType == PlotType_TwoD     ? "TwoDAxis"
+                             : plotType == PlotType_ThreeD ? "ThreeDAxis"
+                                                           : nullptr;
     toolbox::StringList paths[3];
-    if (root)
-    {
+    if (root) {
         paths[0] = {root, "XDetail", "VarNum"};
         paths[1] = {root, "YDetail", "VarNum"};
         if (plotType == PlotType_ThreeD)
@@ -31,12 +31,13 @@ VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
     std::vector<std::string> labels = {"&X", "&Y"};
     if (plotType == PlotType_ThreeD)
         labels.push_back("&Z");
-    return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2],
-                                             QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the axes."), labels,
-                                             AxisVarAssignment());
+    return VariableSelectDialog::getInstance(
+        parent, paths[0], paths[1], paths[2],
+        QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the axes."), labels,
+        AxisVarAssignment());
 }
 
-bool AxisVariableSelectDialog::frameShowsFieldPlot(const std::function<PlotType_e ()>& plotType)
+bool AxisVariableSelectDialog::frameShowsFieldPlot(const std::function<PlotType_e()>& plotType)
 {
     if (OrrUtilPageGetCount() < 1 || OrrUtilFrameGetCount() < 1)
         return false;

@@ -30,7 +30,7 @@ public:
 
     // True when there is a page and a frame, and plotType() names a 2D or 3D
     // field plot; shared with the vector dialog.
-    static bool frameShowsFieldPlot(const std::function<PlotType_e ()>& plotType);
+    static bool frameShowsFieldPlot(const std::function<PlotType_e()>& plotType);
 };
 
 } // namespace prompt

@@ -23,12 +23,12 @@ struct ChooseLoaderDialog::Impl
     {
         ui.setupUi(&dialog);
         ui.LoadersList->setItemDelegate(new sdk::ui::dialogs::ListHeaderItemDelegate(ui.LoadersList));
-        auto* list = new pb::ListViewPropertyBinding(*ui.LoadersList, manager.loadersListProperty(),
-                                                     manager.loadersListModel());
+        auto* list =
+            new pb::ListViewPropertyBinding(*ui.LoadersList, manager.loadersListProperty(), manager.loadersListModel());
         bindings.push_back(list);
         list->setSelectionMode(QAbstractItemView::SingleSelection);
-        appliers.push_back(new pb::RelevanceApplier(manager.loaderSelectedRelevance(),
-                                                    {ui.buttonBox->button(QDialogButtonBox::Ok)}));
+        appliers.push_back(
+            new pb::RelevanceApplier(manager.loaderSelectedRelevance(), {ui.buttonBox->button(QDialogButtonBox::Ok)}));
     }
 
     Ui_ChooseLoader ui;
@@ -89,8 +89,7 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     m_impl->manager.selectLoaderBasedOnExtensionsHistory(extensions);
 
     QString title = QCoreApplication::translate("ChooseLoader", "Choose Loader ");
-    if (!extensions.empty())
-    {
+    if (!extensions.empty()) {
         title += "(";
         for (const std::string& extension : extensions)
             title += "*" + QString::fromLatin1(extension.c_str()) + " ";
@@ -100,9 +99,11 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     m_impl->ui.label->setText(
         suggestedLoaders.empty()
             ? QCoreApplication::translate(
-                  "ChooseLoader", "A loader could not be found for this file type.\nPlease choose which loader you would like to use.")
+                "ChooseLoader",
+                "A loader could not be found for this file type.\nPlease choose which loader you would like to use.")
             : QCoreApplication::translate(
-                  "ChooseLoader", "Multiple loaders support this kind of file.\nPlease choose which loader you would like to use."));
+                "ChooseLoader",
+                "Multiple loaders support this kind of file.\nPlease choose which loader you would like to use."));
 }
 
 } // namespace prompt

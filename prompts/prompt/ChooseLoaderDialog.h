@@ -17,8 +17,8 @@ namespace prompt {
 // then all others; the loader last confirmed for the file's extension is
 // preselected, and a confirmed choice is remembered for the next time.
 class ORRERY_PROMPTS_EXPORT ChooseLoaderDialog : public common::QtDialogAbstract,
-                           public virtual common::DialogInterface,
-                           public SingleInstanceDialog<ChooseLoaderDialog>
+                                                 public virtual common::DialogInterface,
+                                                 public SingleInstanceDialog<ChooseLoaderDialog>
 {
     Q_OBJECT
 public:

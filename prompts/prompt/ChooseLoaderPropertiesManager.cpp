@@ -43,8 +43,7 @@ struct ChooseLoaderPropertiesManager::Impl
           loaderSelectedRelevance(boost::make_shared<sdk::ui::propertymanager::PropertyPredicateDependentRelevance>(
               loadersListProperty, [selection = loadersListProperty] { return isLoaderSelected(*selection); })),
           allLoaders(sdk::DataLoaderRepository::getInstance().dataLoaderInterfaces(false))
-    {
-    }
+    {}
 
     static bool isLoaderSelected(const SelectionProperty& selection) { return selection.getValue().size() == 1; }
 
@@ -75,7 +74,8 @@ ChooseLoaderPropertiesManager::ChooseLoaderPropertiesManager() : m_impl(new Impl
 
 ChooseLoaderPropertiesManager::~ChooseLoaderPropertiesManager() = default;
 
-boost::shared_ptr<ChooseLoaderPropertiesManager::LoadersListModel> ChooseLoaderPropertiesManager::loadersListModel() const
+boost::shared_ptr<ChooseLoaderPropertiesManager::LoadersListModel>
+ChooseLoaderPropertiesManager::loadersListModel() const
 {
     return m_impl->loadersListModel;
 }
@@ -94,8 +94,8 @@ ChooseLoaderPropertiesManager::loaderSelectedRelevance() const
 ChooseLoaderPropertiesManager::LoaderPtr ChooseLoaderPropertiesManager::selectedLoader() const
 {
     const std::vector<int> rows = m_impl->loadersListProperty->getValue();
-    if (rows.empty() || rows.front() < 0 || rows.front() >= m_impl->loadersListModel->size() ||
-        m_impl->loadersListModel->isHeader(rows.front()))
+    if (rows.empty() || rows.front() < 0 || rows.front() >= m_impl->loadersListModel->size()
+        || m_impl->loadersListModel->isHeader(rows.front()))
         return LoaderPtr();
     const std::string name = m_impl->loadersListModel->getStr(rows.front());
     for (const std::vector<LoaderPtr>* loaders : {&m_impl->allLoaders, &m_impl->suggestedLoaders})
@@ -114,13 +114,11 @@ void ChooseLoaderPropertiesManager::updateLoaderList(std::vector<LoaderPtr> cons
     m_impl->suggestedLoaders.clear();
     std::set<std::string> suggestedNames;
     for (const LoaderPtr& loader : suggestedLoaders)
-        if (loader)
-        {
+        if (loader) {
             suggestedNames.insert(nameOf(loader));
             m_impl->suggestedLoaders.push_back(loader);
         }
-    if (!suggestedNames.empty())
-    {
+    if (!suggestedNames.empty()) {
         model.appendHeaderRow(translated(QT_TRANSLATE_NOOP("ChooseLoader", "Suggested Loaders")));
         for (const std::string& name : suggestedNames)
             model.appendRow(shown(name));

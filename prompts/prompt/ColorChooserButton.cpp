@@ -9,8 +9,7 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-ColorChooserButton::ColorChooserButton(QWidget* parent, int colorIndex)
-    : QToolButton(parent), m_colorIndex(colorIndex)
+ColorChooserButton::ColorChooserButton(QWidget* parent, int colorIndex) : QToolButton(parent), m_colorIndex(colorIndex)
 {
     unsigned char red = 0, green = 0, blue = 0;
     OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue);
@@ -27,14 +26,12 @@ void ColorChooserButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), m_color);
-    if (isDown())
-    {
+    if (isDown()) {
         // A pressed swatch shows a sunken edge in the contrasting shade.
         painter.setPen(m_color.lightness() > 127 ? Qt::black : Qt::white);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    if (hasFocus())
-    {
+    if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
         option.rect = rect().adjusted(2, 2, -2, -2);

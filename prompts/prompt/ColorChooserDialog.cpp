@@ -20,9 +20,9 @@ namespace prompt {
 
 namespace {
 const char* const BasicColorNames[8] = {
-    QT_TRANSLATE_NOOP("ColorChooser", "Black"), QT_TRANSLATE_NOOP("ColorChooser", "Red"),
-    QT_TRANSLATE_NOOP("ColorChooser", "Green"), QT_TRANSLATE_NOOP("ColorChooser", "Blue"),
-    QT_TRANSLATE_NOOP("ColorChooser", "Cyan"),  QT_TRANSLATE_NOOP("ColorChooser", "Yellow"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Black"),  QT_TRANSLATE_NOOP("ColorChooser", "Red"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Green"),  QT_TRANSLATE_NOOP("ColorChooser", "Blue"),
+    QT_TRANSLATE_NOOP("ColorChooser", "Cyan"),   QT_TRANSLATE_NOOP("ColorChooser", "Yellow"),
     QT_TRANSLATE_NOOP("ColorChooser", "Purple"), QT_TRANSLATE_NOOP("ColorChooser", "White")};
 const int FirstCustomColor = 8;
 const int NumColors = 64;
@@ -100,7 +100,8 @@ ColorChooserDialog::ColorChooserDialog(QWidget& parent)
     // The swatches name their colours; these name what they colour by.
     QToolButton* const multi[8] = {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8};
     for (int n = 1; n <= 8; ++n)
-        multi[n - 1]->setToolTip(QCoreApplication::translate("ColorChooser", "Multi-colouring %1: coloured by a variable").arg(n));
+        multi[n - 1]->setToolTip(
+            QCoreApplication::translate("ColorChooser", "Multi-colouring %1: coloured by a variable").arg(n));
     m_ui->RGB->setToolTip(
         QCoreApplication::translate("ColorChooser", "RGB colouring: red, green and blue from three variables"));
 }
@@ -109,8 +110,8 @@ ColorChooserDialog::~ColorChooserDialog() = default;
 
 void ColorChooserDialog::setEnableVarColoring(bool enable)
 {
-    for (QToolButton* button : {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8,
-                                m_ui->RGB})
+    for (QToolButton* button :
+         {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8, m_ui->RGB})
         button->setEnabled(enable);
 }
 
@@ -169,14 +170,11 @@ void ColorChooserDialog::on_RGB_clicked(bool)
 
 bool askForRGBChannelVariables(QWidget& parent)
 {
-    try
-    {
+    try {
         VariableSelectDialog* variables = RGBVariableSelectDialog::getInstance(parent);
         variables->launch();
         return variables->result() == QDialog::Accepted;
-    }
-    catch (const std::exception& failure)
-    {
+    } catch (const std::exception& failure) {
         // Runs from a button: a dialog that cannot be set up counts as declined.
         OrrUtilDialogMessageBox(failure.what(), MessageBoxType_Error);
         return false;

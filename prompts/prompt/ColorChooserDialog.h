@@ -18,8 +18,8 @@ namespace prompt {
 // multi colourings (colour by variable) or RGB colouring. Close leaves the
 // previous answer in place, so callers look at result() first.
 class ORRERY_PROMPTS_EXPORT ColorChooserDialog : public common::QtDialogAbstract,
-                           public virtual common::DialogInterface,
-                           public SingleInstanceDialog<ColorChooserDialog>
+                                                 public virtual common::DialogInterface,
+                                                 public SingleInstanceDialog<ColorChooserDialog>
 {
     Q_OBJECT
 public:

@@ -20,8 +20,7 @@ ColorChooserWidget::ColorChooserWidget(QWidget* parent) : QWidget(parent)
     auto* grid = new QGridLayout(this);
     grid->setSpacing(2);
     grid->setContentsMargins(0, 0, 0, 0);
-    for (int i = 0; i < Swatches; ++i)
-    {
+    for (int i = 0; i < Swatches; ++i) {
         auto* button = new ColorChooserButton(this, i < 8 ? BasicColors[i] : i);
         // Named by position, not by colour: host scripts address the grid cell.
         button->setObjectName(QString("colorButton_%1").arg(i));
@@ -35,8 +34,7 @@ ColorChooserWidget::ColorChooserWidget(QWidget* parent) : QWidget(parent)
     }
 }
 
-boost::signals2::connection ColorChooserWidget::connectToColorSelectedSignal(
-    const ColorSelectedSignal::slot_type& slot)
+boost::signals2::connection ColorChooserWidget::connectToColorSelectedSignal(const ColorSelectedSignal::slot_type& slot)
 {
     return m_colorSelected.connect(slot);
 }

@@ -13,7 +13,7 @@ class ORRERY_PROMPTS_EXPORT ColorChooserWidget : public QWidget
 {
     Q_OBJECT
 public:
-    typedef boost::signals2::signal<void (int)> ColorSelectedSignal;
+    typedef boost::signals2::signal<void(int)> ColorSelectedSignal;
 
     explicit ColorChooserWidget(QWidget* parent);
 

@@ -13,8 +13,8 @@ namespace prompt {
 // Asks for one character to draw as a plot symbol, and its font: the base font
 // or the Greek, Math or user-defined symbol font.
 class ORRERY_PROMPTS_EXPORT EnterASCIICharacterDialog : public common::QtDialogAbstract,
-                                  public virtual common::DialogInterface,
-                                  public SingleInstanceDialog<EnterASCIICharacterDialog>
+                                                        public virtual common::DialogInterface,
+                                                        public SingleInstanceDialog<EnterASCIICharacterDialog>
 {
     Q_OBJECT
 public:

@@ -30,8 +30,7 @@ struct EnterASCIICharacterPropertiesManager::Impl
         : characterValidator(boost::make_shared<EmptySelecterCharacterValidator>()),
           selectedChar(boost::make_shared<Property<std::string>>(initialChar, characterValidator)),
           typeFaceOverride(boost::make_shared<Property<Font_e>>(font))
-    {
-    }
+    {}
 
     boost::shared_ptr<EmptySelecterCharacterValidator> characterValidator;
     boost::shared_ptr<Property<std::string>> selectedChar;
@@ -40,8 +39,7 @@ struct EnterASCIICharacterPropertiesManager::Impl
 
 EnterASCIICharacterPropertiesManager::EnterASCIICharacterPropertiesManager(std::string const& initialChar, Font_e font)
     : m_impl(new Impl(initialChar, font))
-{
-}
+{}
 
 EnterASCIICharacterPropertiesManager::~EnterASCIICharacterPropertiesManager() = default;
 

@@ -14,8 +14,8 @@ struct EnterTextStringDialog::Impl
     Ui_EnterTextString ui;
 };
 
-EnterTextStringDialog::EnterTextStringDialog(QWidget& parent, QString const& promptText,
-                                             QString const& initialText, QString const& helpPage, bool)
+EnterTextStringDialog::EnterTextStringDialog(QWidget& parent, QString const& promptText, QString const& initialText,
+                                             QString const& helpPage, bool)
     : QtDialogAbstract(parent, RelevancePtr()), m_impl(new Impl)
 {
     m_impl->ui.setupUi(this);
@@ -44,7 +44,8 @@ void EnterTextStringDialog::setOkButtonText(std::string const& text)
 
 void EnterTextStringDialog::textChanged(QString const&)
 {
-    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!m_impl->ui.EnterTextString_lineEdit->text().isEmpty());
+    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)
+        ->setEnabled(!m_impl->ui.EnterTextString_lineEdit->text().isEmpty());
 }
 
 } // namespace prompt

@@ -11,7 +11,8 @@ namespace prompt {
 
 // Asks for one line of text. The caller constructs, runs and destroys it, and
 // reads text() before destroying it.
-class ORRERY_PROMPTS_EXPORT EnterTextStringDialog : public common::QtDialogAbstract, public virtual common::DialogInterface
+class ORRERY_PROMPTS_EXPORT EnterTextStringDialog : public common::QtDialogAbstract,
+                                                    public virtual common::DialogInterface
 {
     Q_OBJECT
 public:

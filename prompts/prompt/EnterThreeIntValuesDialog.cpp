@@ -23,9 +23,8 @@ struct EnterThreeIntValuesDialog::Impl
         QLabel* const captions[] = {ui.valueLabel1, ui.valueLabel2, ui.valueLabel3};
         QSpinBox* const spinBoxes[] = {ui.value1, ui.value2, ui.value3};
         const boost::shared_ptr<PropertyAbstract<long>> properties[] = {manager.value1(), manager.value2(),
-                                                                         manager.value3()};
-        for (int i = 0; i < 3; ++i)
-        {
+                                                                        manager.value3()};
+        for (int i = 0; i < 3; ++i) {
             captions[i]->setText(QString::fromLatin1(labels[i].c_str()));
             spinBoxes[i]->setMaximum(Limit);
             spinBoxes[i]->setMinimum(minimums[i] > 0 ? int(std::min<long>(minimums[i], Limit)) : -Limit);
@@ -43,18 +42,17 @@ struct EnterThreeIntValuesDialog::Impl
 EnterThreeIntValuesDialog* EnterThreeIntValuesDialog::getInstance(QWidget& parent, long value1, long value2,
                                                                   long value3, std::string const& title,
                                                                   std::string const& helpPage, std::string label1,
-                                                                  std::string label2, std::string label3,
-                                                                  long minimum1, long minimum2, long minimum3)
+                                                                  std::string label2, std::string label3, long minimum1,
+                                                                  long minimum2, long minimum3)
 {
     return obtain(parent, title, helpPage, value1, value2, value3, label1, label2, label3, minimum1, minimum2,
                   minimum3);
 }
 
 EnterThreeIntValuesDialog::EnterThreeIntValuesDialog(QWidget& parent, std::string const& title,
-                                                     std::string const& helpPage, long value1, long value2,
-                                                     long value3, std::string label1, std::string label2,
-                                                     std::string label3, long minimum1, long minimum2,
-                                                     long minimum3)
+                                                     std::string const& helpPage, long value1, long value2, long value3,
+                                                     std::string label1, std::string label2, std::string label3,
+                                                     long minimum1, long minimum2, long minimum3)
     : QtDialogAbstract(parent, relevance()),
       m_impl(new Impl(*this, value1, value2, value3, {label1, label2, label3}, {minimum1, minimum2, minimum3}))
 {

@@ -12,8 +12,8 @@ namespace prompt {
 // Asks for three whole numbers side by side (by default a begin, an end and a
 // skip), with captions, title and lower limits chosen by the caller.
 class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesDialog : public common::QtDialogAbstract,
-                                  public virtual common::DialogInterface,
-                                  public SingleInstanceDialog<EnterThreeIntValuesDialog>
+                                                        public virtual common::DialogInterface,
+                                                        public SingleInstanceDialog<EnterThreeIntValuesDialog>
 {
     Q_OBJECT
 public:

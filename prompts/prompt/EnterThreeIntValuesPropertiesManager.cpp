@@ -19,8 +19,7 @@ struct EnterThreeIntValuesPropertiesManager::Impl
 EnterThreeIntValuesPropertiesManager::EnterThreeIntValuesPropertiesManager(long value1, long value2, long value3)
     : m_impl(new Impl{boost::make_shared<Property<long>>(value1), boost::make_shared<Property<long>>(value2),
                       boost::make_shared<Property<long>>(value3)})
-{
-}
+{}
 
 EnterThreeIntValuesPropertiesManager::~EnterThreeIntValuesPropertiesManager() = default;
 

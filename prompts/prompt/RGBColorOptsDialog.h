@@ -12,8 +12,8 @@ namespace prompt {
 // and the value range mapped to the intensities. Modeless: every edit reaches
 // the style at once, and the dialog follows changes made elsewhere.
 class ORRERY_PROMPTS_EXPORT RGBColorOptsDialog : public common::QtDialogAbstract,
-                           public virtual common::DialogInterface,
-                           public SingleInstanceDialog<RGBColorOptsDialog>
+                                                 public virtual common::DialogInterface,
+                                                 public SingleInstanceDialog<RGBColorOptsDialog>
 {
     Q_OBJECT
 public:

@@ -23,10 +23,10 @@ void RGBVariableSelectDialog::RGBVarAssignment::assignVariables(PropertyAbstract
 
 VariableSelectDialog* RGBVariableSelectDialog::getInstance(QWidget& parent)
 {
-    return VariableSelectDialog::getInstance(parent, {"GlobalRGB", "RedChannelVar"}, {"GlobalRGB", "GreenChannelVar"},
-                                             {"GlobalRGB", "BlueChannelVar"},
-                                             QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the R, G, and B channels."),
-                                             {"&R", "&G", "&B"}, RGBVarAssignment());
+    return VariableSelectDialog::getInstance(
+        parent, {"GlobalRGB", "RedChannelVar"}, {"GlobalRGB", "GreenChannelVar"}, {"GlobalRGB", "BlueChannelVar"},
+        QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the variables to assign to the R, G, and B channels."),
+        {"&R", "&G", "&B"}, RGBVarAssignment());
 }
 
 } // namespace prompt

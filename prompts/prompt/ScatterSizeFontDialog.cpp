@@ -40,9 +40,8 @@ struct ScatterSizeFontDialog::Impl
         const auto inGridUnits = generated->scatterSizeInGridUnits();
         bindings.push_back(
             new pb::FontComboBoxPropertyBinding(*ui.scatterSizeFont_SymbolsFont_ComboBox, manager->fontProperty()));
-        bindings.push_back(new pb::ComboBoxPropertyBinding<int>(*ui.scatterSizeFont_SizeVaiable_ComboBox,
-                                                                generated->scatterSizeVariable(),
-                                                                manager->variablesModel()));
+        bindings.push_back(new pb::ComboBoxPropertyBinding<int>(
+            *ui.scatterSizeFont_SizeVaiable_ComboBox, generated->scatterSizeVariable(), manager->variablesModel()));
         bindings.push_back(
             new pb::RadioButtonPropertyBinding<bool>(ui.scatterSizeFont_SizeGrid_radioButton, inGridUnits, true));
         bindings.push_back(new pb::TextFieldPropertyBinding<double>(
@@ -61,12 +60,12 @@ struct ScatterSizeFontDialog::Impl
     {
         const auto sensitivity = pb::RelevanceApplier::Manifestation_Sensitivity;
         const auto onIdle = pb::BindingInterface::WidgetUpdateMode_OnIdle;
-        appliers.push_back(new pb::RelevanceApplier(
-            manager->fieldPlotTypeRelevance(),
-            {ui.scatterSizeFont_SizeVaiable_Label, ui.scatterSizeFont_SizeVaiable_ComboBox,
-             ui.scatterSizeFont_SizeMultiplier_Label, ui.scatterSizeFont_SizeGrid_radioButton,
-             ui.scatterSizeFont_SizeCm_radioButton, &recalculateButton},
-            sensitivity, onIdle));
+        appliers.push_back(
+            new pb::RelevanceApplier(manager->fieldPlotTypeRelevance(),
+                                     {ui.scatterSizeFont_SizeVaiable_Label, ui.scatterSizeFont_SizeVaiable_ComboBox,
+                                      ui.scatterSizeFont_SizeMultiplier_Label, ui.scatterSizeFont_SizeGrid_radioButton,
+                                      ui.scatterSizeFont_SizeCm_radioButton, &recalculateButton},
+                                     sensitivity, onIdle));
         appliers.push_back(new pb::RelevanceApplier(manager->sizeInGridUnitsRelevance(),
                                                     {ui.scatterSizeFont_SizeGrid_1Text}, sensitivity, onIdle));
         appliers.push_back(new pb::RelevanceApplier(manager->sizeInCmUnitsRelevance(),

@@ -12,8 +12,8 @@ namespace prompt {
 // line plot it edits the symbol font only ("Symbol Font"). Edits reach the
 // style at once; a plot type change re-titles and retargets it.
 class ORRERY_PROMPTS_EXPORT ScatterSizeFontDialog : public common::QtDialogAbstract,
-                              public virtual common::DialogInterface,
-                              public SingleInstanceDialog<ScatterSizeFontDialog>
+                                                    public virtual common::DialogInterface,
+                                                    public SingleInstanceDialog<ScatterSizeFontDialog>
 {
     Q_OBJECT
 public:

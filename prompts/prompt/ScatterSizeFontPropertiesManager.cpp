@@ -94,14 +94,13 @@ public:
 struct ScatterSizeFontPropertiesManager::Impl
 {
     explicit Impl(pm::ScatterSizeFontPropertiesGenerated& generated)
-        : generated(generated),
-          fontProperty(boost::make_shared<PropertyProxy<std::string>>(generated.scatterFont())),
+        : generated(generated), fontProperty(boost::make_shared<PropertyProxy<std::string>>(generated.scatterFont())),
           fontBoldProperty(boost::make_shared<PropertyProxy<bool>>(generated.scatterFontBold())),
           fontItalicProperty(boost::make_shared<PropertyProxy<bool>>(generated.scatterFontItalic())),
-          relativeGridSizeProperty(boost::make_shared<RelativeSizeProperty>(
-              generated.scatterRelativeSize(), generated.scatterSizeInGridUnits(), true)),
-          relativeCmSizeProperty(boost::make_shared<RelativeSizeProperty>(
-              generated.scatterRelativeSize(), generated.scatterSizeInGridUnits(), false)),
+          relativeGridSizeProperty(boost::make_shared<RelativeSizeProperty>(generated.scatterRelativeSize(),
+                                                                            generated.scatterSizeInGridUnits(), true)),
+          relativeCmSizeProperty(boost::make_shared<RelativeSizeProperty>(generated.scatterRelativeSize(),
+                                                                          generated.scatterSizeInGridUnits(), false)),
           plotTypeProperty(boost::make_shared<Property<PlotType_e>>(PlotType_Invalid)),
           fieldPlotTypeRelevance(boost::make_shared<pm::FieldPlotTypeDependentRelevance>())
     {
@@ -115,7 +114,9 @@ struct ScatterSizeFontPropertiesManager::Impl
         sizeInCmUnitsRelevance = inCm;
         variablesModel = boost::make_shared<pb::models::EnabledVariablesListModel>();
         plotTypeWatcher.reset(new pb::OnIdleAfterStateChangeActionPerformer(
-            [this](const sdk::integration::StateChangeEventInterface& event) { return plotTypeChangedPredicate(event); },
+            [this](const sdk::integration::StateChangeEventInterface& event) {
+                return plotTypeChangedPredicate(event);
+            },
             [this] { setPlotType(); }));
         setPlotType();
     }
@@ -125,13 +126,11 @@ struct ScatterSizeFontPropertiesManager::Impl
         const PlotType_e plotType = OrrUtilFrameGetPlotType();
         if (plotType == plotTypeProperty->getValue())
             return;
-        if (plotType == PlotType_ThreeD || plotType == PlotType_TwoD)
-        {
+        if (plotType == PlotType_ThreeD || plotType == PlotType_TwoD) {
             sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
             sdk::autoAssignScatterVariable();
             retarget(generated.scatterFont(), generated.scatterFontBold(), generated.scatterFontItalic());
-        }
-        else if (plotType == PlotType_XYLine || plotType == PlotType_PolarLine)
+        } else if (plotType == PlotType_XYLine || plotType == PlotType_PolarLine)
             retarget(generated.symbolFont(), generated.symbolFontBold(), generated.symbolFontItalic());
         plotTypeProperty->setValue(plotType);
     }
@@ -147,8 +146,7 @@ struct ScatterSizeFontPropertiesManager::Impl
 
     bool plotTypeChangedPredicate(const sdk::integration::StateChangeEventInterface& event) const
     {
-        return event.code() == StateChange_Style && event.stylePath().count() > 1 &&
-               event.stylePath()[1] == "PlotType";
+        return event.code() == StateChange_Style && event.stylePath().count() > 1 && event.stylePath()[1] == "PlotType";
     }
 
     double defaultMultiplierValue(bool inGridUnits) const
@@ -159,8 +157,7 @@ struct ScatterSizeFontPropertiesManager::Impl
             return 0.0;
         const double magnitude = std::max(std::fabs(min), std::fabs(max));
         double base = 0.0;
-        if (magnitude >= NegligibleMagnitude)
-        {
+        if (magnitude >= NegligibleMagnitude) {
             double xMin = 0.0, yMin = 0.0, xMax = 0.0, yMax = 0.0;
             OrrUtilAxisGetGridRange(&xMin, &yMin, &xMax, &yMax);
             const double range = yMax - yMin;
@@ -189,8 +186,7 @@ struct ScatterSizeFontPropertiesManager::Impl
 
 ScatterSizeFontPropertiesManager::ScatterSizeFontPropertiesManager(pm::ScatterSizeFontPropertiesGenerated& generated)
     : m_impl(new Impl(generated))
-{
-}
+{}
 
 ScatterSizeFontPropertiesManager::~ScatterSizeFontPropertiesManager() = default;
 
@@ -247,12 +243,9 @@ boost::shared_ptr<pb::models::EnabledVariablesListModel> ScatterSizeFontProperti
 void ScatterSizeFontPropertiesManager::recalculateSize()
 {
     const double multiplier = m_impl->defaultMultiplierValue(m_impl->generated.scatterSizeInGridUnits()->getValue());
-    try
-    {
+    try {
         m_impl->generated.scatterRelativeSize()->setValue(multiplier);
-    }
-    catch (const InvalidPropertyValueException& refusal)
-    {
+    } catch (const InvalidPropertyValueException& refusal) {
         // Runs from a button: the kernel's reason is told, not thrown into Qt.
         pb::intern::showRejectedValueMessage(refusal);
     }

@@ -20,13 +20,12 @@ VariableChoiceBindings::VariableChoiceBindings(const ModelPtr& variables, QCombo
                                                const PropertyPtr (&properties)[3])
     : m_variables(variables)
 {
-    for (int i = 0; i < 3; ++i)
-    {
+    for (int i = 0; i < 3; ++i) {
         m_properties[i] = properties[i];
         combos[i]->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combos[i]->setMinimumContentsLength(ComboMinimumContentsLength);
-        m_bindings.push_back(
-            new pb::ComboBoxPropertyBinding<int>(*combos[i], properties[i], variables, pb::BindingInterface::ModelUpdate_Immediate));
+        m_bindings.push_back(new pb::ComboBoxPropertyBinding<int>(*combos[i], properties[i], variables,
+                                                                  pb::BindingInterface::ModelUpdate_Immediate));
     }
     variables->connectToEveryChange([this] { keepChoicesListed(); }, m_connections);
     keepChoicesListed();
@@ -37,16 +36,12 @@ VariableChoiceBindings::~VariableChoiceBindings() = default;
 void VariableChoiceBindings::keepChoicesListed()
 {
     const int shown = m_variables->size() > 0 ? m_variables->get(0) : 0;
-    for (const PropertyPtr& property : m_properties)
-    {
+    for (const PropertyPtr& property : m_properties) {
         if (m_variables->indexOf(property->getValue()) >= 0)
             continue;
-        try
-        {
+        try {
             property->setValue(shown);
-        }
-        catch (const InvalidPropertyValueException&)
-        {
+        } catch (const InvalidPropertyValueException&) {
             // A caller's property that refuses the replacement keeps its value;
             // OK then writes what the user last chose.
         }

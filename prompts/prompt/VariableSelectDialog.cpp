@@ -72,15 +72,13 @@ struct VariableSelectDialog::Impl
     Ui_VariableSelectDialog ui;
     boost::shared_ptr<VarProperty> var1, var2, var3;
     std::unique_ptr<VariableChoiceBindings> bindings;
-    boost::function<void ()> postAssignmentAction;
+    boost::function<void()> postAssignmentAction;
 };
 
 VariableSelectDialog::Impl::Impl(QDialog& dialog, const toolbox::StringList& var1Path,
-                                                   const toolbox::StringList& var2Path,
-                                                   const toolbox::StringList& var3Path,
-                                                   const std::string& instructions,
-                                                   const std::vector<std::string>& labels,
-                                                   const DefaultVarAssignmentInterface& assignment)
+                                 const toolbox::StringList& var2Path, const toolbox::StringList& var3Path,
+                                 const std::string& instructions, const std::vector<std::string>& labels,
+                                 const DefaultVarAssignmentInterface& assignment)
     : instructions(instructions), labels(labels), hasThirdVariable(var3Path.count() > 0),
       hasStyleValues(var1Path.count() > 0 && var2Path.count() > 0),
       variablesModel(boost::make_shared<VariableChoiceBindings::ModelPtr::element_type>())
@@ -109,12 +107,9 @@ void VariableSelectDialog::Impl::showTexts()
     ui.instructions_label->setText(ascii(instructions));
     ui.var1_label->setText(first);
     ui.var2_label->setText(second);
-    if (hasThirdVariable)
-    {
+    if (hasThirdVariable) {
         ui.var3_label->setText(third);
-    }
-    else
-    {
+    } else {
         ui.var3_label->setVisible(false);
         ui.var3_comboBox->setVisible(false);
     }
@@ -123,10 +118,8 @@ void VariableSelectDialog::Impl::showTexts()
 bool VariableSelectDialog::Impl::applyChoices(std::string& refusal)
 {
     UndoStep step(UndoCategoryDialogStyle);
-    try
-    {
-        if (hasStyleValues)
-        {
+    try {
+        if (hasStyleValues) {
             var1->apply();
             var2->apply();
         }
@@ -135,19 +128,13 @@ bool VariableSelectDialog::Impl::applyChoices(std::string& refusal)
         if (postAssignmentAction)
             postAssignmentAction();
         return true;
-    }
-    catch (const InvalidPropertyValueException& e)
-    {
+    } catch (const InvalidPropertyValueException& e) {
         refusal = e.what();
-    }
-    catch (const std::exception& e)
-    {
+    } catch (const std::exception& e) {
         refusal = e.what();
     }
     return false;
 }
-
-
 
 VariableSelectDialog* VariableSelectDialog::getInstance(QWidget& parent, const toolbox::StringList& var1Path,
                                                         const toolbox::StringList& var2Path,
@@ -159,13 +146,10 @@ VariableSelectDialog* VariableSelectDialog::getInstance(QWidget& parent, const t
     if (VariableSelectDialog* live = liveInstance())
         return live;
     VariableSelectDialog* dialog = obtain(parent);
-    try
-    {
-        dialog->install(std::make_unique<Impl>(*dialog, var1Path, var2Path, var3Path,
-                                                                   instructions, labels, assignment));
-    }
-    catch (...)
-    {
+    try {
+        dialog->install(
+            std::make_unique<Impl>(*dialog, var1Path, var2Path, var3Path, instructions, labels, assignment));
+    } catch (...) {
         // A dialog without its lists must not be handed out by the next call.
         delete dialog;
         throw;
@@ -185,7 +169,7 @@ void VariableSelectDialog::install(std::unique_ptr<Impl> impl)
     m_impl = std::move(impl);
 }
 
-void VariableSelectDialog::setPostAssignmentAction(boost::function<void ()> action)
+void VariableSelectDialog::setPostAssignmentAction(boost::function<void()> action)
 {
     if (m_impl)
         m_impl->postAssignmentAction = std::move(action);
@@ -193,8 +177,7 @@ void VariableSelectDialog::setPostAssignmentAction(boost::function<void ()> acti
 
 void VariableSelectDialog::launch()
 {
-    if (!m_impl)
-    {
+    if (!m_impl) {
         setResult(Rejected);
         return;
     }
@@ -204,16 +187,14 @@ void VariableSelectDialog::launch()
 
 void VariableSelectDialog::accept()
 {
-    if (!m_impl || !isRelevant())
-    {
+    if (!m_impl || !isRelevant()) {
         QtDialogAbstract::accept();
         return;
     }
     std::string refusal;
     {
         sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-        if (m_impl->applyChoices(refusal))
-        {
+        if (m_impl->applyChoices(refusal)) {
             QtDialogAbstract::accept();
             return;
         }

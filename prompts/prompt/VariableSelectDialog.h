@@ -17,8 +17,8 @@ namespace prompt {
 // writes each to the style value the caller names when the user presses OK.
 // Nothing reaches the kernel before OK; OK is one undoable step.
 class ORRERY_PROMPTS_EXPORT VariableSelectDialog : public common::QtDialogAbstract,
-                             public virtual common::DialogInterface,
-                             public SingleInstanceDialog<VariableSelectDialog>
+                                                   public virtual common::DialogInterface,
+                                                   public SingleInstanceDialog<VariableSelectDialog>
 {
     Q_OBJECT
 public:
@@ -37,9 +37,8 @@ public:
     // two texts, three with a third variable; launch() checks that.
     // Throws what the assignment throws, and then leaves no dialog behind.
     static VariableSelectDialog* getInstance(QWidget& parent, const toolbox::StringList& var1Path,
-                                             const toolbox::StringList& var2Path,
-                                             const toolbox::StringList& var3Path, const std::string& instructions,
-                                             const std::vector<std::string>& labels,
+                                             const toolbox::StringList& var2Path, const toolbox::StringList& var3Path,
+                                             const std::string& instructions, const std::vector<std::string>& labels,
                                              const DefaultVarAssignmentInterface& assignment);
 
     explicit VariableSelectDialog(QWidget& parent);
@@ -47,7 +46,7 @@ public:
 
     // Run after the values are written, inside the same undo step. Replaces
     // the action set before.
-    void setPostAssignmentAction(boost::function<void ()> action);
+    void setPostAssignmentAction(boost::function<void()> action);
 
     // Throws std::out_of_range, before showing anything, when labels are missing.
     void launch() override;

@@ -30,12 +30,11 @@ void VectorVariableSelectDialog::VectorVarAssignment::assignVariables(PropertyAb
 VariableSelectDialog* VectorVariableSelectDialog::getInstance(QWidget& parent, PlotType_e plotType)
 {
     sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-    const char* const root = plotType == PlotType_TwoD    ? "GlobalTwoDVector"
+    const char* const root = plotType == PlotType_TwoD     ? "GlobalTwoDVector"
                              : plotType == PlotType_ThreeD ? "GlobalThreeDVector"
                                                            : nullptr;
     toolbox::StringList paths[3];
-    if (root)
-    {
+    if (root) {
         paths[0] = {root, "UVar"};
         paths[1] = {root, "VVar"};
         if (plotType == PlotType_ThreeD)
@@ -44,13 +43,14 @@ VariableSelectDialog* VectorVariableSelectDialog::getInstance(QWidget& parent, P
     std::vector<std::string> labels = {"&U", "&V"};
     if (plotType == PlotType_ThreeD)
         labels.push_back("&W");
-    return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2], QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the vector variables."),
+    return VariableSelectDialog::getInstance(parent, paths[0], paths[1], paths[2],
+                                             QT_TRANSLATE_NOOP("VariableSelectDialog", "Choose the vector variables."),
                                              labels, VectorVarAssignment(plotType));
 }
 
 boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> VectorVariableSelectDialog::relevance()
 {
-    static const std::function<PlotType_e ()> plotType = OrrUtilFrameGetPlotType;
+    static const std::function<PlotType_e()> plotType = OrrUtilFrameGetPlotType;
     static const boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance =
         boost::make_shared<sdk::ui::propertymanager::StateChangeDependentRelevance>(
             [] { return AxisVariableSelectDialog::frameShowsFieldPlot(plotType); });

@@ -24,9 +24,9 @@ struct ZoneSelectDialog::Impl
     {
         // Deferred: zones enabled or disabled while the dialog is open update the
         // list and drop a selected zone that went, once the host is idle.
-        auto* binding = new pb::ListViewPropertyBinding(*ui.Zone_Source_MList, manager.selectedZones(),
-                                                        manager.enabledZonesModel(),
-                                                        pb::BindingInterface::WidgetUpdateMode_OnIdle);
+        auto* binding =
+            new pb::ListViewPropertyBinding(*ui.Zone_Source_MList, manager.selectedZones(), manager.enabledZonesModel(),
+                                            pb::BindingInterface::WidgetUpdateMode_OnIdle);
         bindings.push_back(binding);
         binding->init(pb::BindingInterface::ModelUpdate_Immediate);
         binding->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -46,7 +46,8 @@ ZoneSelectDialog* ZoneSelectDialog::getInstance(QWidget& parent, int zone)
     return dialog;
 }
 
-ZoneSelectDialog::ZoneSelectDialog(QWidget& parent, int) : QtDialogAbstract(parent, relevance()), m_impl(new Impl(*this))
+ZoneSelectDialog::ZoneSelectDialog(QWidget& parent, int)
+    : QtDialogAbstract(parent, relevance()), m_impl(new Impl(*this))
 {
     connect(m_impl->ui.Zone_Source_MList, &QListView::doubleClicked, this, &QDialog::accept);
     setHelpAction(new common::LaunchHelpAction("select_mapping_zone.html", *this));

@@ -11,8 +11,8 @@ namespace prompt {
 // Lets the user pick one zone of the current frame from a list; a double
 // click on a zone picks it and closes the dialog.
 class ORRERY_PROMPTS_EXPORT ZoneSelectDialog : public common::QtDialogAbstract,
-                         public virtual common::DialogInterface,
-                         public SingleInstanceDialog<ZoneSelectDialog>
+                                               public virtual common::DialogInterface,
+                                               public SingleInstanceDialog<ZoneSelectDialog>
 {
     Q_OBJECT
 public:

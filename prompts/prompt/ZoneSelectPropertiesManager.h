@@ -20,7 +20,8 @@ public:
     virtual ~ZoneSelectPropertiesManager();
 
     boost::shared_ptr<PropertyAbstract<std::set<int>>> selectedZones();
-    boost::shared_ptr<const sdk::ui::dialogs::propertybindings::models::ListModelInterface<int>> enabledZonesModel() const;
+    boost::shared_ptr<const sdk::ui::dialogs::propertybindings::models::ListModelInterface<int>>
+    enabledZonesModel() const;
 
     // Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();

@@ -52,11 +52,9 @@ void ColorButtonPropertyBinding::updateWidget()
     const std::string name = ColorChooserDialog::colorToString(colorIndex, true);
     if (colorIndex < 0 && !name.empty())
         m_button->setIcon(QIcon(ColorChooserDialog::multiColorIconPath()));
-    else
-    {
+    else {
         QColor fill(Qt::transparent); // an index the colour map does not know
-        if (!name.empty())
-        {
+        if (!name.empty()) {
             unsigned char red = 0, green = 0, blue = 0;
             OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue);
             fill = QColor(red, green, blue, 255);
@@ -64,8 +62,7 @@ void ColorButtonPropertyBinding::updateWidget()
         // One pixmap per pixel density, so that the swatch stays sharp on a
         // high-density screen rather than being scaled up.
         QIcon swatch;
-        for (int ratio = 1; ratio <= 2; ++ratio)
-        {
+        for (int ratio = 1; ratio <= 2; ++ratio) {
             QPixmap pixels(SwatchSize * ratio, SwatchSize * ratio);
             pixels.setDevicePixelRatio(ratio);
             pixels.fill(fill);

@@ -48,8 +48,7 @@ protected:
     // the base initializer named here is never used.
     explicit GeneratedStylePropertySet(const toolbox::StringList& prefix)
         : UIKernelStylePropertiesAbstract(true), m_prefix(prefix)
-    {
-    }
+    {}
 
     template <typename T>
     GeneratedStyleEntry<T> makeEntry(const char* group, const char* name)
@@ -78,24 +77,28 @@ private:
 
 // The two constructors of a generated set: the virtual base takes the given
 // modality, or the parent (whose modality the set then shares).
-#define ORRERY_GENERATED_STYLE_SET(Set)                                                          \
-public:                                                                                          \
-    Set(bool modal, const toolbox::StringList& prefix)                                           \
-        : UIKernelStylePropertiesAbstract(modal), GeneratedStylePropertySet(prefix)              \
-    {                                                                                            \
-    }                                                                                            \
-    Set(UIKernelStylePropertiesAbstract* parent, const toolbox::StringList& prefix)              \
-        : UIKernelStylePropertiesAbstract(parent), GeneratedStylePropertySet(prefix)             \
-    {                                                                                            \
-    }
+#define ORRERY_GENERATED_STYLE_SET(Set)                                                                                \
+public:                                                                                                                \
+    Set(bool modal, const toolbox::StringList& prefix)                                                                 \
+        : UIKernelStylePropertiesAbstract(modal), GeneratedStylePropertySet(prefix)                                    \
+    {}                                                                                                                 \
+    Set(UIKernelStylePropertiesAbstract* parent, const toolbox::StringList& prefix)                                    \
+        : UIKernelStylePropertiesAbstract(parent), GeneratedStylePropertySet(prefix)                                   \
+    {}
 
 // One style value of a generated set: its accessor, its setter, and its entry,
 // made from the style group and value name as the set is constructed (entries
 // are made in the order they are declared).
-#define ORRERY_GENERATED_STYLE_ENTRY(T, accessor, setter, group, name)                           \
-public:                                                                                          \
-    boost::shared_ptr<PropertyAbstract<T>> accessor() const { return m_##accessor.property; }    \
-    void setter(const boost::shared_ptr<PropertyAbstract<T>>& property) { m_##accessor.property = property; } \
-                                                                                                 \
-private:                                                                                         \
+#define ORRERY_GENERATED_STYLE_ENTRY(T, accessor, setter, group, name)                                                 \
+public:                                                                                                                \
+    boost::shared_ptr<PropertyAbstract<T>> accessor() const                                                            \
+    {                                                                                                                  \
+        return m_##accessor.property;                                                                                  \
+    }                                                                                                                  \
+    void setter(const boost::shared_ptr<PropertyAbstract<T>>& property)                                                \
+    {                                                                                                                  \
+        m_##accessor.property = property;                                                                              \
+    }                                                                                                                  \
+                                                                                                                       \
+private:                                                                                                               \
     GeneratedStyleEntry<T> m_##accessor = makeEntry<T>(group, name);

@@ -9,8 +9,7 @@ namespace orrery::sdk::ui::propertymanager {
 
 IntensitySpinBoxIncDecCalculator::IntensitySpinBoxIncDecCalculator(const RGBColorOptsPropertiesGenerated& generated)
     : m_generated(generated)
-{
-}
+{}
 
 double IntensitySpinBoxIncDecCalculator::delta()
 {
@@ -19,12 +18,10 @@ double IntensitySpinBoxIncDecCalculator::delta()
     double low = 0.0, high = 0.0;
     bool haveRange = true;
     bool first = true;
-    for (int var : {m_generated.redVar()->getValue(), m_generated.greenVar()->getValue(),
-                    m_generated.blueVar()->getValue()})
-    {
+    for (int var :
+         {m_generated.redVar()->getValue(), m_generated.greenVar()->getValue(), m_generated.blueVar()->getValue()}) {
         double min = 0.0, max = 0.0;
-        if (!OrrUtilVarGetMinMax(var, &min, &max))
-        {
+        if (!OrrUtilVarGetMinMax(var, &min, &max)) {
             haveRange = false;
             break;
         }

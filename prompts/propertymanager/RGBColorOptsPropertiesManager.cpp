@@ -27,11 +27,9 @@ const int LastInvalidatingChange = 44;
 struct RGBColorOptsPropertiesManager::Impl
 {
     explicit Impl(const boost::shared_ptr<const RGBColorOptsPropertiesGenerated>& generated)
-        : generated(generated),
-          rgbModeModel(boost::make_shared<RGBModeModel>(pb::models::rgbMode)),
+        : generated(generated), rgbModeModel(boost::make_shared<RGBModeModel>(pb::models::rgbMode)),
           enabledVariablesModel(boost::make_shared<EnabledVariablesModel>())
-    {
-    }
+    {}
 
     boost::shared_ptr<const RelevanceInterface> calculatedChannelIsNot(RGBMode_e calculatingMode) const
     {
@@ -106,14 +104,11 @@ void RGBColorOptsPropertiesManager::checkAndAssignRGBVars()
     // The candidates are taken even when the host found none: channels it
     // could not fill become unassigned rather than keep invalid variables.
     getValidRGBVarCandidates(OrrUtilFrameGetPlotType(), r, g, b);
-    try
-    {
+    try {
         generated.redVar()->setValue(r);
         generated.greenVar()->setValue(g);
         generated.blueVar()->setValue(b);
-    }
-    catch (const InvalidPropertyValueException& refusal)
-    {
+    } catch (const InvalidPropertyValueException& refusal) {
         // This runs on idle and while the dialog is built: a refusal is told,
         // never thrown into the event loop.
         pb::intern::showRejectedValueMessage(refusal);

@@ -63,10 +63,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
 class DemoHost : public SampleKernelTest
 {
 protected:
-    QImage shown(PlotView& view)
-    {
-        return view.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    }
+    QImage shown(PlotView& view) { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     QAction& action(MainWindow& window, const char* name)
     {
         QAction* found = window.findChild<QAction*>(name);
@@ -172,8 +169,10 @@ TEST_F(DemoHost, UndoAndRedoInTheEditMenuNameTheStepAndTakeItBack)
     EXPECT_EQ(undo.text(), "&Undo Show Scatter");
     QApplication::processEvents(); // the journal view catches up once the window is idle
     const QString journal = window.findChild<QPlainTextEdit*>("journal")->toPlainText();
-    EXPECT_TRUE(journal.startsWith("begin \"Assign Variables\"\nstyle TwoDAxis/XDetail/VarNum 4\n")) << journal.toStdString();
-    EXPECT_TRUE(journal.contains("\nundo\nredo\nstyle FrameLayout/PlotType 1\nbegin \"Show Scatter\"\n")) << journal.toStdString();
+    EXPECT_TRUE(journal.startsWith("begin \"Assign Variables\"\nstyle TwoDAxis/XDetail/VarNum 4\n"))
+        << journal.toStdString();
+    EXPECT_TRUE(journal.contains("\nundo\nredo\nstyle FrameLayout/PlotType 1\nbegin \"Show Scatter\"\n"))
+        << journal.toStdString();
 }
 
 TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNumber)
@@ -210,8 +209,9 @@ TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNum
 TEST_F(DemoHost, PointsColouredByCategoriesGetALegendOfTheirNames)
 {
     std::string error;
-    ASSERT_TRUE(orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("CSV table")->load(
-        std::string(ORRERY_TEST_SAMPLES) + "/text-column.csv", error))
+    ASSERT_TRUE(orrery::sdk::DataLoaderRepository::getInstance()
+                    .loaderNamed("CSV table")
+                    ->load(std::string(ORRERY_TEST_SAMPLES) + "/text-column.csv", error))
         << error;
     Kernel::setStyle({"TwoDAxis", "XDetail", "VarNum"}, 2L);
     Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 3L);
@@ -236,7 +236,8 @@ TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
             continue; // the loader chooser would ask; the loader tests cover those files
         Kernel::loadSampleDataSet();
         EXPECT_TRUE(window.loadFile(info.absoluteFilePath())) << info.fileName().toStdString();
-        EXPECT_NE(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate") << info.fileName().toStdString();
+        EXPECT_NE(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate")
+            << info.fileName().toStdString();
         EXPECT_GT(OrrUtilZoneGetNumPoints(1), 0);
         opened << info.suffix();
     }

@@ -24,8 +24,7 @@ void whenOpen(const std::function<void(QDialog&)>& act)
 }
 
 class DialogExamplesTest : public DialogTest
-{
-};
+{};
 
 TEST_F(DialogExamplesTest, PlainValueAndTextPromptsAnswerWhatTheUserEntered)
 {
@@ -74,8 +73,7 @@ TEST_F(DialogExamplesTest, LoaderChooserAnswersTheChosenLoaderAndTranslationsIns
     EXPECT_EQ(examples::chooseLoaderFor(parent, ".dat"), "Text table");
 
     examples::installGermanTranslation();
-    EXPECT_EQ(QCoreApplication::translate("EnterTextString", "Prompt for text string").toStdString(),
-              "Texteingabe");
+    EXPECT_EQ(QCoreApplication::translate("EnterTextString", "Prompt for text string").toStdString(), "Texteingabe");
 }
 
 } // namespace

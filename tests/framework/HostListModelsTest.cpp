@@ -62,4 +62,3 @@ TEST_F(HostListModelsTest, ZonesAndVariablesFollowTheDataSetAndWhatIsEnabled)
     Kernel::loadSampleDataSet("Small");
     EXPECT_EQ(rowsOf(vars).size(), 2u);
 }
-

@@ -27,8 +27,7 @@ public:
         box->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
         (new QVBoxLayout(this))->addWidget(box);
         setModal(false);
-        if (layoutConnectsButtons)
-        {
+        if (layoutConnectsButtons) {
             connect(box, &QDialogButtonBox::accepted, this, &QDialog::accept);
             connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
         }
@@ -53,8 +52,7 @@ protected:
 
 TEST_F(QtDialogAbstractTest, OkAndCancelEndTheDialogOnceWhetherOrNotTheLayoutConnectedThem)
 {
-    for (bool layoutConnects : {false, true})
-    {
+    for (bool layoutConnects : {false, true}) {
         SCOPED_TRACE(layoutConnects ? "layout connects" : "frame connects");
         ProbeDialog dialog(parent, nullptr, layoutConnects);
         QSignalSpy accepted(&dialog, &QDialog::accepted);

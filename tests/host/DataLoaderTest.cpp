@@ -156,14 +156,17 @@ TEST_F(DataLoading, BadFilesAreRefusedWithFileLineAndColumnAndChangeNothing)
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"a,b\n1,2\n3\n", "ragged.csv, line 3, column 2: 1 value where 2 were expected."},
         {"a,b\n1,2,3,4\n", "ragged.csv, line 2, column 3: 4 values where 2 were expected."},
-        {"a,b\n1,2\n\"3,4\n5,6\n", "ragged.csv, line 3, column 1: a quoted cell is not closed before the end of the file."},
+        {"a,b\n1,2\n\"3,4\n5,6\n",
+         "ragged.csv, line 3, column 1: a quoted cell is not closed before the end of the file."},
         {"a,b\n1,\"2\"x\n", "ragged.csv, line 2, column 2: text follows the closing quote of a cell."},
         {"a,b\n1,2\n3,4\x00\x01\n"s, "ragged.csv, line 3, column 2: byte 0x00 does not belong in a text file."},
         {"x,y\n1,2\n3,abc\n", "ragged.csv, line 3, column 2: \"abc\" is not a number."},
-        {"x,y\n1,2\n3,1e999\n",
-         "ragged.csv, line 3, column 2: \"1e999\" is out of range: a value must lie within +-1.8e308 and not round to zero."},
-        {"x,y\n1,2\n3,inf\n", "ragged.csv, line 3, column 2: \"inf\" is not a finite number; only finite decimal numbers are read."},
-        {"x,y\n1,2\n3,0x1p3\n", "ragged.csv, line 3, column 2: \"0x1p3\" is hexadecimal; only decimal numbers are read."},
+        {"x,y\n1,2\n3,1e999\n", "ragged.csv, line 3, column 2: \"1e999\" is out of range: a value must lie within "
+                                "+-1.8e308 and not round to zero."},
+        {"x,y\n1,2\n3,inf\n",
+         "ragged.csv, line 3, column 2: \"inf\" is not a finite number; only finite decimal numbers are read."},
+        {"x,y\n1,2\n3,0x1p3\n",
+         "ragged.csv, line 3, column 2: \"0x1p3\" is hexadecimal; only decimal numbers are read."},
         {"a,b\n", "ragged.csv holds no rows of values."},
         {"a,b\n1;2;3\n4 5\n6,7,8,9\n1\t2\t3\t4\t5\n",
          "ragged.csv: cannot tell how the values are separated: tried tab, semicolon, comma and spaces; none gives the "
@@ -180,7 +183,8 @@ TEST_F(DataLoading, BadFilesAreRefusedWithFileLineAndColumnAndChangeNothing)
     EXPECT_FALSE(load("Zone blocks", "bad.zbk", "ZONE z\n1 2\n"));
     EXPECT_EQ("bad.zbk, line 1, column 1: a zone starts before the VARIABLES line.", error);
     EXPECT_FALSE(load("Zone blocks", "bad.zbk", "VARIABLES X Y\nZONE z\n1 nan\n"));
-    EXPECT_EQ("bad.zbk, line 3, column 2: \"nan\" is not a finite number; only finite decimal numbers are read.", error);
+    EXPECT_EQ("bad.zbk, line 3, column 2: \"nan\" is not a finite number; only finite decimal numbers are read.",
+              error);
     EXPECT_FALSE(load("Zone blocks", "bad.zbk", "VARIABLES X Y\nZONE z\n1 2 3\n"));
     EXPECT_EQ("bad.zbk, line 3, column 3: more values than the 2 variables.", error);
     EXPECT_EQ((std::vector<std::string>{"a", "b"}), names());
@@ -195,9 +199,10 @@ TEST_F(DataLoading, HugeCellsFoldersAndOddNamesGiveShortClearMessages)
 
     // A long bad field is quoted as a short excerpt, control bytes escaped.
     EXPECT_FALSE(load("CSV table", "long.csv", "a,b\n1,2\n3,\"x\ty" + std::string(5000, 'z') + "\"\n"));
-    EXPECT_EQ("long.csv, line 3, column 2: \"x\\x09yzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzz...\" (5003 characters) is not "
-              "a number.",
-              error);
+    EXPECT_EQ(
+        "long.csv, line 3, column 2: \"x\\x09yzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzzz...\" (5003 characters) is not "
+        "a number.",
+        error);
 
     QDir(folder.path()).mkdir("sub.csv");
     EXPECT_FALSE(loadPath("CSV table", folder.path().toStdString() + "/sub.csv"));
@@ -275,7 +280,8 @@ TEST_F(DataLoading, NumbersAreReadAlikeUnderACommaDecimalLocale)
     // Build a German numeric locale of our own; the system may have none installed.
     const std::string locales = folder.path().toStdString() + "/locales";
     ASSERT_TRUE(QDir().mkpath(QString::fromStdString(locales)));
-    ASSERT_EQ(0, std::system(("localedef -i de_DE -f ISO-8859-1 " + locales + "/de_DE.ISO-8859-1 2>/dev/null").c_str()));
+    ASSERT_EQ(0,
+              std::system(("localedef -i de_DE -f ISO-8859-1 " + locales + "/de_DE.ISO-8859-1 2>/dev/null").c_str()));
     setenv("LOCPATH", locales.c_str(), 1);
     ASSERT_NE(nullptr, std::setlocale(LC_ALL, "de_DE.ISO-8859-1"));
     EXPECT_EQ(1.0, std::strtod("1.5", nullptr)); // the locale is in force
@@ -300,11 +306,14 @@ TEST(NumberRule, DecimalNumbersOnlyAndEachRefusalNamesItsRule)
         double value;
     };
     const Case cases[] = {
-        {"1e-310", false, V::Number, 1e-310}, {"+2.5", false, V::Number, 2.5},  {"-.5", false, V::Number, -0.5},
-        {"1,5", true, V::Number, 1.5},        {"1e-400", false, V::OutOfRange, 0}, {"-1e309", false, V::OutOfRange, 0},
-        {"NaN", false, V::NotFinite, 0},      {"-Infinity", false, V::NotFinite, 0}, {"0X1P3", false, V::Hexadecimal, 0},
-        {"1,5", false, V::WrongDecimalMark, 0}, {"1.5", true, V::WrongDecimalMark, 0}, {"1e", false, V::NotANumber, 0},
-        {"+-1", false, V::NotANumber, 0},     {"", false, V::NotANumber, 0},      {"1 2", false, V::NotANumber, 0},
+        {"1e-310", false, V::Number, 1e-310},  {"+2.5", false, V::Number, 2.5},
+        {"-.5", false, V::Number, -0.5},       {"1,5", true, V::Number, 1.5},
+        {"1e-400", false, V::OutOfRange, 0},   {"-1e309", false, V::OutOfRange, 0},
+        {"NaN", false, V::NotFinite, 0},       {"-Infinity", false, V::NotFinite, 0},
+        {"0X1P3", false, V::Hexadecimal, 0},   {"1,5", false, V::WrongDecimalMark, 0},
+        {"1.5", true, V::WrongDecimalMark, 0}, {"1e", false, V::NotANumber, 0},
+        {"+-1", false, V::NotANumber, 0},      {"", false, V::NotANumber, 0},
+        {"1 2", false, V::NotANumber, 0},
     };
     for (const Case& c : cases) {
         double value = 0;
@@ -324,8 +333,19 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
     // Numbers of every shape the fast route takes or must hand on: long
     // mantissas, extreme exponents, signs, zeros, more than 19 digits.
     const char* shapes[] = {"%.17g", "%.6f", "%.3e", "%+.0f", "%.22e", "%.1f", "%g"};
-    const char* specials[] = {"-0", "0e5", "9007199254740993", "1e22", "1e23", "1e-22", "4.9e-324", "123456789012345678901",
-                              "0.30000000000000004", "+.5", "5.", "1.7976931348623157e308", "-2.2250738585072014e-308"};
+    const char* specials[] = {"-0",
+                              "0e5",
+                              "9007199254740993",
+                              "1e22",
+                              "1e23",
+                              "1e-22",
+                              "4.9e-324",
+                              "123456789012345678901",
+                              "0.30000000000000004",
+                              "+.5",
+                              "5.",
+                              "1.7976931348623157e308",
+                              "-2.2250738585072014e-308"};
     std::string content = "a,b,c\n", blankSeparated;
     std::vector<std::vector<std::string>> cells(3);
     unsigned state = 7;
@@ -342,10 +362,14 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
             }
             cells[c].push_back(text);
             content += text + std::string(c < 2 ? "," : row % 3 ? "\n" : "\r\n");
-            blankSeparated += std::string(c == 0 && row % 2 ? " " : "") + text + (c < 2 ? " \t " : row % 3 ? "\n" : " \r\n");
+            blankSeparated += std::string(c == 0 && row % 2 ? " " : "") + text
+                              + (c < 2     ? " \t "
+                                 : row % 3 ? "\n"
+                                           : " \r\n");
         }
     }
-    for (const auto& [loader, file] : {std::make_pair("CSV table", content), std::make_pair("Text table", blankSeparated)}) {
+    for (const auto& [loader, file] :
+         {std::make_pair("CSV table", content), std::make_pair("Text table", blankSeparated)}) {
         ASSERT_TRUE(load(loader, "exact.csv", file)) << error;
         ASSERT_EQ(20000u, data().pointCount(1));
         for (int c = 0; c < 3; ++c)
@@ -360,7 +384,8 @@ TEST_F(DataLoading, PlainRowsReadEveryNumberExactlyAndKeepLinesCounted)
     // line numbers come out the same, whichever reader took a row.
     std::string mixed = "x;y\n";
     for (int row = 0; row < 5000; ++row)
-        mixed += row % 100 == 7 ? "\n# note\n \"" + std::to_string(row) + "\" ; NA\n" : std::to_string(row) + ";" + std::to_string(row) + ",5\n";
+        mixed += row % 100 == 7 ? "\n# note\n \"" + std::to_string(row) + "\" ; NA\n"
+                                : std::to_string(row) + ";" + std::to_string(row) + ",5\n";
     ASSERT_TRUE(load("CSV table", "mixed.csv", mixed)) << error;
     const std::vector<double> x = column(1), y = column(2);
     ASSERT_EQ(5000u, x.size());
@@ -380,8 +405,9 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
         std::string separator, mark, indent;
         std::unique_ptr<DelimitedTableLoader> onePart, twoParts;
     };
-    Format formats[] = {{";", ",", "", std::make_unique<CsvDataLoader>(), std::make_unique<CsvDataLoader>()},
-                        {" \t", ".", "  ", std::make_unique<TextTableDataLoader>(), std::make_unique<TextTableDataLoader>()}};
+    Format formats[] = {
+        {";", ",", "", std::make_unique<CsvDataLoader>(), std::make_unique<CsvDataLoader>()},
+        {" \t", ".", "  ", std::make_unique<TextTableDataLoader>(), std::make_unique<TextTableDataLoader>()}};
     for (Format& format : formats) {
         SCOPED_TRACE("separator '" + format.separator + "'");
         const std::string& sep = format.separator;
@@ -389,8 +415,8 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
         // second half's rows must move up to follow the first half's last row.
         std::string content = "\xEF\xBB\xBFt" + sep + "p" + sep + "q\r\n# logged\r\n\r\n";
         for (int row = 0; content.size() < (3 << 20); ++row) {
-            content += (row % 5 ? "" : format.indent) + std::to_string(row) + sep + std::to_string(row / 4) + format.mark
-                       + std::to_string(row % 4 * 25) + sep + (row % 97 ? "1" + format.mark + "5" : "NA");
+            content += (row % 5 ? "" : format.indent) + std::to_string(row) + sep + std::to_string(row / 4)
+                       + format.mark + std::to_string(row % 4 * 25) + sep + (row % 97 ? "1" + format.mark + "5" : "NA");
             content += row % 1000 == 3 ? "\r\n\r\n# gap\n" : "\r\n";
         }
         const std::string path = write("two.csv", content);
@@ -411,8 +437,9 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
         // A fault late in the file is reported at the same line and column
         // either way; a fault in each half reports the first.
         const size_t lineStart = content.find('\n', content.size() * 3 / 4) + 1;
-        for (const std::string& fault : {"7" + sep + "x" + sep + "1\r\n", "7" + sep + "8\r\n",
-                                         "7" + sep + "8" + sep + "9" + sep + "10\r\n", "7" + sep + "\x01" + sep + "9\r\n"}) {
+        for (const std::string& fault :
+             {"7" + sep + "x" + sep + "1\r\n", "7" + sep + "8\r\n", "7" + sep + "8" + sep + "9" + sep + "10\r\n",
+              "7" + sep + "\x01" + sep + "9\r\n"}) {
             std::string bad = content;
             bad.insert(lineStart, fault);
             for (const std::string& file : {write("bad.csv", bad), write("worse.csv", bad.insert(200, fault))}) {
@@ -445,8 +472,8 @@ TEST_F(DataLoading, ALongFileReadInTwoPartsGivesWhatOnePartGives)
     CsvDataLoader onePart, twoParts;
     onePart.readInTwoPartsFrom(std::numeric_limits<long long>::max());
     twoParts.readInTwoPartsFrom(1);
-    for (const std::string& content : {"a,b\n# " + std::string(100, 'c') + "\n1,2\n3,4\n", "a,b\nx,1\ny,2\nz,3\n"s,
-                                       "a,b\n1,2\n3,4\n5,6\n7,8\n"s}) {
+    for (const std::string& content :
+         {"a,b\n# " + std::string(100, 'c') + "\n1,2\n3,4\n", "a,b\nx,1\ny,2\nz,3\n"s, "a,b\n1,2\n3,4\n5,6\n7,8\n"s}) {
         const std::string path = write("short.csv", content);
         ASSERT_TRUE(onePart.load(path, error)) << error;
         const std::vector<std::vector<double>> expected = {column(1), column(2)};
@@ -502,28 +529,64 @@ TEST_F(DataLoading, EverySampleShapeLoadsWithItsNamesGapsAndValues)
         const char* file;
         const char* loader;
         std::vector<std::string> names;
-        int var; // whose values are checked
+        int var;                    // whose values are checked
         std::vector<double> values; // missing ones as -999
         std::string summary;
     };
     const std::vector<Expected> all = {
-        {"spreadsheet-export.csv", "CSV table", {"Time (s)", "Voltage", "Current"}, 3,
-         {0, 0.012, -999, 0.037, 0.049}, "comma-separated, decimal point, header row, 1 missing value"},
-        {"semicolon-decimal-comma.csv", "CSV table", {"Messpunkt", "Temperatur", "Druck"}, 2, {21.5, 22.25, -0.5, 23},
+        {"spreadsheet-export.csv",
+         "CSV table",
+         {"Time (s)", "Voltage", "Current"},
+         3,
+         {0, 0.012, -999, 0.037, 0.049},
+         "comma-separated, decimal point, header row, 1 missing value"},
+        {"semicolon-decimal-comma.csv",
+         "CSV table",
+         {"Messpunkt", "Temperatur", "Druck"},
+         2,
+         {21.5, 22.25, -0.5, 23},
          "semicolon-separated, decimal comma, header row, 1 missing value"},
-        {"tab-separated.csv", "CSV table", {"depth", "salinity", "temperature"}, 3, {18.2, 17.9, 16.5, 12.1},
+        {"tab-separated.csv",
+         "CSV table",
+         {"depth", "salinity", "temperature"},
+         3,
+         {18.2, 17.9, 16.5, 12.1},
          "tab-separated, decimal point, header row"},
-        {"text-column.csv", "CSV table", {"species", "sepal_length", "sepal_width", "petal_length", "petal_width"}, 1,
-         {1, 1, 2, 2, 3, 3}, "comma-separated, decimal point, header row, species as 3 categories"},
-        {"missing-values.csv", "CSV table", {"station", "rain_mm", "snow_cm", "wind_kmh"}, 2, {12.5, -999, 3, 0},
+        {"text-column.csv",
+         "CSV table",
+         {"species", "sepal_length", "sepal_width", "petal_length", "petal_width"},
+         1,
+         {1, 1, 2, 2, 3, 3},
+         "comma-separated, decimal point, header row, species as 3 categories"},
+        {"missing-values.csv",
+         "CSV table",
+         {"station", "rain_mm", "snow_cm", "wind_kmh"},
+         2,
+         {12.5, -999, 3, 0},
          "comma-separated, decimal point, header row, 6 missing values"},
-        {"numbers-only.csv", "CSV table", {"V1", "V2", "V3"}, 3, {1, 0.5403, -0.4161, -0.99},
+        {"numbers-only.csv",
+         "CSV table",
+         {"V1", "V2", "V3"},
+         3,
+         {1, 0.5403, -0.4161, -0.99},
          "comma-separated, decimal point, no header row"},
-        {"quoted-names.csv", "CSV table", {"Sample ID", "Note, free text", "Mass \"g\"", "Mass"}, 4, {12.4, 12.9, 12.7},
+        {"quoted-names.csv",
+         "CSV table",
+         {"Sample ID", "Note, free text", "Mass \"g\"", "Mass"},
+         4,
+         {12.4, 12.9, 12.7},
          "comma-separated, decimal point, header row, Sample ID as 3 categories, Note, free text as 3 categories"},
-        {"duplicate-names.csv", "CSV table", {"t", "value", "value_2", "V4", "t_2"}, 4, {100, 200},
+        {"duplicate-names.csv",
+         "CSV table",
+         {"t", "value", "value_2", "V4", "t_2"},
+         4,
+         {100, 200},
          "comma-separated, decimal point, header row"},
-        {"whitespace-columns.txt", "Text table", {"x", "y", "z"}, 3, {1.5, 2.5, 3.5},
+        {"whitespace-columns.txt",
+         "Text table",
+         {"x", "y", "z"},
+         3,
+         {1.5, 2.5, 3.5},
          "separated by spaces, decimal point, header row"},
     };
     for (const Expected& sample : all) {

@@ -88,7 +88,8 @@ TEST_F(KernelDataSet, GridRangeAndUnitsFollowTheAxisVariables)
     writeLong({"TwoDAxis", "YDetail", "VarNum"}, 1); // now 9 units
     EXPECT_EQ(9.0, gridRange()[3]);
     EXPECT_DOUBLE_EQ(1.6, OrrUtilConvertUnits(Units_Grid, Units_Centimetre, 1.0));
-    EXPECT_DOUBLE_EQ(0.5, OrrUtilConvertUnits(Units_Point, Units_Grid, OrrUtilConvertUnits(Units_Grid, Units_Point, 0.5)));
+    EXPECT_DOUBLE_EQ(0.5,
+                     OrrUtilConvertUnits(Units_Point, Units_Grid, OrrUtilConvertUnits(Units_Grid, Units_Point, 0.5)));
 
     Kernel::setPlotType(PlotType_ThreeD); // its own axis assignment, still X and Y
     EXPECT_EQ(1.0, gridRange()[3]);
@@ -128,7 +129,6 @@ TEST_F(KernelDataSet, MissingValuesAreLeftOutOfRangesAndCategoriesStayWithTheirV
               (std::vector<size_t>{held.missingCount(1, 1), held.missingCount(1, 2), held.missingCount(1, 3),
                                    held.missingCount(2, 2)}));
 }
-
 
 TEST_F(KernelDataSet, EnabledSetsBelongToTheirFrame)
 {

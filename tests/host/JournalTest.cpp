@@ -40,16 +40,15 @@ JournalReplayer::Result replay(const std::string& text)
 }
 
 class JournalRecording : public SampleKernelTest
-{
-};
+{};
 
 TEST_F(JournalRecording, EachChangeIsOneLineUnlessRecordingIsSuppressedOrNothingChanged)
 {
     {
         AppLock lock(AppLock::ImplicitMacroRecording_Allow);
         Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 4L);
-        Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 4L);              // unchanged
-        Kernel::setStyle({"GlobalRGB", "RangeMin"}, 5.0);                   // refused: above RangeMax
+        Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 4L); // unchanged
+        Kernel::setStyle({"GlobalRGB", "RangeMin"}, 5.0);     // refused: above RangeMax
         Kernel::setStyle({"FieldMap", "Scatter", "Color"}, -6L, 2);
         Kernel::setStyle({"GlobalRGB", "RangeMax"}, 0.1 + 0.2);
         Kernel::setStyle({"GlobalScatter", "BaseFontFamily"}, std::string("Odd \"Font\" \\ 1"));
@@ -271,8 +270,12 @@ TEST_F(JournalRecording, DeepBracketsCloseInLinearTimeAndTheHistoryKeepsItsNewes
 
 TEST_F(JournalRecording, ValuesReadBackAsWritten)
 {
-    const StyleDatum values[] = {StyleDatum(-7L),   StyleDatum(0.1),      StyleDatum(-2.5e-310),
-                                 StyleDatum(1e300), StyleDatum(true),     StyleDatum(false),
+    const StyleDatum values[] = {StyleDatum(-7L),
+                                 StyleDatum(0.1),
+                                 StyleDatum(-2.5e-310),
+                                 StyleDatum(1e300),
+                                 StyleDatum(true),
+                                 StyleDatum(false),
                                  StyleDatum(std::string("tab\there \"q\" back\\slash\nline")),
                                  StyleDatum(std::string("\x01\x1b[0m\x7f", 7))};
     for (const StyleDatum& value : values)

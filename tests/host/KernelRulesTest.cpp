@@ -11,7 +11,10 @@ const StringList Mode{"GlobalRGB", "RGBMode"};
 const StringList Red{"GlobalRGB", "RedChannelVar"};
 using Events = StateChangeRecorder::Events;
 using Values = std::vector<std::optional<long>>;
-Values scatterColors() { return {readLong(ScatterColor, 1), readLong(ScatterColor, 2), readLong(ScatterColor, 3)}; }
+Values scatterColors()
+{
+    return {readLong(ScatterColor, 1), readLong(ScatterColor, 2), readLong(ScatterColor, 3)};
+}
 
 typedef SampleKernelTest StyleWrite; // five variables
 
@@ -24,13 +27,11 @@ TEST_F(StyleWrite, IntegerRulesRefuseLeavingTheOldValueAndExplainWhy)
         StringList path;
         long value;
         std::string text;
-    } refusals[] = {
-        {Red, 9, "Variable number 9 is out of range (1 to 5)."},
-        {{"TwoDAxis", "XDetail", "VarNum"}, -1, "Variable number -1 is out of range (1 to 5)."},
-        {Mode, 4, "RGB mode 4 is not valid (0 to 3)."},
-        {{"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}};
-    for (const auto& r : refusals)
-    {
+    } refusals[] = {{Red, 9, "Variable number 9 is out of range (1 to 5)."},
+                    {{"TwoDAxis", "XDetail", "VarNum"}, -1, "Variable number -1 is out of range (1 to 5)."},
+                    {Mode, 4, "RGB mode 4 is not valid (0 to 3)."},
+                    {{"FrameLayout", "PlotType"}, 0, "Plot type 0 is not valid (1 to 5)."}};
+    for (const auto& r : refusals) {
         SCOPED_TRACE(r.text);
         const auto before = readLong(r.path);
         ASSERT_TRUE(before);
@@ -83,7 +84,8 @@ TEST_F(StyleWrite, UnknownPathsAndValuesOfTheWrongTypeAreRefused)
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 0.0, AssignOp_DivideEquals));
     EXPECT_EQ(SetValue_InvalidValue, writeFinal<double>({"GlobalScatter", "RelativeSize"}, 2.0, AssignOp_MinusEquals));
     EXPECT_EQ(1.5, readFinal<double>({"GlobalScatter", "RelativeSize"}));
-    EXPECT_EQ(SetValue_InvalidOperator, writeFinal<bool>({"GlobalScatter", "BaseFontIsBold"}, true, AssignOp_PlusEquals));
+    EXPECT_EQ(SetValue_InvalidOperator,
+              writeFinal<bool>({"GlobalScatter", "BaseFontIsBold"}, true, AssignOp_PlusEquals));
 }
 
 TEST_F(StyleWrite, DeclinedWritesAreSilentAndForcedOutcomesApplyToTheNextWriteOnly)
@@ -227,11 +229,11 @@ TEST_F(StateChange, StyleDataSetFrameAndPageChangesAreAnnouncedWithTheirCodes)
     Kernel::setFrameCount(3);
     Kernel::setFrameCount(1);
     Kernel::setPageCount(0);
-    EXPECT_EQ((std::vector<StateChange_e>{StateChange_DataSetReset, StateChange_DataSetReset,
-                                          StateChange_EnabledVarsChanged, StateChange_FrameAdded,
-                                          StateChange_NewTopFrame, StateChange_FrameDeleted, StateChange_NewTopFrame,
-                                          StateChange_FrameDeleted, StateChange_PageCountChanged}),
-              changes.codes());
+    EXPECT_EQ(
+        (std::vector<StateChange_e>{StateChange_DataSetReset, StateChange_DataSetReset, StateChange_EnabledVarsChanged,
+                                    StateChange_FrameAdded, StateChange_NewTopFrame, StateChange_FrameDeleted,
+                                    StateChange_NewTopFrame, StateChange_FrameDeleted, StateChange_PageCountChanged}),
+        changes.codes());
     EXPECT_EQ(0, OrrUtilFrameGetCount());
 }
 

@@ -38,8 +38,8 @@ auto access(const Style& style, bool write, long first, const Set* set, AssignOp
     return call(args);
 }
 
-inline SetValueReturnCode_e writeLong(const StringList& path, long value, long first = -1,
-                                      const Set* set = nullptr, AssignOp_e op = AssignOp_Equals)
+inline SetValueReturnCode_e writeLong(const StringList& path, long value, long first = -1, const Set* set = nullptr,
+                                      AssignOp_e op = AssignOp_Equals)
 {
     const CheckedStyleValue style{StyleValue(path)};
     return access(style, true, first, set, op, [&](ArgList& args) {

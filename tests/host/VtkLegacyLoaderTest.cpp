@@ -87,8 +87,8 @@ TEST_F(VtkLoading, AsciiStructuredPointsGiveCoordinatesFromOriginAndSpacingAndEv
                      "1 0 0  0 1 0  0 0 1\n1 1 1  2 2 2  nan 3 3\n"))
         << error;
     EXPECT_EQ(data().title(), "A small field");
-    EXPECT_EQ(varNames(), (std::vector<std::string>{"X", "Y", "Z", "pressure", "velocity_X", "velocity_Y",
-                                                    "velocity_Z"}));
+    EXPECT_EQ(varNames(),
+              (std::vector<std::string>{"X", "Y", "Z", "pressure", "velocity_X", "velocity_Y", "velocity_Z"}));
     EXPECT_EQ(values("X"), (std::vector<double>{1, 1.5, 2, 1, 1.5, 2}));
     EXPECT_EQ(values("Y"), (std::vector<double>{-1, -1, -1, 1, 1, 1}));
     EXPECT_EQ(values("Z"), (std::vector<double>(6, 0.5)));
@@ -177,7 +177,8 @@ TEST_F(VtkLoading, BadFilesAreRefusedWithFileAndLineAndTheDataSetKept)
         {head + "POINT_DATA 2\nTEXTURE_COORDINATES t 99999999999 float\n", "1 to 64 components"},
         {"# vtk DataFile Version 3.0\nt\nASCII\n" + QByteArray(5000, 'D'), "longer than 4096 characters"},
         // One rule for every loader: values are finite, wherever they come from.
-        {head + "POINT_DATA 2\nSCALARS p float\nLOOKUP_TABLE default\n1 inf\n", "line 9: \"inf\" is not a finite number"},
+        {head + "POINT_DATA 2\nSCALARS p float\nLOOKUP_TABLE default\n1 inf\n",
+         "line 9: \"inf\" is not a finite number"},
         {"# vtk DataFile Version 3.0\nt\nASCII\nDATASET STRUCTURED_POINTS\nDIMENSIONS 2 1 1\nSPACING inf 1 1\n",
          "line 6: SPACING's \"inf\" is not a finite number"},
         {"# vtk DataFile Version 3.0\nt\nASCII\nDATASET STRUCTURED_POINTS\nDIMENSIONS 3 1 1\nSPACING 1e308 1 1\n"
@@ -194,7 +195,8 @@ TEST_F(VtkLoading, BadFilesAreRefusedWithFileAndLineAndTheDataSetKept)
         EXPECT_EQ(data().title(), "Heated plate");
     }
 
-    EXPECT_FALSE(DataLoaderRepository::getInstance().loaderNamed("VTK legacy")->load(folder.path().toStdString(), error));
+    EXPECT_FALSE(
+        DataLoaderRepository::getInstance().loaderNamed("VTK legacy")->load(folder.path().toStdString(), error));
     EXPECT_NE(error.find("is a folder"), std::string::npos) << error;
 }
 
@@ -209,13 +211,16 @@ TEST_F(VtkLoading, HugeGridsAndPipesAreRefusedAtOnce)
     }
     EXPECT_FALSE(load(wraps));
     EXPECT_NE(error.find("the grid's sizes 2097152 x 2097152 x 4194304 give more points than can be counted"),
-              std::string::npos) << error;
+              std::string::npos)
+        << error;
     EXPECT_EQ(data().title(), "Heated plate");
 
     // A pipe named like a VTK file would block the reader: refused before reading.
     const QString fifo = QDir(folder.path()).filePath("pipe.vtk");
     ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
-    EXPECT_FALSE(DataLoaderRepository::getInstance().loaderNamed("VTK legacy")->load(QFile::encodeName(fifo).toStdString(), error));
+    EXPECT_FALSE(DataLoaderRepository::getInstance()
+                     .loaderNamed("VTK legacy")
+                     ->load(QFile::encodeName(fifo).toStdString(), error));
     EXPECT_NE(error.find("pipe.vtk"), std::string::npos) << error;
     EXPECT_EQ(data().title(), "Heated plate");
 }
@@ -248,8 +253,8 @@ TEST_F(VtkLoading, ALongLoadReportsProgressAndCancellingItKeepsTheDataSet)
 {
     const int n = 600000; // about 5 MB of doubles
     QByteArray file = "# vtk DataFile Version 3.0\nbig\nBINARY\nDATASET STRUCTURED_POINTS\n";
-    file += "DIMENSIONS " + QByteArray::number(n) + " 1 1\nPOINT_DATA " + QByteArray::number(n) +
-            "\nSCALARS s double\nLOOKUP_TABLE default\n";
+    file += "DIMENSIONS " + QByteArray::number(n) + " 1 1\nPOINT_DATA " + QByteArray::number(n)
+            + "\nSCALARS s double\nLOOKUP_TABLE default\n";
     file += bigEndian(std::vector<double>(size_t(n), 1.0));
     std::vector<std::uint64_t> reports;
     LoadProgress::setHandler([&](std::uint64_t done, std::uint64_t total) {

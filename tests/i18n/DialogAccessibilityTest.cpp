@@ -40,11 +40,11 @@ bool interactive(const QWidget& widget)
     if (qobject_cast<const QScrollBar*>(&widget))
         return false;
     if (qobject_cast<const QLineEdit*>(&widget))
-        return !qobject_cast<QAbstractSpinBox*>(widget.parentWidget()) &&
-               !qobject_cast<QComboBox*>(widget.parentWidget());
-    return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-           qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget) ||
-           qobject_cast<const QAbstractSlider*>(&widget);
+        return !qobject_cast<QAbstractSpinBox*>(widget.parentWidget())
+               && !qobject_cast<QComboBox*>(widget.parentWidget());
+    return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QComboBox*>(&widget)
+           || qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget)
+           || qobject_cast<const QAbstractSlider*>(&widget);
 }
 
 QString describe(const QWidget& widget)
@@ -66,8 +66,7 @@ QString accessibleName(QWidget& widget)
 QChar mnemonicOf(const QString& text)
 {
     for (int i = 0; i + 1 < text.size(); ++i)
-        if (text[i] == '&')
-        {
+        if (text[i] == '&') {
             if (text[i + 1] != '&')
                 return text[i + 1].toUpper();
             ++i;
@@ -77,8 +76,7 @@ QChar mnemonicOf(const QString& text)
 
 void settle()
 {
-    for (int i = 0; i < 3; ++i)
-    {
+    for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
         testsupport::runIdle();
     }
@@ -101,8 +99,7 @@ protected:
     // cancels it.
     void forEachDialog(const std::function<void(QtDialogAbstract&)>& check)
     {
-        for (const everydialog::Opener& opener : everydialog::openers())
-        {
+        for (const everydialog::Opener& opener : everydialog::openers()) {
             SCOPED_TRACE(opener.name);
             QtDialogAbstract* dialog = opener.open(parent);
             ASSERT_TRUE(dialog->isRelevant());
@@ -133,8 +130,7 @@ TEST_P(EveryDialog, NamesEveryControlForAssistiveTechnology)
 {
     forEachDialog([](QtDialogAbstract& dialog) {
         for (QWidget* widget : dialog.findChildren<QWidget*>())
-            if (shown(*widget, dialog) && interactive(*widget))
-            {
+            if (shown(*widget, dialog) && interactive(*widget)) {
                 EXPECT_FALSE(accessibleName(*widget).isEmpty()) << "unnamed: " << describe(*widget).toStdString();
             }
     });
@@ -145,25 +141,20 @@ TEST_P(EveryDialog, GivesEachMnemonicToOneControlAndLandsOnIt)
     forEachDialog([](QtDialogAbstract& dialog) {
         std::map<QChar, QStringList> owners;
         std::vector<std::pair<QChar, QWidget*>> labelled;
-        for (QWidget* widget : dialog.findChildren<QWidget*>())
-        {
+        for (QWidget* widget : dialog.findChildren<QWidget*>()) {
             if (!shown(*widget, dialog))
                 continue;
             QChar key;
-            if (auto* label = qobject_cast<QLabel*>(widget))
-            {
+            if (auto* label = qobject_cast<QLabel*>(widget)) {
                 key = mnemonicOf(label->text());
-                if (!key.isNull())
-                {
+                if (!key.isNull()) {
                     EXPECT_TRUE(label->buddy() && shown(*label->buddy(), dialog))
                         << "mnemonic without a control: " << describe(*label).toStdString();
-                    if (label->buddy())
-                    {
+                    if (label->buddy()) {
                         labelled.emplace_back(key, label->buddy());
                     }
                 }
-            }
-            else if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            } else if (auto* button = qobject_cast<QAbstractButton*>(widget))
                 key = mnemonicOf(button->text());
             else if (auto* box = qobject_cast<QGroupBox*>(widget))
                 key = box->isCheckable() ? mnemonicOf(box->title()) : QChar();
@@ -176,8 +167,7 @@ TEST_P(EveryDialog, GivesEachMnemonicToOneControlAndLandsOnIt)
 
         dialog.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-        for (const auto& [key, buddy] : labelled)
-        {
+        for (const auto& [key, buddy] : labelled) {
             if (!buddy->isEnabled())
                 continue;
             // Letters and Latin-1 letters are their own key codes.
@@ -196,32 +186,29 @@ TEST_P(EveryDialog, ReachesEveryControlByTab)
         // From the first control in the dialog's focus order, as a user who
         // clicked into it would start.
         QWidget* start = dialog.nextInFocusChain();
-        while (start != &dialog && !(start->isEnabled() && start->isVisibleTo(&dialog) &&
-                                     (start->focusPolicy() & Qt::TabFocus) && !start->focusProxy()))
+        while (start != &dialog
+               && !(start->isEnabled() && start->isVisibleTo(&dialog) && (start->focusPolicy() & Qt::TabFocus)
+                    && !start->focusProxy()))
             start = start->nextInFocusChain();
         ASSERT_NE(start, &dialog) << "nothing takes the focus";
         start->setFocus(Qt::TabFocusReason);
         // One round of Tab visits each control once and comes back to the start.
         std::set<QWidget*> reached;
         bool wrapped = false;
-        for (int i = 0; i < 200 && !wrapped; ++i)
-        {
+        for (int i = 0; i < 200 && !wrapped; ++i) {
             QWidget* current = dialog.focusWidget();
             ASSERT_NE(current, nullptr) << "Tab lost the focus";
-            ASSERT_TRUE(reached.insert(current).second)
-                << "Tab comes back to " << describe(*current).toStdString() << " before returning to "
-                << describe(*start).toStdString();
+            ASSERT_TRUE(reached.insert(current).second) << "Tab comes back to " << describe(*current).toStdString()
+                                                        << " before returning to " << describe(*start).toStdString();
             QTest::keyClick(current, Qt::Key_Tab);
             wrapped = dialog.focusWidget() == start;
         }
         EXPECT_TRUE(wrapped) << "Tab never returns to " << describe(*start).toStdString();
-        for (QWidget* widget : dialog.findChildren<QWidget*>())
-        {
+        for (QWidget* widget : dialog.findChildren<QWidget*>()) {
             if (!shown(*widget, dialog) || !widget->isEnabled() || !interactive(*widget) || reached.count(widget))
                 continue;
             // Arrow keys move within a group of radio buttons; Tab enters the group.
-            if (auto* radio = qobject_cast<QRadioButton*>(widget); radio && radio->autoExclusive())
-            {
+            if (auto* radio = qobject_cast<QRadioButton*>(widget); radio && radio->autoExclusive()) {
                 bool groupReached = false;
                 for (QRadioButton* sibling : radio->parentWidget()->findChildren<QRadioButton*>())
                     groupReached |= sibling->parentWidget() == radio->parentWidget() && reached.count(sibling);

@@ -48,12 +48,11 @@ TEST(LanguageChoice, WhatCannotBeLoadedLeavesEnglishWithOneWarning)
     QTemporaryDir dir;
     const QByteArray german = builtInGerman();
     ASSERT_GT(german.size(), 64);
-    write(dir.filePath("orrery_de.qm"), german.left(german.size() / 2));    // cut short
-    write(dir.filePath("orrery_fr.qm"), QByteArray(4096, '\x5a'));          // not a translation at all
+    write(dir.filePath("orrery_de.qm"), german.left(german.size() / 2));            // cut short
+    write(dir.filePath("orrery_fr.qm"), QByteArray(4096, '\x5a'));                  // not a translation at all
     write(dir.filePath("orrery_it.qm"), german.left(16) + QByteArray(200, '\xff')); // right header, garbage body
-    write(dir.filePath("orrery_es.qm"), QByteArray());                      // empty
-    for (const char* language : {"de", "fr", "it", "es", "pt", "xx-YY", "../de"})
-    {
+    write(dir.filePath("orrery_es.qm"), QByteArray());                              // empty
+    for (const char* language : {"de", "fr", "it", "es", "pt", "xx-YY", "../de"}) {
         SCOPED_TRACE(language);
         const QStringList problems = Translations::install(*QCoreApplication::instance(), language, dir.path());
         ASSERT_EQ(problems.size(), 1);

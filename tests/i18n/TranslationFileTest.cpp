@@ -38,37 +38,30 @@ std::vector<Message> readTs(const QString& path)
     std::vector<Message> messages;
     QString context;
     Message current;
-    while (!xml.atEnd())
-    {
+    while (!xml.atEnd()) {
         xml.readNext();
         if (!xml.isStartElement())
             continue;
         const auto name = xml.name();
         if (name == QLatin1String("name"))
             context = xml.readElementText();
-        else if (name == QLatin1String("message"))
-        {
+        else if (name == QLatin1String("message")) {
             current = Message();
             current.context = context;
             current.numerus = xml.attributes().value("numerus") == QLatin1String("yes");
-        }
-        else if (name == QLatin1String("source"))
+        } else if (name == QLatin1String("source"))
             current.source = xml.readElementText();
-        else if (name == QLatin1String("translation"))
-        {
+        else if (name == QLatin1String("translation")) {
             current.type = xml.attributes().value("type").toString();
-            if (!current.numerus)
-            {
+            if (!current.numerus) {
                 current.translation = xml.readElementText();
                 messages.push_back(current);
             }
-        }
-        else if (name == QLatin1String("numerusform"))
-        {
+        } else if (name == QLatin1String("numerusform")) {
             current.forms << xml.readElementText();
             current.translation = current.forms.front();
-            if (messages.empty() || messages.back().context != current.context ||
-                messages.back().source != current.source)
+            if (messages.empty() || messages.back().context != current.context
+                || messages.back().source != current.source)
                 messages.push_back(current);
             else
                 messages.back() = current;
@@ -98,8 +91,7 @@ int mnemonics(const QString& text)
 {
     int count = 0;
     for (int i = 0; i + 1 < text.size(); ++i)
-        if (text[i] == '&')
-        {
+        if (text[i] == '&') {
             if (text[i + 1] == '&')
                 ++i;
             else if (text[i + 1].isLetterOrNumber())
@@ -115,8 +107,7 @@ TEST(GermanTranslation, EveryTextIsTranslatedAndKeepsItsPlaceholdersAndMnemonic)
     const std::vector<Message> messages = readTs(TsFile);
     ASSERT_GT(messages.size(), 100u);
     QStringList problems;
-    for (const Message& m : messages)
-    {
+    for (const Message& m : messages) {
         if (!m.type.isEmpty())
             problems << where(m) + " is " + m.type;
         else if (m.translation.trimmed().isEmpty())
@@ -129,8 +120,7 @@ TEST(GermanTranslation, EveryTextIsTranslatedAndKeepsItsPlaceholdersAndMnemonic)
             if (!m.translation.isEmpty() && placeholders(text) != wanted)
                 problems << where(m) + " changes the placeholders: \"" + text + "\"";
         // Option texts sit in combo boxes, where '&' is shown as it is.
-        if (m.context != "OptionTables" && !m.translation.isEmpty() &&
-            mnemonics(m.source) != mnemonics(m.translation))
+        if (m.context != "OptionTables" && !m.translation.isEmpty() && mnemonics(m.source) != mnemonics(m.translation))
             problems << where(m) + " gains or loses a mnemonic: \"" + m.translation + "\"";
     }
     EXPECT_TRUE(problems.isEmpty()) << problems.join('\n').toStdString();
@@ -142,10 +132,10 @@ TEST(GermanTranslation, BuiltIntoTheLibraryAsTheFileSays)
     ASSERT_TRUE(translator.load(Translations::builtInDirectory() + "/orrery_de.qm"))
         << "the prompts library carries no compiled German translation";
     QStringList stale;
-    for (const Message& m : readTs(TsFile))
-    {
+    for (const Message& m : readTs(TsFile)) {
         const QByteArray context = m.context.toUtf8(), source = m.source.toUtf8();
-        const QString shown = translator.translate(context.constData(), source.constData(), nullptr, m.numerus ? 1 : -1);
+        const QString shown =
+            translator.translate(context.constData(), source.constData(), nullptr, m.numerus ? 1 : -1);
         if (shown != m.translation)
             stale << where(m) + " shows \"" + shown + "\"";
     }

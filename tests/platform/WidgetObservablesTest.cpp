@@ -37,7 +37,8 @@ TEST(QTextFieldObservableTest, ReturnCommitsOnceAndARefusedOrFailingCommitKeepsT
     EXPECT_EQ(accepted.count(), 1);
 
     // A commit that throws is contained and counts as refused.
-    observable = std::make_unique<QTextFieldObservable>(field, []() -> bool { throw std::runtime_error("kernel gone"); });
+    observable =
+        std::make_unique<QTextFieldObservable>(field, []() -> bool { throw std::runtime_error("kernel gone"); });
     user::open(dialog);
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_Return);
@@ -53,8 +54,8 @@ TEST(HostSpinBoxesTest, ScientificSpinBoxTellsFinishedUnfinishedAndImpossibleTex
     int position = 0;
     const std::vector<std::pair<QString, QValidator::State>> cases = {
         {QStringLiteral("2.5e-3"), QValidator::Acceptable}, {QStringLiteral("-"), QValidator::Intermediate},
-        {QStringLiteral("1e"), QValidator::Intermediate},    {QStringLiteral(""), QValidator::Intermediate},
-        {QStringLiteral("1x"), QValidator::Invalid},         {QStringLiteral("1,5"), QValidator::Invalid}};
+        {QStringLiteral("1e"), QValidator::Intermediate},   {QStringLiteral(""), QValidator::Intermediate},
+        {QStringLiteral("1x"), QValidator::Invalid},        {QStringLiteral("1,5"), QValidator::Invalid}};
     for (auto [text, state] : cases)
         EXPECT_EQ(spin.validate(text, position), state) << text.toStdString();
     spin.setRange(0.0, 1.0);

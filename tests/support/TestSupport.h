@@ -17,7 +17,10 @@ namespace testsupport {
 
 typedef orrery::kernel::KernelDriver Kernel;
 
-inline void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+inline void runIdle()
+{
+    orrery::sdk::ui::common::IdleQueue::instance().flush();
+}
 
 inline std::vector<std::string> messageTexts()
 {
@@ -61,7 +64,8 @@ struct Emissions
 {
     template <typename P>
     explicit Emissions(const P& property)
-        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); })) {}
+        : connection(property.connectToValueChangedSignal([this](const T& v) { values.push_back(v); }))
+    {}
     size_t count() const { return values.size(); }
     std::vector<T> values;
     boost::signals2::scoped_connection connection;
@@ -71,7 +75,8 @@ struct Emissions
 struct RelevanceChanges
 {
     explicit RelevanceChanges(const orrery::sdk::ui::propertymanager::RelevanceInterface& relevance)
-        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; })) {}
+        : connection(relevance.connectToRelevanceChangedSignal([this] { ++count; }))
+    {}
     int count = 0;
     boost::signals2::scoped_connection connection;
 };
@@ -81,9 +86,10 @@ struct StateChangeRecorder
 {
     StateChangeRecorder()
         : connection(orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-              [this](const orrery::sdk::integration::StateChangeEventInterface& e) {
-                  events.emplace_back(e.code(), e.stylePath().join("/"));
-              })) {}
+            [this](const orrery::sdk::integration::StateChangeEventInterface& e) {
+                events.emplace_back(e.code(), e.stylePath().join("/"));
+            }))
+    {}
     std::vector<StateChange_e> codes() const
     {
         std::vector<StateChange_e> all;

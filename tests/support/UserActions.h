@@ -66,7 +66,8 @@ inline void typeAndReturn(QWidget& field, const QString& text)
 
 inline void clickRow(QAbstractItemView& view, int row)
 {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(view.model()->index(row, 0)).center());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      view.visualRect(view.model()->index(row, 0)).center());
 }
 
 } // namespace user

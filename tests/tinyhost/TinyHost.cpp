@@ -51,8 +51,14 @@ bool namesVariable(const std::string& path)
     return false;
 }
 
-bool validVar(int var) { return var >= 1 && var <= int(Host::instance().vars.size()); }
-bool validZone(int zone) { return zone >= 1 && zone <= int(Host::instance().zones.size()); }
+bool validVar(int var)
+{
+    return var >= 1 && var <= int(Host::instance().vars.size());
+}
+bool validZone(int zone)
+{
+    return zone >= 1 && zone <= int(Host::instance().zones.size());
+}
 
 } // namespace
 
@@ -68,11 +74,15 @@ void Host::reset()
     vars = {"x", "y", "Density", "Speed", "Energy"};
     values = {{{0, 1, 2}, {0, 1, 0}, {1, 2, 3}, {5, 6, 7}, {0.1, 0.2, 0.3}},
               {{3, 4}, {1, 0}, {4, 5}, {8, 9}, {0.4, 0.5}}};
-    style = {{"TwoDAxis/XDetail/VarNum", 1L},       {"TwoDAxis/YDetail/VarNum", 2L},
+    style = {{"TwoDAxis/XDetail/VarNum", 1L},
+             {"TwoDAxis/YDetail/VarNum", 2L},
              {"GlobalRGB/RGBMode", long(RGBMode_SpecifyRGB)},
-             {"GlobalRGB/RedChannelVar", 3L},       {"GlobalRGB/GreenChannelVar", 4L},
-             {"GlobalRGB/BlueChannelVar", 5L},      {"GlobalRGB/RangeMin", 0.0},
-             {"GlobalRGB/RangeMax", 1.0},           {"GlobalTwoDVector/UVar", 3L},
+             {"GlobalRGB/RedChannelVar", 3L},
+             {"GlobalRGB/GreenChannelVar", 4L},
+             {"GlobalRGB/BlueChannelVar", 5L},
+             {"GlobalRGB/RangeMin", 0.0},
+             {"GlobalRGB/RangeMax", 1.0},
+             {"GlobalTwoDVector/UVar", 3L},
              {"GlobalTwoDVector/VVar", 4L}};
     lastError.clear();
     messages.clear();
@@ -84,14 +94,35 @@ void Host::reset()
 
 using tinyhost::Host;
 
-int OrrUtilPageGetCount(void) { return 1; }
-int OrrUtilFrameGetCount(void) { return 1; }
-long OrrUtilFrameGetUniqueID(void) { return tinyhost::FrameID; }
-PlotType_e OrrUtilFrameGetPlotType(void) { return PlotType_TwoD; }
+int OrrUtilPageGetCount(void)
+{
+    return 1;
+}
+int OrrUtilFrameGetCount(void)
+{
+    return 1;
+}
+long OrrUtilFrameGetUniqueID(void)
+{
+    return tinyhost::FrameID;
+}
+PlotType_e OrrUtilFrameGetPlotType(void)
+{
+    return PlotType_TwoD;
+}
 
-bool OrrUtilDataSetIsAvailable(void) { return !Host::instance().vars.empty(); }
-int OrrUtilDataSetGetNumZones(void) { return int(Host::instance().zones.size()); }
-int OrrUtilDataSetGetNumVars(void) { return int(Host::instance().vars.size()); }
+bool OrrUtilDataSetIsAvailable(void)
+{
+    return !Host::instance().vars.empty();
+}
+int OrrUtilDataSetGetNumZones(void)
+{
+    return int(Host::instance().zones.size());
+}
+int OrrUtilDataSetGetNumVars(void)
+{
+    return int(Host::instance().vars.size());
+}
 
 char* OrrUtilZoneGetName(int zone)
 {
@@ -134,7 +165,10 @@ void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* y
 }
 
 // No frame size to measure by: every unit is the same length here.
-double OrrUtilConvertUnits(int, int, double value) { return value; }
+double OrrUtilConvertUnits(int, int, double value)
+{
+    return value;
+}
 
 void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigned char* green, unsigned char* blue)
 {

@@ -2,7 +2,8 @@
 // A deliberately tiny host: everything the dialogs ask of a host, and nothing
 // more. One page with one 2D frame, a data set of two zones and five variables,
 // a style state in a map with two rules (variable numbers name a variable, the
-// RGB range minimum stays below its maximum), undo brackets without undo, message boxes recorded. No journal, no loaders.
+// RGB range minimum stays below its maximum), undo brackets without undo, message boxes recorded. No journal, no
+// loaders.
 #include <map>
 #include <string>
 #include <variant>
@@ -21,7 +22,7 @@ struct Host
     std::vector<std::string> zones;
     std::vector<std::string> vars;
     std::vector<std::vector<std::vector<double>>> values; // [zone][var][point]
-    std::map<std::string, Value> style;                  // "GlobalRGB/RedChannelVar"
+    std::map<std::string, Value> style;                   // "GlobalRGB/RedChannelVar"
     std::string lastError;
     std::vector<std::string> messages;
     // Steps closed by the outermost undo bracket, and how deep brackets are now.

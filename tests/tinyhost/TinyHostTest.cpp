@@ -22,9 +22,15 @@ using tinyhost::Host;
 
 namespace {
 
-void runIdle() { orrery::sdk::ui::common::IdleQueue::instance().flush(); }
+void runIdle()
+{
+    orrery::sdk::ui::common::IdleQueue::instance().flush();
+}
 
-long style(const std::string& path) { return std::get<long>(Host::instance().style.at(path)); }
+long style(const std::string& path)
+{
+    return std::get<long>(Host::instance().style.at(path));
+}
 
 // Runs a modal dialog as a host does: whileOpen acts as the user and closes it.
 int run(orrery::dialogs::common::QtDialogAbstract& dialog, const std::function<void()>& whileOpen)

@@ -5,11 +5,26 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 
-void StringConverter::convert(short& value) { convert_impl(value); }
-void StringConverter::convert(int& value) { convert_impl(value); }
-void StringConverter::convert(long& value) { convert_impl(value); }
-void StringConverter::convert(double& value) { convert_impl(value); }
-void StringConverter::convert(std::string& value) { value = m_text; }
+void StringConverter::convert(short& value)
+{
+    convert_impl(value);
+}
+void StringConverter::convert(int& value)
+{
+    convert_impl(value);
+}
+void StringConverter::convert(long& value)
+{
+    convert_impl(value);
+}
+void StringConverter::convert(double& value)
+{
+    convert_impl(value);
+}
+void StringConverter::convert(std::string& value)
+{
+    value = m_text;
+}
 
 template <typename T>
 void StringConverter::convert_impl(T& value)

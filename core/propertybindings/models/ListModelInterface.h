@@ -12,9 +12,9 @@ template <typename T>
 class ListModelInterface
 {
 public:
-    typedef boost::signals2::signal<void ()> DataChangedSignal;
-    typedef boost::signals2::signal<void (int)> ItemChangedSignal;
-    typedef boost::signals2::signal<void (int, int)> ItemsRangeSignal;
+    typedef boost::signals2::signal<void()> DataChangedSignal;
+    typedef boost::signals2::signal<void(int)> ItemChangedSignal;
+    typedef boost::signals2::signal<void(int, int)> ItemsRangeSignal;
 
     virtual int size() const = 0;
     virtual T get(int row) const = 0;
@@ -52,7 +52,7 @@ public:
     }
 
     // One action for every kind of change, its connections kept in the collection.
-    void connectToEveryChange(const boost::function<void ()>& action, SignalConnectionCollection& connections) const
+    void connectToEveryChange(const boost::function<void()>& action, SignalConnectionCollection& connections) const
     {
         connections.add(connectToDataChanged([action] { action(); }));
         connections.add(connectToItemChanged([action](int) { action(); }));

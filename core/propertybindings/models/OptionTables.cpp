@@ -27,12 +27,9 @@ const OptionRow<int> valueBlankRelOp[6] = {
 };
 
 const OptionRow<int> linePatterns[6] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "Solid"), 0},
-    {QT_TRANSLATE_NOOP("OptionTables", "Dashed"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Dash dot"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "Dotted"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "Long dash"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "Dash dot dot"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "Solid"), 0},     {QT_TRANSLATE_NOOP("OptionTables", "Dashed"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Dash dot"), 2},  {QT_TRANSLATE_NOOP("OptionTables", "Dotted"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "Long dash"), 4}, {QT_TRANSLATE_NOOP("OptionTables", "Dash dot dot"), 5},
 };
 
 const OptionRow<int> clippingValues[2] = {
@@ -64,40 +61,19 @@ const OptionRow<int> labelAlignment[3] = {
 };
 
 const OptionRow<double> labelAngle[13] = {
-    {"0", 0.0},
-    {"90", 90.0},
-    {"75", 75.0},
-    {"60", 60.0},
-    {"45", 45.0},
-    {"30", 30.0},
-    {"15", 15.0},
-    {"-15", -15.0},
-    {"-30", -30.0},
-    {"-45", -45.0},
-    {"-60", -60.0},
-    {"-75", -75.0},
-    {"-90", -90.0},
+    {"0", 0.0},     {"90", 90.0},   {"75", 75.0},   {"60", 60.0},   {"45", 45.0},   {"30", 30.0},   {"15", 15.0},
+    {"-15", -15.0}, {"-30", -30.0}, {"-45", -45.0}, {"-60", -60.0}, {"-75", -75.0}, {"-90", -90.0},
 };
 
 const OptionRow<int> sliceSurface[7] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "X-Planes"), 0},
-    {QT_TRANSLATE_NOOP("OptionTables", "Y-Planes"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Z-Planes"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "I-Planes"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "J-Planes"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "K-Planes"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "X-Planes"), 0},  {QT_TRANSLATE_NOOP("OptionTables", "Y-Planes"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Z-Planes"), 2},  {QT_TRANSLATE_NOOP("OptionTables", "I-Planes"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "J-Planes"), 4},  {QT_TRANSLATE_NOOP("OptionTables", "K-Planes"), 5},
     {QT_TRANSLATE_NOOP("OptionTables", "Arbitrary"), 7},
 };
 
 const OptionRow<int> sliceGroup[8] = {
-    {"1", 1},
-    {"2", 2},
-    {"3", 3},
-    {"4", 4},
-    {"5", 5},
-    {"6", 6},
-    {"7", 7},
-    {"8", 8},
+    {"1", 1}, {"2", 2}, {"3", 3}, {"4", 4}, {"5", 5}, {"6", 6}, {"7", 7}, {"8", 8},
 };
 
 const OptionRow<int> contourType[5] = {
@@ -147,39 +123,21 @@ const OptionRow<int> arrowheadStyle[3] = {
 };
 
 const OptionRow<double> arrowheadSizes[5] = {
-    {"1", 1.0},
-    {"3", 3.0},
-    {"5", 5.0},
-    {"8", 8.0},
-    {"12", 12.0},
+    {"1", 1.0}, {"3", 3.0}, {"5", 5.0}, {"8", 8.0}, {"12", 12.0},
 };
 
 const OptionRow<double> arrowheadAngles[8] = {
-    {"8", 8.0},
-    {"10", 10.0},
-    {"12", 12.0},
-    {"14", 14.0},
-    {"16", 16.0},
-    {"18", 18.0},
-    {"20", 20.0},
-    {"22", 22.0},
+    {"8", 8.0}, {"10", 10.0}, {"12", 12.0}, {"14", 14.0}, {"16", 16.0}, {"18", 18.0}, {"20", 20.0}, {"22", 22.0},
 };
 
 const OptionRow<int> geomShape[14] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "Square"), 0},
-    {QT_TRANSLATE_NOOP("OptionTables", "Delta"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Gradient"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "Right triangle"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "Left triangle"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "Diamond"), 5},
-    {QT_TRANSLATE_NOOP("OptionTables", "Circle"), 6},
-    {QT_TRANSLATE_NOOP("OptionTables", "Point"), 10},
-    {QT_TRANSLATE_NOOP("OptionTables", "Cube"), 7},
-    {QT_TRANSLATE_NOOP("OptionTables", "Sphere"), 8},
-    {QT_TRANSLATE_NOOP("OptionTables", "Octahedron"), 9},
-    {QT_TRANSLATE_NOOP("OptionTables", "Character"), 255},
-    {QT_TRANSLATE_NOOP("OptionTables", "PieChart"), 11},
-    {QT_TRANSLATE_NOOP("OptionTables", "LineArt"), 12},
+    {QT_TRANSLATE_NOOP("OptionTables", "Square"), 0},        {QT_TRANSLATE_NOOP("OptionTables", "Delta"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Gradient"), 2},      {QT_TRANSLATE_NOOP("OptionTables", "Right triangle"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "Left triangle"), 4}, {QT_TRANSLATE_NOOP("OptionTables", "Diamond"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "Circle"), 6},        {QT_TRANSLATE_NOOP("OptionTables", "Point"), 10},
+    {QT_TRANSLATE_NOOP("OptionTables", "Cube"), 7},          {QT_TRANSLATE_NOOP("OptionTables", "Sphere"), 8},
+    {QT_TRANSLATE_NOOP("OptionTables", "Octahedron"), 9},    {QT_TRANSLATE_NOOP("OptionTables", "Character"), 255},
+    {QT_TRANSLATE_NOOP("OptionTables", "PieChart"), 11},     {QT_TRANSLATE_NOOP("OptionTables", "LineArt"), 12},
 };
 
 const OptionRow<int> fileOrScreenAnimationDest[2] = {
@@ -195,12 +153,9 @@ const OptionRow<int> animationOperations[4] = {
 };
 
 const OptionRow<int> dataTypes[7] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "Auto"), 255},
-    {QT_TRANSLATE_NOOP("OptionTables", "Single"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Double"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "Long int"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "Short int"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "Byte"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "Auto"), 255},    {QT_TRANSLATE_NOOP("OptionTables", "Single"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Double"), 2},    {QT_TRANSLATE_NOOP("OptionTables", "Long int"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "Short int"), 4}, {QT_TRANSLATE_NOOP("OptionTables", "Byte"), 5},
     {QT_TRANSLATE_NOOP("OptionTables", "Bit"), 6},
 };
 
@@ -211,21 +166,14 @@ const OptionRow<int> valueLocations[3] = {
 };
 
 const OptionRow<int> auxDataLocations[7] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "Zone"), 0},
-    {QT_TRANSLATE_NOOP("OptionTables", "Data set"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Frame"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "Variable"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "Line map"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "Page"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "Zone"), 0},     {QT_TRANSLATE_NOOP("OptionTables", "Data set"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Frame"), 2},    {QT_TRANSLATE_NOOP("OptionTables", "Variable"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "Line map"), 4}, {QT_TRANSLATE_NOOP("OptionTables", "Page"), 5},
     {QT_TRANSLATE_NOOP("OptionTables", "Layout"), 6},
 };
 
 const OptionRow<double> patternLengthValues[5] = {
-    {"0.5", 0.5},
-    {"0.8", 0.8},
-    {"2", 2.0},
-    {"3", 3.0},
-    {"5", 4.0},
+    {"0.5", 0.5}, {"0.8", 0.8}, {"2", 2.0}, {"3", 3.0}, {"5", 4.0},
 };
 
 const OptionRow<int> coordSystem[2] = {
@@ -304,38 +252,10 @@ const OptionRow<int> pointSelection[3] = {
 };
 
 const OptionRow<int> smIntegerOneToThrityTwo[32] = {
-    {"1", 1},
-    {"2", 2},
-    {"3", 3},
-    {"4", 4},
-    {"5", 5},
-    {"6", 6},
-    {"7", 7},
-    {"8", 8},
-    {"9", 9},
-    {"10", 10},
-    {"11", 11},
-    {"12", 12},
-    {"13", 13},
-    {"14", 14},
-    {"15", 15},
-    {"16", 16},
-    {"17", 17},
-    {"18", 18},
-    {"19", 19},
-    {"20", 20},
-    {"21", 21},
-    {"22", 22},
-    {"23", 23},
-    {"24", 24},
-    {"25", 25},
-    {"26", 26},
-    {"27", 27},
-    {"28", 28},
-    {"29", 29},
-    {"30", 30},
-    {"31", 31},
-    {"32", 32},
+    {"1", 1},   {"2", 2},   {"3", 3},   {"4", 4},   {"5", 5},   {"6", 6},   {"7", 7},   {"8", 8},
+    {"9", 9},   {"10", 10}, {"11", 11}, {"12", 12}, {"13", 13}, {"14", 14}, {"15", 15}, {"16", 16},
+    {"17", 17}, {"18", 18}, {"19", 19}, {"20", 20}, {"21", 21}, {"22", 22}, {"23", 23}, {"24", 24},
+    {"25", 25}, {"26", 26}, {"27", 27}, {"28", 28}, {"29", 29}, {"30", 30}, {"31", 31}, {"32", 32},
 };
 
 const OptionRow<int> edgeType[3] = {
@@ -401,12 +321,9 @@ const OptionRow<int> legendShow[3] = {
 };
 
 const OptionRow<int> errorBar[7] = {
-    {QT_TRANSLATE_NOOP("OptionTables", "Up"), 0},
-    {QT_TRANSLATE_NOOP("OptionTables", "Down"), 1},
-    {QT_TRANSLATE_NOOP("OptionTables", "Left"), 2},
-    {QT_TRANSLATE_NOOP("OptionTables", "Right"), 3},
-    {QT_TRANSLATE_NOOP("OptionTables", "Horizontal"), 4},
-    {QT_TRANSLATE_NOOP("OptionTables", "Vertical"), 5},
+    {QT_TRANSLATE_NOOP("OptionTables", "Up"), 0},         {QT_TRANSLATE_NOOP("OptionTables", "Down"), 1},
+    {QT_TRANSLATE_NOOP("OptionTables", "Left"), 2},       {QT_TRANSLATE_NOOP("OptionTables", "Right"), 3},
+    {QT_TRANSLATE_NOOP("OptionTables", "Horizontal"), 4}, {QT_TRANSLATE_NOOP("OptionTables", "Vertical"), 5},
     {QT_TRANSLATE_NOOP("OptionTables", "Cross"), 6},
 };
 

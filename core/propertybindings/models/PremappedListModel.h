@@ -16,8 +16,7 @@ public:
     PremappedListModel(const Row* rows, int count) : m_rows(rows), m_count(count) {}
     template <std::size_t N>
     explicit PremappedListModel(const Row (&table)[N]) : PremappedListModel(table, static_cast<int>(N))
-    {
-    }
+    {}
 
     int size() const override { return m_count; }
     T get(int row) const override { return static_cast<T>(m_rows[row].value); }

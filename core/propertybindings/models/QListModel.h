@@ -47,15 +47,12 @@ public:
             return QVariant();
         switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole:
-            return QString::fromUtf8(m_model.getStr(index.row()).c_str());
+        case Qt::ToolTipRole: return QString::fromUtf8(m_model.getStr(index.row()).c_str());
         case Qt::EditRole:
             return m_model.isEditable() ? QVariant(QString::fromUtf8(m_model.getStrForEdit(index.row()).c_str()))
                                         : QVariant();
-        case ValueRole:
-            return toVariant(m_model.get(index.row()));
-        default:
-            return QVariant();
+        case ValueRole: return toVariant(m_model.get(index.row()));
+        default: return QVariant();
         }
     }
 

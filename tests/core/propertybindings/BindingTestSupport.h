@@ -42,7 +42,8 @@ public:
     typedef std::pair<int, std::string> Row;
 
     explicit TestListModel(std::vector<Row> rows = {}, std::vector<int> headers = {})
-        : m_rows(std::move(rows)), m_headers(std::move(headers)) {}
+        : m_rows(std::move(rows)), m_headers(std::move(headers))
+    {}
     static std::vector<Row> numbered(int count, int firstValue = 1)
     {
         std::vector<Row> rows;

@@ -18,8 +18,8 @@ class ListViewSynchronizerTest : public BindingFixture
 protected:
     ListViewSynchronizerTest() : view(&window) { view.resize(300, 280); }
 
-    std::unique_ptr<ListViewPropertySynchronizer<Values>> synchronize(
-        BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle)
+    std::unique_ptr<ListViewPropertySynchronizer<Values>>
+    synchronize(BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle)
     {
         auto s = std::make_unique<ListViewPropertySynchronizer<Values>>(view, property, rows, mode);
         view.setSelectionMode(QAbstractItemView::MultiSelection);
@@ -101,11 +101,13 @@ TEST_F(ListViewSynchronizerTest, HeaderRowsAreNeverSelectedAndAVectorPropertyGet
     EXPECT_EQ(selectedRows(), std::vector<int>({1, 3}));
 
     auto values = boost::make_shared<Property<std::vector<int>>>(std::vector<int>{15});
-    auto unordered = boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{9, "a"}, {3, "b"}, {5, "c"}, {15, "d"}});
+    auto unordered =
+        boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{9, "a"}, {3, "b"}, {5, "c"}, {15, "d"}});
     QListView other(&window);
     other.resize(300, 280);
     ASSERT_TRUE(showWindow());
-    ListViewPropertySynchronizer<std::vector<int>> vs(other, values, unordered, BindingInterface::WidgetUpdateMode_OnIdle);
+    ListViewPropertySynchronizer<std::vector<int>> vs(other, values, unordered,
+                                                      BindingInterface::WidgetUpdateMode_OnIdle);
     other.setSelectionMode(QAbstractItemView::MultiSelection);
     user::clickRow(other, 2);
     user::clickRow(other, 0);
@@ -128,7 +130,8 @@ TEST_F(ListViewSynchronizerTest, ARebuildKeepingTheSelectedValuesLeavesAVectorPr
 {
     typedef std::vector<int> Ordered;
     auto values = boost::make_shared<Property<Ordered>>(Ordered{40, 20});
-    auto list = boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{10, "a"}, {20, "b"}, {30, "c"}, {40, "d"}});
+    auto list =
+        boost::make_shared<TestListModel>(std::vector<TestListModel::Row>{{10, "a"}, {20, "b"}, {30, "c"}, {40, "d"}});
     for (auto mode : {BindingInterface::WidgetUpdateMode_Immediate, BindingInterface::WidgetUpdateMode_OnIdle}) {
         values->setValue({40, 20});
         ListViewPropertySynchronizer<Ordered> vs(view, values, list, mode);

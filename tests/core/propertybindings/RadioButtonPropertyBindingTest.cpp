@@ -17,7 +17,8 @@ protected:
             buttons.push_back(std::make_unique<QRadioButton>(&window));
             buttons.back()->move(0, 30 * static_cast<int>(buttons.size()));
             buttons.back()->show();
-            bindings.push_back(std::make_unique<RadioButtonPropertyBinding<Font_e>>(buttons.back().get(), property, value));
+            bindings.push_back(
+                std::make_unique<RadioButtonPropertyBinding<Font_e>>(buttons.back().get(), property, value));
         }
     }
     std::vector<bool> checked() const

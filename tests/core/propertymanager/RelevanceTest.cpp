@@ -43,9 +43,10 @@ TEST(PropertyDependentRelevance, ANullPropertyOrAnEmptyPredicateIsRefusedWhereGi
     EXPECT_THROW(PropertyDependentRelevance<bool>(boost::shared_ptr<PropertyAbstract<bool>>(), true),
                  InvalidArgumentException);
     auto flag = boost::make_shared<Property<bool>>(false);
-    EXPECT_THROW(PropertyPredicateDependentRelevance(boost::shared_ptr<const PropertyItemInterface>(), [] { return true; }),
-                 InvalidArgumentException);
-    EXPECT_THROW(PropertyPredicateDependentRelevance(flag, boost::function<bool ()>()), InvalidArgumentException);
+    EXPECT_THROW(
+        PropertyPredicateDependentRelevance(boost::shared_ptr<const PropertyItemInterface>(), [] { return true; }),
+        InvalidArgumentException);
+    EXPECT_THROW(PropertyPredicateDependentRelevance(flag, boost::function<bool()>()), InvalidArgumentException);
     PropertyPredicateDependentRelevance usable(flag, [flag] { return flag->getValue(); });
     EXPECT_FALSE(usable.isRelevant());
 }

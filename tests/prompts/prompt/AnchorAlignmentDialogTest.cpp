@@ -7,10 +7,10 @@ namespace {
 
 // Radio buttons in the order of their alignment values.
 const char* const ButtonNames[] = {
-    "anchorAlignment_TopLeft_RadioButton",     "anchorAlignment_TopCenter_RadioButton",
-    "anchorAlignment_TopRight_RadioButton",    "anchorAlignment_MiddleLeft_RadioButton",
+    "anchorAlignment_TopLeft_RadioButton",      "anchorAlignment_TopCenter_RadioButton",
+    "anchorAlignment_TopRight_RadioButton",     "anchorAlignment_MiddleLeft_RadioButton",
     "anchorAlignment_MiddleCenter_RadioButton", "anchorAlignment_MiddleRight_RadioButton",
-    "anchorAlignment_BottomLeft_RadioButton",  "anchorAlignment_BottomCenter_RadioButton",
+    "anchorAlignment_BottomLeft_RadioButton",   "anchorAlignment_BottomCenter_RadioButton",
     "anchorAlignment_BottomRight_RadioButton"};
 
 class AnchorAlignmentDialogTest : public DialogTest
@@ -32,8 +32,7 @@ protected:
 
 TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedOrTopLeftWhenOutOfRangeAndIsTheAnswerUntilAClick)
 {
-    for (int initial : {0, 1, 4, 8, 9, 12, -1})
-    {
+    for (int initial : {0, 1, 4, 8, 9, 12, -1}) {
         SCOPED_TRACE(initial);
         AnchorAlignmentDialog dialog(AnchorAlignment_e(initial), parent);
         dialog.show();
@@ -47,8 +46,7 @@ TEST_F(AnchorAlignmentDialogTest, TheInitialAlignmentIsCheckedOrTopLeftWhenOutOf
 TEST_F(AnchorAlignmentDialogTest, EveryButtonGivesItsAlignmentAndALaterGetInstanceOnlyReplacesWhatCancelRestores)
 {
     AnchorAlignmentDialog* dialog = AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent);
-    for (int a : {8, 0, 1, 2, 3, 4, 5, 6, 7})
-    {
+    for (int a : {8, 0, 1, 2, 3, 4, 5, 6, 7}) {
         dialog->show();
         user::click(button(*dialog, a));
         user::press(*dialog, QDialogButtonBox::Ok);

@@ -53,8 +53,7 @@ protected:
     {
         Rows rows;
         QAbstractItemModel* model = list(d)->model();
-        for (int r = 0; r < model->rowCount(); ++r)
-        {
+        for (int r = 0; r < model->rowCount(); ++r) {
             const std::string text = model->index(r, 0).data().toString().toStdString();
             rows.push_back(model->index(r, 0).flags() & Qt::ItemIsEnabled ? text : "[" + text + "]");
         }
@@ -69,12 +68,14 @@ protected:
     static void clickRow(QWidget& d, const std::string& name, bool twice = false)
     {
         QAbstractItemModel* model = list(d)->model();
-        const QModelIndex index = model->match(model->index(0, 0), Qt::DisplayRole, QString::fromStdString(name), 1,
-                                               Qt::MatchExactly).value(0);
+        const QModelIndex index =
+            model->match(model->index(0, 0), Qt::DisplayRole, QString::fromStdString(name), 1, Qt::MatchExactly)
+                .value(0);
         ASSERT_TRUE(index.isValid()) << name;
         user::clickRow(*list(d), index.row());
         if (twice)
-            QTest::mouseDClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier, list(d)->visualRect(index).center());
+            QTest::mouseDClick(list(d)->viewport(), Qt::LeftButton, Qt::NoModifier,
+                               list(d)->visualRect(index).center());
         runIdle();
     }
     // A new run of the application: the settings come from the file, the dialog is new.
@@ -93,9 +94,9 @@ protected:
 TEST_F(ChooseLoaderDialogTest, SuggestedLoadersComeFirstUnderHeadersThenTheOthersByName)
 {
     ChooseLoaderDialog* dialog = chooser({pointCloud, textTable, pointCloud}, {".dat"});
-    EXPECT_EQ(shownRows(*dialog), (Rows{"[Suggested Loaders]", "Point cloud", "Text table", "[]",
-                                        "[Other Available Loaders]", "Binary grid", "CSV table", "VTK legacy",
-                                        "Zone blocks"}));
+    EXPECT_EQ(shownRows(*dialog),
+              (Rows{"[Suggested Loaders]", "Point cloud", "Text table", "[]", "[Other Available Loaders]",
+                    "Binary grid", "CSV table", "VTK legacy", "Zone blocks"}));
     EXPECT_EQ(dialog->windowTitle(), "Choose Loader (*.dat)");
     EXPECT_EQ(dialog->findChild<QLabel*>("label")->text(), Multiple);
 
@@ -200,8 +201,7 @@ TEST_F(ChooseLoaderDialogTest, TheChoiceForOneExtensionIsPreselectedAfterARestar
 TEST_F(ChooseLoaderDialogTest, ARememberedLoaderFarDownALongListIsTheCurrentRowAndInSight)
 {
     std::vector<LoaderPtr> many;
-    for (int i = 10; i < 70; ++i)
-    {
+    for (int i = 10; i < 70; ++i) {
         many.push_back(boost::make_shared<NamedLoader>("Reader " + std::to_string(i), "xyz"));
         DataLoaderRepository::getInstance().registerLoader(many.back());
     }

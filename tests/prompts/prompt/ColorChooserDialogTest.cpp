@@ -20,10 +20,7 @@ protected:
         user::open(*dialog);
         return dialog;
     }
-    static QToolButton* button(QWidget& dialog, const QString& name)
-    {
-        return dialog.findChild<QToolButton*>(name);
-    }
+    static QToolButton* button(QWidget& dialog, const QString& name) { return dialog.findChild<QToolButton*>(name); }
     static QToolButton* swatch(QWidget& dialog, int position)
     {
         return button(dialog, QString("colorButton_%1").arg(position));
@@ -33,8 +30,7 @@ protected:
     {
         QTimer::singleShot(0, &dialog, [&dialog, answer, &asked] {
             for (QDialog* variables : dialog.findChildren<QDialog*>())
-                if (variables->isVisible())
-                {
+                if (variables->isVisible()) {
                     asked = true;
                     user::press(*variables, answer);
                 }
@@ -54,8 +50,7 @@ TEST_F(ColorChooserDialogTest, GridShowsBasicColorsFirstThenCustomColorsByPositi
     const int firstRow[8] = {0, 7, 1, 5, 2, 4, 3, 6};
     const auto frameGrid = dialog->findChild<QFrame*>("buttonGridFrame")->findChildren<ColorChooserButton*>();
     ASSERT_EQ(frameGrid.size(), 64);
-    for (int position = 0; position < 64; ++position)
-    {
+    for (int position = 0; position < 64; ++position) {
         SCOPED_TRACE(position);
         auto* cell = qobject_cast<ColorChooserButton*>(swatch(*dialog, position));
         ASSERT_NE(cell, nullptr);
@@ -91,22 +86,21 @@ TEST_F(ColorChooserDialogTest, ClickingASwatchAnswersItsColorAndClosesTheDialogC
 TEST_F(ColorChooserDialogTest, MultiButtonsAnswerTheHostsMultiIndices)
 {
     const int expected[8] = {-1, -3, -4, -5, -7, -8, -9, -10};
-    for (int i = 0; i < 8; ++i)
-    {
+    for (int i = 0; i < 8; ++i) {
         SCOPED_TRACE(i);
         ColorChooserDialog* dialog = chooser();
         user::click(button(*dialog, VarColoringButtons[i]));
         EXPECT_EQ(dialog->result(), QDialog::Accepted);
         EXPECT_EQ(dialog->selectedColor(), expected[i]);
-        EXPECT_EQ(ColorChooserDialog::colorToString(expected[i], false), i == 0 ? "Multi" : "Multi" + std::to_string(i + 1));
+        EXPECT_EQ(ColorChooserDialog::colorToString(expected[i], false),
+                  i == 0 ? "Multi" : "Multi" + std::to_string(i + 1));
     }
 }
 
 TEST_F(ColorChooserDialogTest, ColorNamesCoverTheWholeTableInBothForms)
 {
     const char* const basic[8] = {"Black", "Red", "Green", "Blue", "Cyan", "Yellow", "Purple", "White"};
-    for (int i = 0; i < 8; ++i)
-    {
+    for (int i = 0; i < 8; ++i) {
         EXPECT_EQ(ColorChooserDialog::colorToString(i, false), basic[i]);
         EXPECT_EQ(ColorChooserDialog::colorToString(i, true), basic[i]);
     }
@@ -118,8 +112,7 @@ TEST_F(ColorChooserDialogTest, ColorNamesCoverTheWholeTableInBothForms)
     EXPECT_EQ(ColorChooserDialog::colorToString(-6, false), "RGBCOLOR");
     EXPECT_EQ(ColorChooserDialog::colorToString(-6, true), "RGBCOLOR");
     EXPECT_EQ(ColorChooserDialog::colorToString(-10, true), "Multi8");
-    for (int unknown : {-2, -11, -1000, 64, 65, 1000})
-    {
+    for (int unknown : {-2, -11, -1000, 64, 65, 1000}) {
         EXPECT_EQ(ColorChooserDialog::colorToString(unknown, false), "") << unknown;
         EXPECT_EQ(ColorChooserDialog::colorToString(unknown, true), "") << unknown;
     }

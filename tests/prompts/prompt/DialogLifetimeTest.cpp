@@ -26,10 +26,16 @@ namespace {
 
 #ifdef ORRERY_UNDER_ASAN
 const int Rounds = 1000;
-size_t allocatedBytes() { return __sanitizer_get_current_allocated_bytes(); }
+size_t allocatedBytes()
+{
+    return __sanitizer_get_current_allocated_bytes();
+}
 #else
 const int Rounds = 100;
-size_t allocatedBytes() { return mallinfo2().uordblks; }
+size_t allocatedBytes()
+{
+    return mallinfo2().uordblks;
+}
 #endif
 
 class DialogLifetimeTest : public DialogTest, public ::testing::WithParamInterface<everydialog::Opener>

@@ -16,8 +16,7 @@
 #include "tests/support/TestSupport.h"
 #include "tests/support/UserActions.h"
 
-namespace orrery::dialogs::prompt {
-}
+namespace orrery::dialogs::prompt {}
 
 namespace dialogtest {
 

@@ -36,8 +36,7 @@ TEST_F(EnterASCIICharacterDialogTest, TheInitialFontIsCheckedAndTheBaseFontIsEnc
     };
     for (const Case& c : {Case{true, Font_Math, BaseButton, 255}, Case{false, Font_Greek, GreekButton, 2},
                           Case{false, Font_Math, MathButton, 3}, Case{false, Font_UserDefined, UserButton, 4},
-                          Case{false, Font_Invalid, BaseButton, 255}})
-    {
+                          Case{false, Font_Invalid, BaseButton, 255}}) {
         SCOPED_TRACE(c.checked);
         QWidget owner;
         EnterASCIICharacterDialog* dialog = EnterASCIICharacterDialog::getInstance(owner, "A", c.useBaseFont, c.font);

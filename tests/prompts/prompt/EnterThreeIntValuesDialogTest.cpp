@@ -45,8 +45,8 @@ TEST_F(EnterThreeIntValuesDialogTest, TypedValuesAreTheAnswersAfterOkOrReturnAnd
 
 TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndPositiveLowerLimitsOfTheFirstCallStayInTheLiveDialog)
 {
-    EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(
-        parent, 0, 2, 3, "Zone Range", "", "&First", "", "S&tep", 1, 0, -5);
+    EnterThreeIntValuesDialog* dialog =
+        EnterThreeIntValuesDialog::getInstance(parent, 0, 2, 3, "Zone Range", "", "&First", "", "S&tep", 1, 0, -5);
     EXPECT_EQ(dialog->windowTitle(), "Zone Range");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel2")->text(), "");
@@ -75,8 +75,9 @@ TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndPositiveLowerLimitsOfTheFi
     user::press(*dialog, QDialogButtonBox::Ok);
 
     QWidget otherParent;
-    EXPECT_EQ(EnterThreeIntValuesDialog::getInstance(otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50),
-              dialog);
+    EXPECT_EQ(
+        EnterThreeIntValuesDialog::getInstance(otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50),
+        dialog);
     EXPECT_EQ(dialog->windowTitle(), "Zone Range");
     EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
     EXPECT_EQ(dialog->value1(), 7);

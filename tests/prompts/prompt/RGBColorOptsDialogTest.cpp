@@ -40,8 +40,7 @@ protected:
     static std::vector<bool> channelsEnabled(QWidget& d)
     {
         std::vector<bool> enabled;
-        for (const char* channel : Channels)
-        {
+        for (const char* channel : Channels) {
             EXPECT_EQ(channelCombo(d, channel)->isEnabled(), channelLabel(d, channel)->isEnabled()) << channel;
             enabled.push_back(channelCombo(d, channel)->isEnabled());
         }
@@ -86,10 +85,9 @@ TEST_F(RGBColorOptsDialogTest, ModeDisablesTheCalculatedChannelAndReachesTheStyl
     QComboBox* mode = combo(*dialog, "rGBColorOpts_Mode_CmbBox");
     ASSERT_EQ(mode->count(), 4);
     EXPECT_EQ(channelsEnabled(*dialog), std::vector<bool>({true, true, true}));
-    const std::vector<bool> expected[] = {{true, true, true}, {true, true, false}, {true, false, true},
-                                          {false, true, true}};
-    for (int row : {1, 2, 3, 0})
-    {
+    const std::vector<bool> expected[] = {
+        {true, true, true}, {true, true, false}, {true, false, true}, {false, true, true}};
+    for (int row : {1, 2, 3, 0}) {
         SCOPED_TRACE(row);
         choose(*mode, row);
         EXPECT_EQ(styleValue<long>({"GlobalRGB", "RGBMode"}), row);
@@ -128,8 +126,7 @@ TEST_F(RGBColorOptsDialogTest, OnlyVariableInvalidatingChangesReassignTheChannel
     Kernel::setEnabledVars(orrery::toolbox::Set({2, 3, 4, 5}));
     runIdle();
     // X is not enabled any more, but nothing has asked for a check yet.
-    for (StateChange_e ignored : {StateChange_NodeMapsAltered, StateChange_Style, StateChange_e(45)})
-    {
+    for (StateChange_e ignored : {StateChange_NodeMapsAltered, StateChange_Style, StateChange_e(45)}) {
         Kernel::fireStateChange(ignored);
         runIdle();
         EXPECT_EQ(channelVar("Red"), 1) << ignored;

@@ -100,8 +100,8 @@ TEST_F(ScatterSizeFontDialogTest, RecalculateSetsTheDefaultMultiplierForTheSizeV
     Kernel::setStyle({"BasicSize", "SymbolSizes", "Medium"}, 5.0);
     Kernel::setStyle({"GlobalScatter", "RelativeSizeInGridUnits"}, false);
     user::click(recalculate(*dialog));
-    EXPECT_NEAR(relativeSize(), std::fabs(OrrUtilConvertUnits(Units_Grid, Units_Point, 100.0 * 2.54 / (8.0 * 72.0))) * 0.05,
-                1e-12);
+    EXPECT_NEAR(relativeSize(),
+                std::fabs(OrrUtilConvertUnits(Units_Grid, Units_Point, 100.0 * 2.54 / (8.0 * 72.0))) * 0.05, 1e-12);
 }
 
 TEST_F(ScatterSizeFontDialogTest, RecalculateWithoutAUsableRangeReportsTheKernelsRefusalOnce)

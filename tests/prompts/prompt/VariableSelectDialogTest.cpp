@@ -68,14 +68,24 @@ void choose(QComboBox* box, const QString& name)
     ASSERT_EQ(box->currentText(), name);
 }
 
-Texts rows(QWidget& d) { return {row(d, 1), row(d, 2), row(d, 3)}; }
-long style(const StringList& path) { return styleValue<long>(path); }
-std::vector<long> channels() { return {style(Red), style(Green), style(Blue)}; }
+Texts rows(QWidget& d)
+{
+    return {row(d, 1), row(d, 2), row(d, 3)};
+}
+long style(const StringList& path)
+{
+    return styleValue<long>(path);
+}
+std::vector<long> channels()
+{
+    return {style(Red), style(Green), style(Blue)};
+}
 
 struct NoAssignment : VariableSelectDialog::DefaultVarAssignmentInterface
 {
     void assignVariables(orrery::PropertyAbstract<int>&, orrery::PropertyAbstract<int>&,
-                         orrery::PropertyAbstract<int>&) const override {}
+                         orrery::PropertyAbstract<int>&) const override
+    {}
 };
 
 class VariableSelectDialogTest : public DialogTest
@@ -94,8 +104,7 @@ protected:
         QTimer::singleShot(0, &dialog, [&] {
             runIdle();
             whileOpen();
-            if (dialog.isVisible())
-            {
+            if (dialog.isVisible()) {
                 ADD_FAILURE() << "the dialog is still open";
                 dialog.reject();
             }
@@ -106,12 +115,13 @@ protected:
     // Presses OK and expects the dialog to close.
     static void ok(QDialog& d) { user::press(d, QDialogButtonBox::Ok); }
     // Runs the dialog, lets whileOpen act, then accepts it with OK.
-    static void accept(orrery::dialogs::common::QtDialogAbstract& d, const std::function<void()>& whileOpen = [] {})
+    static void accept(
+        orrery::dialogs::common::QtDialogAbstract& d, const std::function<void()>& whileOpen = [] {})
     {
         EXPECT_EQ(QDialog::Accepted, run(d, [&] {
-            whileOpen();
-            ok(d);
-        }));
+                      whileOpen();
+                      ok(d);
+                  }));
     }
 };
 
@@ -178,9 +188,9 @@ TEST_F(VariableSelectDialogTest, OkIsOneUndoStepAndCancelWritesNothing)
     int actions = 0;
     dialog->setPostAssignmentAction([&] { ++actions; });
     EXPECT_EQ(QDialog::Rejected, run(*dialog, [&] {
-        choose(combo(*dialog, 1), "X");
-        user::press(*dialog, QDialogButtonBox::Cancel);
-    }));
+                  choose(combo(*dialog, 1), "X");
+                  user::press(*dialog, QDialogButtonBox::Cancel);
+              }));
     EXPECT_EQ(0, Kernel::styleWriteCount());
     EXPECT_EQ(0, actions);
 
@@ -243,13 +253,14 @@ TEST_F(VariableSelectDialogTest, OkRunsTheLastActionInABalancedStepAndARefusalKe
 
     // A refusal of the pending value itself.
     Kernel::refuseNextWrite("The kernel says no.");
-    EXPECT_EQ(QDialog::Rejected, run(*dialog, [&] {
-        choose(combo(*dialog, 2), "Temperature");
-        ok(*dialog);
-        EXPECT_TRUE(dialog->isVisible());
-        EXPECT_EQ((Texts{"Variable number 9 is out of range (1 to 5).", "The kernel says no."}), messageTexts());
-        user::press(*dialog, QDialogButtonBox::Cancel);
-    }));
+    EXPECT_EQ(
+        QDialog::Rejected, run(*dialog, [&] {
+            choose(combo(*dialog, 2), "Temperature");
+            ok(*dialog);
+            EXPECT_TRUE(dialog->isVisible());
+            EXPECT_EQ((Texts{"Variable number 9 is out of range (1 to 5).", "The kernel says no."}), messageTexts());
+            user::press(*dialog, QDialogButtonBox::Cancel);
+        }));
     EXPECT_EQ(2, style(Y2D));
 }
 
@@ -268,9 +279,9 @@ TEST_F(VariableSelectDialogTest, LiveDialogIsReusedWithItsOwnPathsAndTextsUntilD
     VariableSelectDialog* axis = AxisVariableSelectDialog::getInstance(parent);
     EXPECT_EQ(axis, VariableSelectDialog::liveInstance());
     EXPECT_EQ(QDialog::Rejected, run(*axis, [&] {
-        EXPECT_EQ("&X X", row(*axis, 1));
-        user::press(*axis, QDialogButtonBox::Cancel);
-    }));
+                  EXPECT_EQ("&X X", row(*axis, 1));
+                  user::press(*axis, QDialogButtonBox::Cancel);
+              }));
 }
 
 TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
@@ -278,9 +289,7 @@ TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
     Kernel::loadSampleDataSet("Small");
     VariableSelectDialog* dialog = RGBVariableSelectDialog::getInstance(parent);
     // Candidates X, Y and none: the blue list shows its first variable, and OK writes what is shown.
-    accept(*dialog, [&] {
-        EXPECT_EQ((Texts{"&R X", "&G Y", "&B X"}), rows(*dialog));
-    });
+    accept(*dialog, [&] { EXPECT_EQ((Texts{"&R X", "&G Y", "&B X"}), rows(*dialog)); });
     EXPECT_EQ((std::vector<long>{1, 2, 1}), channels());
     delete dialog;
 
@@ -289,9 +298,7 @@ TEST_F(VariableSelectDialogTest, RGBDefaultsAreSetEvenWithoutThreeCandidates)
     image.addZone("Pixels", {{0}, {0}, {0}, {0}, {0}});
     Kernel::setDataSet(image);
     dialog = RGBVariableSelectDialog::getInstance(parent);
-    accept(*dialog, [&] {
-        EXPECT_EQ((Texts{"&R R", "&G Green", "&B blue"}), rows(*dialog));
-    });
+    accept(*dialog, [&] { EXPECT_EQ((Texts{"&R R", "&G Green", "&B blue"}), rows(*dialog)); });
     EXPECT_EQ((std::vector<long>{5, 4, 3}), channels());
 }
 
@@ -317,9 +324,8 @@ TEST_F(VariableSelectDialogTest, ListsFollowTheDataSetWhileOpenAndVanishedChoice
 
 TEST_F(VariableSelectDialogTest, MissingLabelsFailBeforeShowingAndFailedAssignmentLeavesNoDialog)
 {
-    VariableSelectDialog* dialog =
-        VariableSelectDialog::getInstance(parent, X2D, Y2D, StringList{"TwoDAxis", "ZDetail"}, "Pick", {"&A", "&B"},
-                                          NoAssignment());
+    VariableSelectDialog* dialog = VariableSelectDialog::getInstance(
+        parent, X2D, Y2D, StringList{"TwoDAxis", "ZDetail"}, "Pick", {"&A", "&B"}, NoAssignment());
     EXPECT_THROW(dialog->launch(), std::out_of_range);
     EXPECT_FALSE(dialog->isVisible());
     delete dialog;
@@ -371,8 +377,7 @@ TEST_F(VariableSelectDialogTest, VectorStrategyAsksOnlyWhenTheStyleHasNoUsableVe
     EXPECT_EQ(nullptr, VariableSelectDialog::liveInstance());
 
     // The user cancels, then accepts the proposed components.
-    for (const bool accept : {false, true})
-    {
+    for (const bool accept : {false, true}) {
         SCOPED_TRACE(accept);
         QTimer::singleShot(0, &parent, [accept] {
             runIdle();
@@ -397,8 +402,8 @@ TEST_F(VariableSelectDialogTest, AddonDialogSkipsNullLabelsAndEditsTheAddonsProp
     auto var1 = boost::make_shared<orrery::Property<int>>(1);
     auto var2 = boost::make_shared<orrery::Property<int>>(2);
     auto var3 = boost::make_shared<orrery::Property<int>>(3);
-    AddonsVariableSelectDialog* dialog =
-        AddonsVariableSelectDialog::getInstance(parent, "Pick the add-on's inputs.", "A", nullptr, "C", var1, var2, var3);
+    AddonsVariableSelectDialog* dialog = AddonsVariableSelectDialog::getInstance(parent, "Pick the add-on's inputs.",
+                                                                                 "A", nullptr, "C", var1, var2, var3);
     EXPECT_EQ(dialog, AddonsVariableSelectDialog::getInstance(parent, "Other", "1", "2", "3", var3, var2, var1));
     user::open(*dialog);
     runIdle();
@@ -413,8 +418,9 @@ TEST_F(VariableSelectDialogTest, AddonDialogSkipsNullLabelsAndEditsTheAddonsProp
     EXPECT_TRUE(AddonsVariableSelectDialog::relevance()->isRelevant());
     delete dialog;
 
-    EXPECT_THROW(AddonsVariableSelectDialog::getInstance(parent, "No labels", nullptr, nullptr, nullptr, var1, var2, var3),
-                 std::out_of_range);
+    EXPECT_THROW(
+        AddonsVariableSelectDialog::getInstance(parent, "No labels", nullptr, nullptr, nullptr, var1, var2, var3),
+        std::out_of_range);
     EXPECT_EQ(nullptr, AddonsVariableSelectDialog::liveInstance());
     Kernel::clearDataSet();
     EXPECT_FALSE(AddonsVariableSelectDialog::relevance()->isRelevant());

@@ -25,8 +25,8 @@ protected:
     }
     bool showsMultiIcon() const
     {
-        return button.icon().pixmap(16, 16).toImage() ==
-               QIcon(ColorChooserDialog::multiColorIconPath()).pixmap(16, 16).toImage();
+        return button.icon().pixmap(16, 16).toImage()
+               == QIcon(ColorChooserDialog::multiColorIconPath()).pixmap(16, 16).toImage();
     }
     // Clicks the button; the chooser it opens is answered by choose.
     void clickAndAnswer(std::function<void(ColorChooserDialog&)> choose)
@@ -62,8 +62,7 @@ TEST_F(ColorButtonPropertyBindingTest, ShowsSwatchAndShortNameOrTheMultiIconAndN
     EXPECT_EQ(button.iconSize(), QSize(12, 12));
     EXPECT_EQ(button.text(), "Black");
 
-    for (int index : {3, 8, 63})
-    {
+    for (int index : {3, 8, 63}) {
         color->setValue(index);
         runIdle();
         EXPECT_EQ(swatchColor(), colorOf(index)) << index;
@@ -81,8 +80,7 @@ TEST_F(ColorButtonPropertyBindingTest, ShowsSwatchAndShortNameOrTheMultiIconAndN
     EXPECT_EQ(button.text(), "RGBCOLOR");
 
     // Unknown indices show no name and a neutral swatch.
-    for (int unknown : {99, -2})
-    {
+    for (int unknown : {99, -2}) {
         color->setValue(unknown);
         runIdle();
         EXPECT_EQ(button.text(), "") << unknown;
