@@ -9,8 +9,8 @@ class QAbstractButton;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Runs an action when a button is clicked. It shows no value, so its updates
-// have nothing to do; it is a binding so that the dialog owns it with the others.
+/// Runs an action when a button is clicked. It shows no value, so its updates
+/// have nothing to do; it is a binding so that the dialog owns it with the others.
 class ORRERY_FRAMEWORK_EXPORT ButtonBinding : public BindingInterface
 {
 public:

@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// Relevant while the host holds a data set.
+/// Relevant while the host holds a data set.
 class ORRERY_FRAMEWORK_EXPORT DataSetExistsRelevance : public StateChangeDependentRelevance
 {
 public:

@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// Relevant while the current frame shows a field plot (3D or 2D Cartesian).
+/// Relevant while the current frame shows a field plot (3D or 2D Cartesian).
 class ORRERY_FRAMEWORK_EXPORT FieldPlotTypeDependentRelevance : public StateChangeDependentRelevance
 {
 public:

@@ -10,8 +10,8 @@ class QFontComboBox;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A font combo box editing a property that holds a font family name. A family
-// the system lacks is shown as text and left in the property untouched.
+/// A font combo box editing a property that holds a font family name. A family
+/// the system lacks is shown as text and left in the property untouched.
 class ORRERY_FRAMEWORK_EXPORT FontComboBoxPropertyBinding : public UIPropertyBindingAbstract<std::string>,
                                                             private qwidgetobservable::QComboBoxListenerInterface
 {

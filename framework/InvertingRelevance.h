@@ -6,7 +6,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// Relevant exactly when the wrapped relevance is not; relays its changes.
+/// Relevant exactly when the wrapped relevance is not; relays its changes.
 class ORRERY_FRAMEWORK_EXPORT InvertingRelevance : public virtual RelevanceInterface
 {
 public:

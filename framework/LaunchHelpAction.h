@@ -7,7 +7,7 @@ namespace orrery {
 namespace dialogs {
 namespace common {
 
-// Opens one page of the application's help beside the widget that owns the action.
+/// Opens one page of the application's help beside the widget that owns the action.
 class ORRERY_FRAMEWORK_EXPORT LaunchHelpAction : public QAction
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// Relevant while the current frame shows a line plot (XY or polar).
+/// Relevant while the current frame shows a line plot (XY or polar).
 class ORRERY_FRAMEWORK_EXPORT LinePlotTypeDependentRelevance : public StateChangeDependentRelevance
 {
 public:

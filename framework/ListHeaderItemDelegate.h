@@ -4,8 +4,8 @@
 
 namespace orrery::sdk::ui::dialogs {
 
-// Draws the header rows of a list (the rows a model shows disabled) as
-// captions: bold, in the normal text colour, never highlighted.
+/// Draws the header rows of a list (the rows a model shows disabled) as
+/// captions: bold, in the normal text colour, never highlighted.
 class ORRERY_FRAMEWORK_EXPORT ListHeaderItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

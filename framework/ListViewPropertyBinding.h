@@ -12,13 +12,13 @@ class QListView;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A list view whose selected rows edit a property of the selected rows' values
-// (std::vector<int> or std::set<int>), through a ListViewPropertySynchronizer.
-// Its enabled state and visibility are a RelevanceApplier's business.
+/// A list view whose selected rows edit a property of the selected rows' values
+/// (std::vector<int> or std::set<int>), through a ListViewPropertySynchronizer.
+/// Its enabled state and visibility are a RelevanceApplier's business.
 class ORRERY_FRAMEWORK_EXPORT ListViewPropertyBinding : public PropertyBindingInterface
 {
 public:
-    // Any property of std::vector<int> or std::set<int>.
+    /// Any property of std::vector<int> or std::set<int>.
     template <typename Property>
     ListViewPropertyBinding(QListView& view, const boost::shared_ptr<Property>& property,
                             const boost::shared_ptr<const models::ListModelInterface<int>>& rows,

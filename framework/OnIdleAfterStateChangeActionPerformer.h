@@ -8,8 +8,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Runs an action once on idle after one or more host state changes that pass a
-// predicate.
+/// Runs an action once on idle after one or more host state changes that pass a
+/// predicate.
 class ORRERY_FRAMEWORK_EXPORT OnIdleAfterStateChangeActionPerformer
 {
 public:

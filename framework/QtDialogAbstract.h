@@ -14,34 +14,34 @@ namespace orrery {
 namespace dialogs {
 namespace common {
 
-// Base of the host's dialogs. While its relevance does not hold, the dialog's
-// content and its accepting buttons (OK, Yes, Apply) are disabled, but Cancel,
-// Close, Help and Escape keep working, so the user can always get out. It owns
-// the help action (F1 and a Help button), and makes the OK and Cancel buttons
-// of layouts that connect nothing end the dialog.
+/// Base of the host's dialogs. While its relevance does not hold, the dialog's
+/// content and its accepting buttons (OK, Yes, Apply) are disabled, but Cancel,
+/// Close, Help and Escape keep working, so the user can always get out. It owns
+/// the help action (F1 and a Help button), and makes the OK and Cancel buttons
+/// of layouts that connect nothing end the dialog.
 class ORRERY_FRAMEWORK_EXPORT QtDialogAbstract : public QDialog, public virtual DialogInterface
 {
     Q_OBJECT
 public:
     typedef boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> RelevancePtr;
 
-    // An empty relevance makes the dialog relevant at all times.
+    /// An empty relevance makes the dialog relevant at all times.
     QtDialogAbstract(QWidget& parent, RelevancePtr relevance);
     ~QtDialogAbstract() override;
 
-    // Modal dialogs run until closed, others are shown and return. Does nothing
-    // (the result stays Rejected) while the dialog is not relevant.
+    /// Modal dialogs run until closed, others are shown and return. Does nothing
+    /// (the result stays Rejected) while the dialog is not relevant.
     void launch() override;
-    // Closes the dialog as rejected and schedules its destruction.
+    /// Closes the dialog as rejected and schedules its destruction.
     void drop() override;
 
     bool isRelevant() const;
-    // Takes ownership of the action; it is triggered by F1 and by a Help button.
+    /// Takes ownership of the action; it is triggered by F1 and by a Help button.
     void setHelpAction(QAction* action);
     QAction* helpAction() const { return m_helpAction; }
 
 protected:
-    // Refuses to accept while the dialog is not relevant, and closes its help.
+    /// Refuses to accept while the dialog is not relevant, and closes its help.
     void done(int result) override;
     void showEvent(QShowEvent* event) override;
 
@@ -52,8 +52,8 @@ private:
     RelevancePtr m_relevance;
     boost::signals2::scoped_connection m_relevanceConnection;
     QAction* m_helpAction = nullptr;
-    // The widgets this frame disabled for want of relevance; only these are
-    // enabled again, so a widget disabled for its own reasons stays disabled.
+    /// The widgets this frame disabled for want of relevance; only these are
+    /// enabled again, so a widget disabled for its own reasons stays disabled.
     std::vector<QPointer<QWidget>> m_heldDisabled;
     bool m_holdingDisabled = false;
 };

@@ -12,9 +12,9 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Shows a relevance on widgets: enables and disables them, or shows and hides
-// them. Applied at construction and again after each relevance change, at
-// once or once on idle.
+/// Shows a relevance on widgets: enables and disables them, or shows and hides
+/// them. Applied at construction and again after each relevance change, at
+/// once or once on idle.
 class ORRERY_FRAMEWORK_EXPORT RelevanceApplier
 {
 public:

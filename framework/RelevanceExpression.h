@@ -7,9 +7,9 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// A combination of relevances read left to right, without precedence:
-// RelevanceExpression(a).aand(b).oor(c) is ((a and b) or c). Relays the
-// changes of every term.
+/// A combination of relevances read left to right, without precedence:
+/// RelevanceExpression(a).aand(b).oor(c) is ((a and b) or c). Relays the
+/// changes of every term.
 class ORRERY_FRAMEWORK_EXPORT RelevanceExpression : public virtual RelevanceInterface
 {
 public:

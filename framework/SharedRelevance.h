@@ -8,9 +8,9 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The relevance object of Owner: made on first use and kept until the library
-// is unloaded, so every dialog of that class shares it.
-// Exported, so that every library and program shares the one object.
+/// The relevance object of Owner: made on first use and kept until the library
+/// is unloaded, so every dialog of that class shares it.
+/// Exported, so that every library and program shares the one object.
 template <typename Owner, typename Relevance>
 ORRERY_FRAMEWORK_EXPORT boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> sharedRelevance()
 {

@@ -6,15 +6,15 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The one live dialog of class D (a CRTP base). The instance is registered only
-// once its constructor has returned, and forgotten when it is destroyed, so a
-// failed construction leaves nothing behind and a destroyed dialog is rebuilt.
-// Exported, so that every library and program shares one live dialog per class.
+/// The one live dialog of class D (a CRTP base). The instance is registered only
+/// once its constructor has returned, and forgotten when it is destroyed, so a
+/// failed construction leaves nothing behind and a destroyed dialog is rebuilt.
+/// Exported, so that every library and program shares one live dialog per class.
 template <typename D>
 class ORRERY_FRAMEWORK_EXPORT SingleInstanceDialog
 {
 public:
-    // Null while there is no live dialog.
+    /// Null while there is no live dialog.
     static D* liveInstance() { return m_dialogInstance; }
 
 protected:
@@ -30,7 +30,7 @@ protected:
         }
     }
 
-    // The live dialog, constructed from args when there is none.
+    /// The live dialog, constructed from args when there is none.
     template <typename... Args>
     static D* obtain(Args&&... args)
     {

@@ -7,8 +7,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A scientific spin box editing a double property; its steps are sized by a
-// calculator, which the binding owns.
+/// A scientific spin box editing a double property; its steps are sized by a
+/// calculator, which the binding owns.
 class ORRERY_FRAMEWORK_EXPORT SpinBoxDoublePropertyBinding
     : public SpinBoxPropertyBindingAbstract<double, orrery::ui::QScientificSpinBox, double>
 {

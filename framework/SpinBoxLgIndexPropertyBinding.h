@@ -5,8 +5,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// An integer spin box editing a long property. Values beyond the spin box's
-// int range are shown at its nearest end.
+/// An integer spin box editing a long property. Values beyond the spin box's
+/// int range are shown at its nearest end.
 class ORRERY_FRAMEWORK_EXPORT SpinBoxLgIndexPropertyBinding : public SpinBoxPropertyBindingAbstract<long, QSpinBox, int>
 {
 public:

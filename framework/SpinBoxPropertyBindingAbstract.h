@@ -7,10 +7,10 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A spin box showing a property. The spin box reports its value when the user
-// commits it (Return, focus loss, a step); that value is written to the
-// property. A refresh from the property writes nothing back, even when the spin
-// box bends the value to its range: the property keeps what it was given.
+/// A spin box showing a property. The spin box reports its value when the user
+/// commits it (Return, focus loss, a step); that value is written to the
+/// property. A refresh from the property writes nothing back, even when the spin
+/// box bends the value to its range: the property keeps what it was given.
 template <typename T, typename SpinBox, typename Shown>
 class SpinBoxPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
 {

@@ -6,8 +6,8 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// Relevance given by a predicate over the host's state, asked again after every
-// announced change of that state.
+/// Relevance given by a predicate over the host's state, asked again after every
+/// announced change of that state.
 class ORRERY_FRAMEWORK_EXPORT StateChangeDependentRelevance : public virtual RelevanceInterface
 {
 public:

@@ -13,11 +13,11 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// What a style dialog's Impl is made of: its layout, the generated style set it
-// edits, the properties manager on that set, and the bindings and relevance
-// appliers that tie them to the widgets (declared last, so destroyed first).
-// The set takes the dialog's modality: a modeless dialog writes every edit to
-// the style at once and so follows changes made elsewhere.
+/// What a style dialog's Impl is made of: its layout, the generated style set it
+/// edits, the properties manager on that set, and the bindings and relevance
+/// appliers that tie them to the widgets (declared last, so destroyed first).
+/// The set takes the dialog's modality: a modeless dialog writes every edit to
+/// the style at once and so follows changes made elsewhere.
 template <typename Ui, typename Generated, typename Manager>
 struct StyleSetDialogParts
 {

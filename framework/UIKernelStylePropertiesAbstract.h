@@ -8,9 +8,9 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// Host base of every properties manager. A child set (built with a parent)
-// takes the parent's modality, submits when the parent submits, and addresses
-// collection members as (parent's offset, own offset).
+/// Host base of every properties manager. A child set (built with a parent)
+/// takes the parent's modality, submits when the parent submits, and addresses
+/// collection members as (parent's offset, own offset).
 class ORRERY_FRAMEWORK_EXPORT UIKernelStylePropertiesAbstract : public virtual UIKernelStylePropertiesInterface
 {
 public:
@@ -21,7 +21,7 @@ public:
     UIKernelStylePropertiesAbstract* parent() const { return m_parent; }
     void init() override;
     bool isModal() const override { return m_modal; }
-    // Applies pending edits (nothing for an immediate set), then announces it.
+    /// Applies pending edits (nothing for an immediate set), then announces it.
     void submit() override;
     void setCollectionOffset(const int& offset) override;
     int collectionOffset() const override { return m_collectionOffset; }

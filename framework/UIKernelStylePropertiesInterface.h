@@ -7,8 +7,8 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// A group of style properties that a dialog edits together: initialised from
-// the kernel, submitted together, moved together to another collection member.
+/// A group of style properties that a dialog edits together: initialised from
+/// the kernel, submitted together, moved together to another collection member.
 class ORRERY_FRAMEWORK_EXPORT UIKernelStylePropertiesInterface
 {
 public:

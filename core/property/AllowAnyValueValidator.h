@@ -3,7 +3,7 @@
 
 namespace orrery {
 
-// The default validator: every value is valid.
+/// The default validator: every value is valid.
 template <typename T>
 class AllowAnyValueValidator : public virtual ValidatorInterface<T>
 {

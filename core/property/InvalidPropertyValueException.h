@@ -4,8 +4,8 @@
 
 namespace orrery {
 
-// A value refused by a property's validator or by the kernel; the message is
-// the refusal text exactly as given.
+/// A value refused by a property's validator or by the kernel; the message is
+/// the refusal text exactly as given.
 class ORRERY_CORE_EXPORT InvalidPropertyValueException : public virtual ExceptionBase
 {
 public:

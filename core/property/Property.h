@@ -3,7 +3,7 @@
 
 namespace orrery {
 
-// A property that holds its value itself.
+/// A property that holds its value itself.
 template <typename T>
 class Property : public PropertyAbstract<T>
 {

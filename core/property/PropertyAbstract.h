@@ -11,8 +11,8 @@
 
 namespace orrery {
 
-// A typed, validated, observable value. setValue validates, skips equal values,
-// stores, reads the value back and announces what is really held.
+/// A typed, validated, observable value. setValue validates, skips equal values,
+/// stores, reads the value back and announces what is really held.
 template <typename T>
 class PropertyAbstract : public PropertyItemInterface
 {
@@ -43,7 +43,7 @@ public:
         return c;
     }
 
-    // Called after every connection to the value-changed signal.
+    /// Called after every connection to the value-changed signal.
     virtual void signalValueChangedConnected() const {}
     virtual void storeValue(const T& value) = 0;
     virtual bool isEqual(const T& value) const { return ValueEquality<T>::equal(value, retrieveValue()); }
@@ -63,8 +63,8 @@ public:
             m_propertyChanged();
     }
 
-    // Number of listeners on the value-changed signal (the internal forward to the
-    // untyped signal not counted).
+    /// Number of listeners on the value-changed signal (the internal forward to the
+    /// untyped signal not counted).
     size_t valueChangedListenerCount() const { return m_valueChanged.num_slots() - 1; }
 
 protected:

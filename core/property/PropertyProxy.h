@@ -4,8 +4,8 @@
 
 namespace orrery {
 
-// A property that forwards to another one, which can be exchanged at run time.
-// Values set through the proxy pass its own validator first, then the target's.
+/// A property that forwards to another one, which can be exchanged at run time.
+/// Values set through the proxy pass its own validator first, then the target's.
 template <typename T>
 class PropertyProxy : public PropertyAbstract<T>
 {
@@ -18,8 +18,8 @@ public:
         reset(target);
     }
 
-    // The target announces its change through the forward as well; it is held
-    // back here because setValue announces the value read back once afterwards.
+    /// The target announces its change through the forward as well; it is held
+    /// back here because setValue announces the value read back once afterwards.
     void storeValue(const T& value) override
     {
         boost::signals2::shared_connection_block quiet(m_forward);
@@ -27,7 +27,7 @@ public:
     }
     T retrieveValue() const override { return m_target->retrieveValue(); }
 
-    // Exchanges the target without any notification.
+    /// Exchanges the target without any notification.
     void reset(const boost::shared_ptr<PropertyAbstract<T>>& target)
     {
         m_target = requireNonNull(target, "The target of a property proxy");
@@ -37,7 +37,7 @@ public:
             typename PropertyAbstract<T>::ValueChangedSignal::slot_type(this->m_valueChanged));
     }
 
-    // Exchanges the target and announces the value when it differs from the old one.
+    /// Exchanges the target and announces the value when it differs from the old one.
     void setProperty(const boost::shared_ptr<PropertyAbstract<T>>& target)
     {
         requireNonNull(target, "The target of a property proxy");

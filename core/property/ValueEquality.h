@@ -6,21 +6,21 @@
 
 namespace orrery {
 
-// Equality used to decide whether a new value is a change.
+/// Equality used to decide whether a new value is a change.
 template <typename T>
 struct ValueEquality
 {
     static bool equal(const T& a, const T& b) { return a == b; }
 };
 
-// A NaN is never equal to anything, so setting NaN always stores and announces.
+/// A NaN is never equal to anything, so setting NaN always stores and announces.
 template <>
 struct ValueEquality<double>
 {
     static bool equal(double a, double b) { return !(a < b) && !(a > b) && !std::isnan(a) && !std::isnan(b); }
 };
 
-// Same elements in the same order, compared as one block of memory.
+/// Same elements in the same order, compared as one block of memory.
 template <>
 struct ValueEquality<std::vector<int>>
 {

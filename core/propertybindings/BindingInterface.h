@@ -3,8 +3,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Root of every binding: something that can refresh its widget's value,
-// visibility and enabled state. Dialogs own their bindings through this type.
+/// Root of every binding: something that can refresh its widget's value,
+/// visibility and enabled state. Dialogs own their bindings through this type.
 class ORRERY_CORE_EXPORT BindingInterface
 {
 public:

@@ -13,8 +13,8 @@ class QComboBox;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A combo box showing a list model, its current row kept in step with a property.
-// Instantiated for int and RGBMode_e.
+/// A combo box showing a list model, its current row kept in step with a property.
+/// Instantiated for int and RGBMode_e.
 template <typename T>
 class ORRERY_CORE_EXPORT ComboBoxPropertyBinding : public UIPropertyBindingAbstract<T>
 {

@@ -10,10 +10,10 @@ class QLineEdit;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A line edit whose text is written to the property when the user commits it
-// (Return, or leaving an edited field), never on each keystroke. A refused text
-// is answered by restoring the field and giving it the focus again.
-// Instantiated for double, std::string, int and RGBMode_e.
+/// A line edit whose text is written to the property when the user commits it
+/// (Return, or leaving an edited field), never on each keystroke. A refused text
+/// is answered by restoring the field and giving it the focus again.
+/// Instantiated for double, std::string, int and RGBMode_e.
 template <typename T>
 class ORRERY_CORE_EXPORT LineEditPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
 {
@@ -21,14 +21,14 @@ public:
     LineEditPropertyBindingAbstract(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,
                                     BindingInterface::WidgetUpdateMode_e mode);
 
-    // Commits the field's text. True when the value was stored or already held,
-    // and when the field still shows what the binding put there: a value the
-    // user did not edit is never rewritten from its display form (which may
-    // round it, or be a text such as "inf" that no edit could produce).
+    /// Commits the field's text. True when the value was stored or already held,
+    /// and when the field still shows what the binding put there: a value the
+    /// user did not edit is never rewritten from its display form (which may
+    /// round it, or be a text such as "inf" that no edit could produce).
     bool editingFinished();
 
 protected:
-    // Installs the default validator for T unless the dialog installed its own.
+    /// Installs the default validator for T unless the dialog installed its own.
     class ValidationInstaller
     {
     public:
@@ -39,7 +39,7 @@ protected:
     };
 
     QLineEdit* lineEdit() const { return m_field; }
-    // Shows a value; a commit of this very text is no edit.
+    /// Shows a value; a commit of this very text is no edit.
     void showText(const QString& text);
 
 private:

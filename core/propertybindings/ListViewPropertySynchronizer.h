@@ -19,20 +19,20 @@ class QListView;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Keeps the selected rows of a list view and a property holding the values of
-// those rows in step. Instantiated for std::vector<int> and std::set<int>.
-//
-// Loop guards: while the selection is set from the property, selection changes
-// are not written back; while the property is written from the selection, the
-// write does not schedule a selection refresh.
+/// Keeps the selected rows of a list view and a property holding the values of
+/// those rows in step. Instantiated for std::vector<int> and std::set<int>.
+///
+/// Loop guards: while the selection is set from the property, selection changes
+/// are not written back; while the property is written from the selection, the
+/// write does not schedule a selection refresh.
 template <typename C>
 class ORRERY_CORE_EXPORT ListViewPropertySynchronizer : public WidgetPropertySynchronizerInterface
 {
 public:
     typedef boost::shared_ptr<const models::ListModelInterface<int>> ListModelPtr;
 
-    // mode WidgetUpdateMode_OnIdle: after the rows change, selection and
-    // property are brought together once, on idle; otherwise at once.
+    /// mode WidgetUpdateMode_OnIdle: after the rows change, selection and
+    /// property are brought together once, on idle; otherwise at once.
     ListViewPropertySynchronizer(QListView& view, const boost::shared_ptr<PropertyAbstract<C>>& property,
                                  const ListModelPtr& rows, BindingInterface::WidgetUpdateMode_e mode);
     ~ListViewPropertySynchronizer() override;
@@ -40,7 +40,7 @@ public:
     void updateWidgetFromProperty() override;
     void updatePropertyFromWidget() override;
     void setupModel();
-    // Selects exactly the (non-header) rows whose values are in the collection.
+    /// Selects exactly the (non-header) rows whose values are in the collection.
     void setSelectionForPropertyValues(const C& values);
     void preserveSelectionOnModelChange();
     void synchronizePropertyAndSelection();

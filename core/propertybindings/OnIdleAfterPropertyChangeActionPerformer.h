@@ -8,7 +8,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Runs an action once on idle after one or more changes of a property.
+/// Runs an action once on idle after one or more changes of a property.
 class ORRERY_CORE_EXPORT OnIdleAfterPropertyChangeActionPerformer
 {
 public:
@@ -20,7 +20,7 @@ public:
     }
 
     void valueChanged();
-    // Off: changes are ignored (used while the owner writes the property itself).
+    /// Off: changes are ignored (used while the owner writes the property itself).
     void enable(bool enabled) { m_enabled = enabled; }
     bool isEnabled() const { return m_enabled; }
 

@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A binding tied to a property.
+/// A binding tied to a property.
 class ORRERY_CORE_EXPORT PropertyBindingInterface : public virtual BindingInterface
 {};
 

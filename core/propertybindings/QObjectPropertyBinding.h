@@ -6,9 +6,9 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Base of a binding that must itself be a QObject to own Qt slots. The property
-// side is delegated to an updater, which calls back into the three update
-// operations overridden by the derived class.
+/// Base of a binding that must itself be a QObject to own Qt slots. The property
+/// side is delegated to an updater, which calls back into the three update
+/// operations overridden by the derived class.
 template <typename T>
 class QObjectPropertyBinding : public QObject, public virtual BindingInterface
 {
@@ -16,7 +16,7 @@ public:
     QObjectPropertyBinding(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
     {}
-    // The properties manager owns a style property; it must outlive the binding.
+    /// The properties manager owns a style property; it must outlive the binding.
     QObjectPropertyBinding(typename UIPropertyBindingAbstract<T>::StyleProperty& property, WidgetUpdateMode_e mode)
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
     {}
@@ -24,7 +24,7 @@ public:
 protected:
     PropertyAbstract<T>& property() const { return m_updater->boundProperty(); }
     bool writeProperty(const T& candidate) { return m_updater->write(candidate); }
-    // For Qt slots, which must not let a refusal escape: see UIPropertyBindingAbstract.
+    /// For Qt slots, which must not let a refusal escape: see UIPropertyBindingAbstract.
     bool writePropertyReportingRejection(const T& candidate) { return m_updater->writeReporting(candidate); }
     void updateValueOnIdle() { m_updater->updateValueOnIdle(); }
     bool isPropertyVisible() const { return m_updater->visible(); }

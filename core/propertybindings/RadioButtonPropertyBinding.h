@@ -10,8 +10,8 @@ class QAbstractButton;
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// One radio button standing for one value of a property; a group of buttons,
-// one binding each, edits one property. Instantiated for bool and Font_e.
+/// One radio button standing for one value of a property; a group of buttons,
+/// one binding each, edits one property. Instantiated for bool and Font_e.
 template <typename T>
 class ORRERY_CORE_EXPORT RadioButtonPropertyBinding : public UIPropertyBindingAbstract<T>
 {

@@ -5,7 +5,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Runs an action when the scope is left, by return or by exception.
+/// Runs an action when the scope is left, by return or by exception.
 class ORRERY_CORE_EXPORT ScopedExitAction
 {
 public:
@@ -24,7 +24,7 @@ public:
         object = value;
     }
 
-    // Raises the flag now; the returned action lowers it again.
+    /// Raises the flag now; the returned action lowers it again.
     static std::function<void()> raiseUntilExit(bool& flag)
     {
         flag = true;

@@ -5,8 +5,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// A line edit showing a property's value through a boost::format string
-// ("%1%" by default). Instantiated for double and std::string.
+/// A line edit showing a property's value through a boost::format string
+/// ("%1%" by default). Instantiated for double and std::string.
 template <typename T>
 class ORRERY_CORE_EXPORT TextFieldPropertyBinding : public LineEditPropertyBindingAbstract<T>
 {

@@ -12,9 +12,9 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Common property side of a binding: hears the property (and, for a style
-// property, its relevance) and refreshes the widget at once or once on idle.
-// Writing the property is left to the concrete binding's widget handler.
+/// Common property side of a binding: hears the property (and, for a style
+/// property, its relevance) and refreshes the widget at once or once on idle.
+/// Writing the property is left to the concrete binding's widget handler.
 template <typename T>
 class UIPropertyBindingAbstract : public virtual PropertyBindingInterface
 {
@@ -28,7 +28,7 @@ public:
         startListeningToProperty();
     }
 
-    // The properties manager owns a style property; it must outlive the binding.
+    /// The properties manager owns a style property; it must outlive the binding.
     UIPropertyBindingAbstract(StyleProperty& property, WidgetUpdateMode_e mode)
         : m_mode(mode), m_styleProperty(&property), m_property(property), m_valueUpdater([this] { updateWidget(); })
     {
@@ -38,7 +38,7 @@ public:
     UIPropertyBindingAbstract(const UIPropertyBindingAbstract&) = delete;
     UIPropertyBindingAbstract& operator=(const UIPropertyBindingAbstract&) = delete;
 
-    // Has the widget refreshed once on idle, whatever the update mode.
+    /// Has the widget refreshed once on idle, whatever the update mode.
     virtual void updateValueOnIdle() { m_valueUpdater.enableNotification(); }
 
     WidgetUpdateMode_e widgetUpdateMode() const { return m_mode; }
@@ -46,16 +46,16 @@ public:
 protected:
     PropertyAbstract<T>& property() const { return m_property; }
 
-    // Relevance of the style property; a plain property is always shown and enabled
-    // (its widget is driven by a RelevanceApplier instead).
+    /// Relevance of the style property; a plain property is always shown and enabled
+    /// (its widget is driven by a RelevanceApplier instead).
     bool isPropertyVisible() const { return !m_styleProperty || m_styleProperty->isVisible(); }
     bool isPropertySensitive() const { return !m_styleProperty || m_styleProperty->isSensitive(); }
 
     bool writeProperty(const T& candidate) { return intern::writeProperty(m_property, candidate); }
 
-    // The write of a widget handler that cannot leave an exception to Qt: a
-    // refused value is reported, the property keeps its value, and the widget is
-    // shown the property's value again on idle.
+    /// The write of a widget handler that cannot leave an exception to Qt: a
+    /// refused value is reported, the property keeps its value, and the widget is
+    /// shown the property's value again on idle.
     bool writePropertyReportingRejection(const T& candidate)
     {
         try {
@@ -112,7 +112,7 @@ private:
     common::OnIdleActionPerformerSingleShot m_valueUpdater;
     boost::scoped_ptr<common::OnIdleActionPerformerSingleShot> m_visibilityUpdater;
     boost::scoped_ptr<common::OnIdleActionPerformerSingleShot> m_sensitivityUpdater;
-    // Last, so that it disconnects first on destruction.
+    /// Last, so that it disconnects first on destruction.
     SignalConnectionCollection m_connections;
 };
 

@@ -3,7 +3,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings {
 
-// Keeps a widget and a property in step when neither direction is a plain value copy.
+/// Keeps a widget and a property in step when neither direction is a plain value copy.
 class ORRERY_CORE_EXPORT WidgetPropertySynchronizerInterface
 {
 public:

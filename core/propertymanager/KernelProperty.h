@@ -10,10 +10,10 @@ namespace orrery {
 namespace sdk {
 namespace styleproperties {
 
-// A property that reads the kernel on every read and writes it on every store.
-// A refused write throws with the kernel's text; a failed read keeps the last
-// known value. While anybody listens, it follows changes made elsewhere in the
-// host and announces them.
+/// A property that reads the kernel on every read and writes it on every store.
+/// A refused write throws with the kernel's text; a failed read keeps the last
+/// known value. While anybody listens, it follows changes made elsewhere in the
+/// host and announces them.
 template <typename T>
 class KernelProperty : public KernelPropertyAbstract<T>
 {
@@ -84,8 +84,8 @@ public:
     bool isFollowingKernel() const { return !m_stateChangeConnections.empty(); }
 
 private:
-    // The path identifiers of one kernel call, on in-place storage: paths are
-    // at most seven names plus the terminator.
+    /// The path identifiers of one kernel call, on in-place storage: paths are
+    /// at most seven names plus the terminator.
     struct IdentifierList
     {
         explicit IdentifierList(const KernelProperty& p) : array(&slot, storage, 8)
@@ -100,7 +100,7 @@ private:
         RawArray<long> array;
     };
 
-    // Clears a flag for the lifetime of the guard, restoring it even on throw.
+    /// Clears a flag for the lifetime of the guard, restoring it even on throw.
     struct AnnounceSuppressor
     {
         explicit AnnounceSuppressor(bool& flag) : m_flag(flag), m_saved(flag) { m_flag = false; }

@@ -6,7 +6,7 @@ namespace orrery {
 namespace sdk {
 namespace styleproperties {
 
-// A property whose value lives in the kernel's style state.
+/// A property whose value lives in the kernel's style state.
 template <typename T>
 class KernelPropertyAbstract : public virtual PropertyAbstract<T>, public KernelPropertyHandle
 {};

@@ -5,8 +5,8 @@ namespace orrery {
 namespace sdk {
 namespace styleproperties {
 
-// Keeps edits locally and writes them to the kernel only on apply(), so that a
-// modal dialog's Cancel leaves the style state untouched.
+/// Keeps edits locally and writes them to the kernel only on apply(), so that a
+/// modal dialog's Cancel leaves the style state untouched.
 template <typename T>
 class KernelPropertyDeferred : public KernelPropertyAbstract<T>
 {

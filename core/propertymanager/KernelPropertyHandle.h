@@ -5,13 +5,13 @@ namespace orrery {
 namespace sdk {
 namespace styleproperties {
 
-// What a style property set does to all its kernel properties at once,
-// whatever their value types: move to another collection member, submit.
+/// What a style property set does to all its kernel properties at once,
+/// whatever their value types: move to another collection member, submit.
 class ORRERY_CORE_EXPORT KernelPropertyHandle
 {
 public:
     virtual void setOffsets(long first, long second) = 0;
-    // Writes pending edits to the kernel; immediate properties have none.
+    /// Writes pending edits to the kernel; immediate properties have none.
     virtual void apply() {}
     virtual ~KernelPropertyHandle() = default;
 };

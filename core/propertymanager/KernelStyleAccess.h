@@ -9,9 +9,9 @@ namespace orrery {
 namespace sdk {
 namespace styleproperties {
 
-// Reads and writes one style value of type T through prepared argument lists.
-// Integers and enumerations travel as raw "IValue" arguments; doubles, bools
-// and strings use the typed final-value calls.
+/// Reads and writes one style value of type T through prepared argument lists.
+/// Integers and enumerations travel as raw "IValue" arguments; doubles, bools
+/// and strings use the typed final-value calls.
 template <typename T>
 struct KernelStyleAccess
 {
@@ -58,9 +58,9 @@ template <>
 struct KernelStyleAccess<std::string> : KernelFinalValueAccess<std::string>
 {};
 
-// Whether a value read from the kernel is the one already cached. Unlike the
-// change test of setValue, two NaNs count as the same here: otherwise a NaN in
-// the kernel would be announced as news on every read.
+/// Whether a value read from the kernel is the one already cached. Unlike the
+/// change test of setValue, two NaNs count as the same here: otherwise a NaN in
+/// the kernel would be announced as news on every read.
 template <typename T>
 inline bool sameKernelValue(const T& a, const T& b)
 {

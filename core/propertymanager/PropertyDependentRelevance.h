@@ -7,7 +7,7 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// Relevant while the property holds one given value.
+/// Relevant while the property holds one given value.
 template <typename T>
 class PropertyDependentRelevance : public PropertyDependentRelevanceAbstract<T>
 {

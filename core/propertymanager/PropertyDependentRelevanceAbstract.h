@@ -9,8 +9,8 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// Relevance decided by the value of one property; every real change of the
-// property is announced, whether or not the answer changed.
+/// Relevance decided by the value of one property; every real change of the
+/// property is announced, whether or not the answer changed.
 template <typename T>
 class PropertyDependentRelevanceAbstract : public virtual RelevanceInterface
 {

@@ -11,7 +11,7 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// Relevance given by a predicate, asked again whenever a property changes.
+/// Relevance given by a predicate, asked again whenever a property changes.
 class ORRERY_CORE_EXPORT PropertyPredicateDependentRelevance : public virtual RelevanceInterface
 {
 public:

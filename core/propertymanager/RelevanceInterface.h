@@ -7,8 +7,8 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// Says whether a control (or a whole dialog) is meaningful right now, and
-// announces when the answer may have changed; listeners ask again.
+/// Says whether a control (or a whole dialog) is meaningful right now, and
+/// announces when the answer may have changed; listeners ask again.
 class ORRERY_CORE_EXPORT RelevanceInterface
 {
 public:

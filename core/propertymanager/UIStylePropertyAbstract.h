@@ -8,10 +8,10 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// A property that also knows whether its control should be visible and enabled.
-// Both answers come from optional relevance objects (absent: always true) and
-// their changes are relayed, so that bindings made on such a property follow them.
-// It sits in the library's core because the core bindings take it.
+/// A property that also knows whether its control should be visible and enabled.
+/// Both answers come from optional relevance objects (absent: always true) and
+/// their changes are relayed, so that bindings made on such a property follow them.
+/// It sits in the library's core because the core bindings take it.
 template <typename T>
 class UIStylePropertyAbstract : public virtual PropertyAbstract<T>
 {

@@ -9,13 +9,13 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// Rows taken from the kernel's data set (zones, variables): one row per
-// number, in ascending order, showing its name. The rows are fetched again
-// after every change of the data set or the frame, and a change is announced
-// only when they differ.
-//
-// Names are asked of the kernel only for the rows that are shown, and kept:
-// a data set may hold a million zones, of which a list shows a few dozen.
+/// Rows taken from the kernel's data set (zones, variables): one row per
+/// number, in ascending order, showing its name. The rows are fetched again
+/// after every change of the data set or the frame, and a change is announced
+/// only when they differ.
+///
+/// Names are asked of the kernel only for the rows that are shown, and kept:
+/// a data set may hold a million zones, of which a list shows a few dozen.
 class ORRERY_FRAMEWORK_EXPORT DataSetListModelAbstract : public ListModelAbstract<int>
 {
 public:
@@ -30,10 +30,10 @@ public:
 
 protected:
     DataSetListModelAbstract();
-    // Ascending.
+    /// Ascending.
     virtual std::vector<int> fetchNumbers() const = 0;
     virtual std::string fetchText(int number) const = 0;
-    // Takes over a string returned by the kernel's C interface.
+    /// Takes over a string returned by the kernel's C interface.
     static std::string takeKernelString(char* text);
 
 private:

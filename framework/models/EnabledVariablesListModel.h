@@ -4,8 +4,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// The variables enabled in the current frame, in ascending order; a row's
-// value is the variable number, its text the variable's name.
+/// The variables enabled in the current frame, in ascending order; a row's
+/// value is the variable number, its text the variable's name.
 class ORRERY_FRAMEWORK_EXPORT EnabledVariablesListModel : public DataSetListModelAbstract
 {
 public:

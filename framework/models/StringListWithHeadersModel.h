@@ -6,8 +6,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// A list of texts with header rows between groups (captions, not choices). A
-// row's value is its row number.
+/// A list of texts with header rows between groups (captions, not choices). A
+/// row's value is its row number.
 class ORRERY_FRAMEWORK_EXPORT StringListWithHeadersModel : public ListModelAbstract<int>
 {
 public:

@@ -6,9 +6,9 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// The zones that a source function gives for the current frame, in ascending
-// order; a row's value is the zone number, its text the zone's name (preceded
-// by the number when numbered).
+/// The zones that a source function gives for the current frame, in ascending
+/// order; a row's value is the zone number, its text the zone's name (preceded
+/// by the number when numbered).
 class ORRERY_FRAMEWORK_EXPORT ZoneListModel : public DataSetListModelAbstract
 {
 public:

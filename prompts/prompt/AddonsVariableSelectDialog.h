@@ -12,8 +12,8 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Up to three variables for an add-on, chosen straight into properties that
-// the add-on supplies; the add-on reads them after the dialog closes.
+/// Up to three variables for an add-on, chosen straight into properties that
+/// the add-on supplies; the add-on reads them after the dialog closes.
 class ORRERY_PROMPTS_EXPORT AddonsVariableSelectDialog : public common::QtDialogAbstract,
                                                          public virtual common::DialogInterface,
                                                          public SingleInstanceDialog<AddonsVariableSelectDialog>
@@ -22,11 +22,11 @@ class ORRERY_PROMPTS_EXPORT AddonsVariableSelectDialog : public common::QtDialog
 public:
     typedef boost::shared_ptr<PropertyAbstract<int>> VarPropertyPtr;
 
-    // A null label is skipped, so the labels after it move up one row; rows
-    // without a label are hidden, their properties still bound. The first call
-    // fixes everything; a live dialog is returned unchanged. Throws
-    // std::out_of_range without any label and std::invalid_argument for null
-    // instructions or properties.
+    /// A null label is skipped, so the labels after it move up one row; rows
+    /// without a label are hidden, their properties still bound. The first call
+    /// fixes everything; a live dialog is returned unchanged. Throws
+    /// std::out_of_range without any label and std::invalid_argument for null
+    /// instructions or properties.
     static AddonsVariableSelectDialog* getInstance(QWidget& parent, const char* instructions, const char* label1,
                                                    const char* label2, const char* label3, VarPropertyPtr var1,
                                                    VarPropertyPtr var2, VarPropertyPtr var3);

@@ -11,23 +11,23 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Picks one of the nine anchor points of a box. Cancel falls back to the
-// alignment the caller passed most recently.
+/// Picks one of the nine anchor points of a box. Cancel falls back to the
+/// alignment the caller passed most recently.
 class ORRERY_PROMPTS_EXPORT AnchorAlignmentDialog : public common::QtDialogAbstract,
                                                     public virtual common::DialogInterface,
                                                     public SingleInstanceDialog<AnchorAlignmentDialog>
 {
     Q_OBJECT
 public:
-    // A live dialog keeps its buttons and answer; only the alignment that
-    // Cancel restores is replaced.
+    /// A live dialog keeps its buttons and answer; only the alignment that
+    /// Cancel restores is replaced.
     static AnchorAlignmentDialog* getInstance(AnchorAlignment_e initial, QWidget& parent);
 
     AnchorAlignmentDialog(AnchorAlignment_e initial, QWidget& parent);
     ~AnchorAlignmentDialog() override;
 
-    // Shows the alignment in the buttons without changing the answer; values
-    // outside the table check the top left button.
+    /// Shows the alignment in the buttons without changing the answer; values
+    /// outside the table check the top left button.
     void setSelectedAlignmentButton(AnchorAlignment_e alignment);
     AnchorAlignment_e selectedAlignment() const { return m_selectedAlignment; }
 
@@ -35,9 +35,9 @@ public Q_SLOTS:
     void reject() override;
 
 private Q_SLOTS:
-    // Connected by object name, one per button. The button losing its check
-    // reports first, so the last write is always the newly checked button; the
-    // flag can be ignored.
+    /// Connected by object name, one per button. The button losing its check
+    /// reports first, so the last write is always the newly checked button; the
+    /// flag can be ignored.
     void on_anchorAlignment_TopLeft_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopLeft; }
     void on_anchorAlignment_TopCenter_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopCenter; }
     void on_anchorAlignment_TopRight_RadioButton_toggled(bool) { m_selectedAlignment = AnchorAlignment_TopRight; }

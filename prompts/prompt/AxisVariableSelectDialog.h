@@ -10,11 +10,11 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The variables on the X, Y (and, in 3D, Z) axes of the current frame.
+/// The variables on the X, Y (and, in 3D, Z) axes of the current frame.
 class ORRERY_PROMPTS_EXPORT AxisVariableSelectDialog
 {
 public:
-    // Starts from the variables the axes already use.
+    /// Starts from the variables the axes already use.
     class AxisVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
@@ -22,14 +22,14 @@ public:
                              PropertyAbstract<int>& var3) const override;
     };
 
-    // The variable dialog for the axes of the current frame's plot type (see
-    // VariableSelectDialog::getInstance for the reuse of a live dialog).
+    /// The variable dialog for the axes of the current frame's plot type (see
+    /// VariableSelectDialog::getInstance for the reuse of a live dialog).
     static VariableSelectDialog* getInstance(QWidget& parent);
-    // Relevant while the current page shows a frame with a 2D or 3D field plot.
+    /// Relevant while the current page shows a frame with a 2D or 3D field plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
-    // True when there is a page and a frame, and plotType() names a 2D or 3D
-    // field plot; shared with the vector dialog.
+    /// True when there is a page and a frame, and plotType() names a 2D or 3D
+    /// field plot; shared with the vector dialog.
     static bool frameShowsFieldPlot(const std::function<PlotType_e()>& plotType);
 };
 

@@ -13,9 +13,9 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Lets the user pick the data loader for a file: the suggested loaders first,
-// then all others; the loader last confirmed for the file's extension is
-// preselected, and a confirmed choice is remembered for the next time.
+/// Lets the user pick the data loader for a file: the suggested loaders first,
+/// then all others; the loader last confirmed for the file's extension is
+/// preselected, and a confirmed choice is remembered for the next time.
 class ORRERY_PROMPTS_EXPORT ChooseLoaderDialog : public common::QtDialogAbstract,
                                                  public virtual common::DialogInterface,
                                                  public SingleInstanceDialog<ChooseLoaderDialog>
@@ -24,23 +24,23 @@ class ORRERY_PROMPTS_EXPORT ChooseLoaderDialog : public common::QtDialogAbstract
 public:
     typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;
 
-    // Every call rebuilds the list, selection, title and prompt from the
-    // arguments. Extensions are written with their dot (".csv").
+    /// Every call rebuilds the list, selection, title and prompt from the
+    /// arguments. Extensions are written with their dot (".csv").
     static ChooseLoaderDialog* getInstance(QWidget& parent, std::vector<LoaderPtr> const& suggestedLoaders,
                                            std::set<std::string> const& extensions);
 
     explicit ChooseLoaderDialog(QWidget& parent);
     ~ChooseLoaderDialog() override;
 
-    // Empty when no loader is selected.
+    /// Empty when no loader is selected.
     LoaderPtr selectedLoader();
 
 public Q_SLOTS:
-    // Remembers the choice for the file's extension, then accepts.
+    /// Remembers the choice for the file's extension, then accepts.
     void accept() override;
 
 protected:
-    // A remembered loader far down a long list is brought into sight.
+    /// A remembered loader far down a long list is brought into sight.
     void showEvent(QShowEvent* event) override;
 
 private:

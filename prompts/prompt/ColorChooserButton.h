@@ -7,8 +7,8 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// One swatch of the colour grid: a tool button filled with a colour of the
-// kernel's colour map.
+/// One swatch of the colour grid: a tool button filled with a colour of the
+/// kernel's colour map.
 class ORRERY_PROMPTS_EXPORT ColorChooserButton : public QToolButton
 {
     Q_OBJECT
@@ -23,8 +23,8 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    // The swatch is painted here rather than through a style sheet per button:
-    // sixty-four style sheets make the grid's first show several times slower.
+    /// The swatch is painted here rather than through a style sheet per button:
+    /// sixty-four style sheets make the grid's first show several times slower.
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -14,47 +14,47 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Picks a plot colour with one click: a colour of the grid, one of the eight
-// multi colourings (colour by variable) or RGB colouring. Close leaves the
-// previous answer in place, so callers look at result() first.
+/// Picks a plot colour with one click: a colour of the grid, one of the eight
+/// multi colourings (colour by variable) or RGB colouring. Close leaves the
+/// previous answer in place, so callers look at result() first.
 class ORRERY_PROMPTS_EXPORT ColorChooserDialog : public common::QtDialogAbstract,
                                                  public virtual common::DialogInterface,
                                                  public SingleInstanceDialog<ColorChooserDialog>
 {
     Q_OBJECT
 public:
-    // Every call moves the live dialog to the new parent and enables or
-    // disables colouring by variable as asked.
+    /// Every call moves the live dialog to the new parent and enables or
+    /// disables colouring by variable as asked.
     static ColorChooserDialog* getInstance(QWidget& parent, bool enableVarColoring);
 
-    // The colour's name; shortForm abbreviates custom colours ("Cust 1" for
-    // "CUSTOM1"). Indices that name no colour give an empty string.
+    /// The colour's name; shortForm abbreviates custom colours ("Cust 1" for
+    /// "CUSTOM1"). Indices that name no colour give an empty string.
     static std::string colorToString(int colorIndex, bool shortForm);
-    // colorToString in the user's language, for the screen; the long form of a
-    // custom colour reads "Custom color 3" rather than "CUSTOM3".
+    /// colorToString in the user's language, for the screen; the long form of a
+    /// custom colour reads "Custom color 3" rather than "CUSTOM3".
     static QString colorDisplayName(int colorIndex, bool shortForm);
 
-    // Where the icon of the multi colourings lives among the resources.
+    /// Where the icon of the multi colourings lives among the resources.
     static const QString& multiColorIconPath();
 
     explicit ColorChooserDialog(QWidget& parent);
     ~ColorChooserDialog() override;
 
-    // Enables or disables the multi colourings and RGB together.
+    /// Enables or disables the multi colourings and RGB together.
     void setEnableVarColoring(bool enable);
-    // Stores the colour as the answer and ends the dialog.
+    /// Stores the colour as the answer and ends the dialog.
     void colorSelected(int colorIndex);
     int selectedColor() const { return m_selectedColor; }
 
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    // Lets a key's release reach the chooser only when its press did: the release
-    // of the key that opened the chooser from a button must not choose in it.
+    /// Lets a key's release reach the chooser only when its press did: the release
+    /// of the key that opened the chooser from a button must not choose in it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private Q_SLOTS:
-    // Connected by object name: the multi colourings 1 to 8, and RGB.
+    /// Connected by object name: the multi colourings 1 to 8, and RGB.
     void on_C1_clicked(bool) { multiColoringSelected(1); }
     void on_C2_clicked(bool) { multiColoringSelected(2); }
     void on_C3_clicked(bool) { multiColoringSelected(3); }
@@ -74,8 +74,8 @@ private:
     SignalConnectionCollection m_connections;
 };
 
-// Asks the user for the RGB channel variables in a dialog over parent; true
-// when they were chosen.
+/// Asks the user for the RGB channel variables in a dialog over parent; true
+/// when they were chosen.
 ORRERY_PROMPTS_EXPORT bool askForRGBChannelVariables(QWidget& parent);
 
 } // namespace prompt

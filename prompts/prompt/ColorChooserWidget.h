@@ -7,8 +7,8 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The 8 x 8 grid of colour swatches: the basic colours in display order on the
-// first row, then the custom colours. A click announces the swatch's index.
+/// The 8 x 8 grid of colour swatches: the basic colours in display order on the
+/// first row, then the custom colours. A click announces the swatch's index.
 class ORRERY_PROMPTS_EXPORT ColorChooserWidget : public QWidget
 {
     Q_OBJECT

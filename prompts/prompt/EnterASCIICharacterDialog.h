@@ -10,16 +10,16 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Asks for one character to draw as a plot symbol, and its font: the base font
-// or the Greek, Math or user-defined symbol font.
+/// Asks for one character to draw as a plot symbol, and its font: the base font
+/// or the Greek, Math or user-defined symbol font.
 class ORRERY_PROMPTS_EXPORT EnterASCIICharacterDialog : public common::QtDialogAbstract,
                                                         public virtual common::DialogInterface,
                                                         public SingleInstanceDialog<EnterASCIICharacterDialog>
 {
     Q_OBJECT
 public:
-    // The first call fixes the initial character and font; a live dialog is
-    // returned as the user left it and the arguments are ignored.
+    /// The first call fixes the initial character and font; a live dialog is
+    /// returned as the user left it and the arguments are ignored.
     static EnterASCIICharacterDialog* getInstance(QWidget& parent, std::string initialChar, bool useBaseFont,
                                                   Font_e font);
 
@@ -27,7 +27,7 @@ public:
     ~EnterASCIICharacterDialog() override;
 
     std::string selectedChar() const;
-    // Derived from the font: 255 is the single encoding of the base font.
+    /// Derived from the font: 255 is the single encoding of the base font.
     bool useBaseFont() const;
     Font_e typeFaceOverride() const;
 

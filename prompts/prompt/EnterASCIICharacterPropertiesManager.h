@@ -11,15 +11,15 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The symbol character and the font it is drawn in. The font 255 stands for
-// the plot's base font (no override).
+/// The symbol character and the font it is drawn in. The font 255 stands for
+/// the plot's base font (no override).
 class ORRERY_PROMPTS_EXPORT EnterASCIICharacterPropertiesManager
 {
 public:
     EnterASCIICharacterPropertiesManager(std::string const& initialChar, Font_e font);
     ~EnterASCIICharacterPropertiesManager();
 
-    // Refuses the empty string.
+    /// Refuses the empty string.
     boost::shared_ptr<PropertyAbstract<std::string>> selectedChar() const;
     boost::shared_ptr<PropertyAbstract<Font_e>> typeFaceOverride() const;
 

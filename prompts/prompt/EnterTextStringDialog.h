@@ -9,15 +9,15 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Asks for one line of text. The caller constructs, runs and destroys it, and
-// reads text() before destroying it.
+/// Asks for one line of text. The caller constructs, runs and destroys it, and
+/// reads text() before destroying it.
 class ORRERY_PROMPTS_EXPORT EnterTextStringDialog : public common::QtDialogAbstract,
                                                     public virtual common::DialogInterface
 {
     Q_OBJECT
 public:
-    // An empty promptText keeps the default prompt; an empty helpPage installs
-    // no help. The last argument is accepted for the callers that pass it.
+    /// An empty promptText keeps the default prompt; an empty helpPage installs
+    /// no help. The last argument is accepted for the callers that pass it.
     EnterTextStringDialog(QWidget& parent, QString const& promptText, QString const& initialText,
                           QString const& helpPage, bool);
     ~EnterTextStringDialog() override;

@@ -9,22 +9,22 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Asks for three whole numbers side by side (by default a begin, an end and a
-// skip), with captions, title and lower limits chosen by the caller.
+/// Asks for three whole numbers side by side (by default a begin, an end and a
+/// skip), with captions, title and lower limits chosen by the caller.
 class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesDialog : public common::QtDialogAbstract,
                                                         public virtual common::DialogInterface,
                                                         public SingleInstanceDialog<EnterThreeIntValuesDialog>
 {
     Q_OBJECT
 public:
-    // The first call fixes everything; a live dialog is returned as the user
-    // left it and the arguments are ignored.
+    /// The first call fixes everything; a live dialog is returned as the user
+    /// left it and the arguments are ignored.
     static EnterThreeIntValuesDialog* getInstance(QWidget& parent, long value1, long value2, long value3,
                                                   std::string const& title, std::string const& helpPage,
                                                   std::string label1, std::string label2, std::string label3,
                                                   long minimum1, long minimum2, long minimum3);
 
-    // A lower limit of 0 or below leaves the spin box's own lower end in place.
+    /// A lower limit of 0 or below leaves the spin box's own lower end in place.
     EnterThreeIntValuesDialog(QWidget& parent, std::string const& title, std::string const& helpPage, long value1,
                               long value2, long value3, std::string label1, std::string label2, std::string label3,
                               long minimum1, long minimum2, long minimum3);

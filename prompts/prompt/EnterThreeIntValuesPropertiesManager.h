@@ -9,7 +9,7 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The three whole numbers of the three-values prompt; any value is accepted.
+/// The three whole numbers of the three-values prompt; any value is accepted.
 class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesPropertiesManager
 {
 public:
@@ -20,7 +20,7 @@ public:
     boost::shared_ptr<PropertyAbstract<long>> value2() const;
     boost::shared_ptr<PropertyAbstract<long>> value3() const;
 
-    // The values only mean something while there is a data set.
+    /// The values only mean something while there is a data set.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

@@ -8,16 +8,16 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Edits the RGB colouring of a field plot: the RGB mode, the channel variables
-// and the value range mapped to the intensities. Modeless: every edit reaches
-// the style at once, and the dialog follows changes made elsewhere.
+/// Edits the RGB colouring of a field plot: the RGB mode, the channel variables
+/// and the value range mapped to the intensities. Modeless: every edit reaches
+/// the style at once, and the dialog follows changes made elsewhere.
 class ORRERY_PROMPTS_EXPORT RGBColorOptsDialog : public common::QtDialogAbstract,
                                                  public virtual common::DialogInterface,
                                                  public SingleInstanceDialog<RGBColorOptsDialog>
 {
     Q_OBJECT
 public:
-    // The parent counts only for the first call, which builds the dialog.
+    /// The parent counts only for the first call, which builds the dialog.
     static RGBColorOptsDialog* getInstance(QWidget& parent);
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 

@@ -6,11 +6,11 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The variables of the red, green and blue channels of RGB colouring.
+/// The variables of the red, green and blue channels of RGB colouring.
 class ORRERY_PROMPTS_EXPORT RGBVariableSelectDialog
 {
 public:
-    // Starts from the host's RGB candidates, whether or not it found all three.
+    /// Starts from the host's RGB candidates, whether or not it found all three.
     class RGBVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
@@ -18,9 +18,9 @@ public:
                              PropertyAbstract<int>& var3) const override;
     };
 
-    // The variable dialog for the three channels (see
-    // VariableSelectDialog::getInstance for the reuse of a live dialog). It is
-    // usable while a data set exists.
+    /// The variable dialog for the three channels (see
+    /// VariableSelectDialog::getInstance for the reuse of a live dialog). It is
+    /// usable while a data set exists.
     static VariableSelectDialog* getInstance(QWidget& parent);
 };
 

@@ -8,23 +8,23 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Edits how scatter symbols are sized and which font their letters use; in a
-// line plot it edits the symbol font only ("Symbol Font"). Edits reach the
-// style at once; a plot type change re-titles and retargets it.
+/// Edits how scatter symbols are sized and which font their letters use; in a
+/// line plot it edits the symbol font only ("Symbol Font"). Edits reach the
+/// style at once; a plot type change re-titles and retargets it.
 class ORRERY_PROMPTS_EXPORT ScatterSizeFontDialog : public common::QtDialogAbstract,
                                                     public virtual common::DialogInterface,
                                                     public SingleInstanceDialog<ScatterSizeFontDialog>
 {
     Q_OBJECT
 public:
-    // The parent counts only for the first call, which builds the dialog.
+    /// The parent counts only for the first call, which builds the dialog.
     static ScatterSizeFontDialog* getInstance(QWidget& parent);
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
     explicit ScatterSizeFontDialog(QWidget& parent);
     ~ScatterSizeFontDialog() override;
 
-    // Title and help page for the current plot type.
+    /// Title and help page for the current plot type.
     void setDialogForPlotType();
 
 private:

@@ -21,10 +21,10 @@ class ScatterSizeFontPropertiesGenerated;
 namespace dialogs {
 namespace prompt {
 
-// What the scatter size and font dialog edits beyond the plain style values:
-// the font of the current plot type (scatter symbols in field plots, line
-// plot symbols in line plots), the size multiplier in either unit, and which
-// size controls apply.
+/// What the scatter size and font dialog edits beyond the plain style values:
+/// the font of the current plot type (scatter symbols in field plots, line
+/// plot symbols in line plots), the size multiplier in either unit, and which
+/// size controls apply.
 class ORRERY_PROMPTS_EXPORT ScatterSizeFontPropertiesManager
 {
 public:
@@ -34,25 +34,25 @@ public:
     ~ScatterSizeFontPropertiesManager();
 
     boost::shared_ptr<PropertyProxy<std::string>> fontProperty() const;
-    // Follow the plot type like the font; no control edits them.
+    /// Follow the plot type like the font; no control edits them.
     boost::shared_ptr<PropertyProxy<bool>> fontBoldProperty() const;
     boost::shared_ptr<PropertyProxy<bool>> fontItalicProperty() const;
-    // The one stored multiplier, shown per unit of grid or per centimetre. A
-    // value typed into either is stored unconverted: only the field of the
-    // stored unit is enabled.
+    /// The one stored multiplier, shown per unit of grid or per centimetre. A
+    /// value typed into either is stored unconverted: only the field of the
+    /// stored unit is enabled.
     boost::shared_ptr<PropertyAbstract<double>> relativeGridSizeProperty() const;
     boost::shared_ptr<PropertyAbstract<double>> relativeCmSizeProperty() const;
-    // The plot type the properties were last set up for.
+    /// The plot type the properties were last set up for.
     boost::shared_ptr<Property<PlotType_e>> plotTypeProperty() const;
     boost::shared_ptr<const RelevanceInterface> fieldPlotTypeRelevance() const;
     boost::shared_ptr<const RelevanceInterface> sizeInGridUnitsRelevance() const;
     boost::shared_ptr<const RelevanceInterface> sizeInCmUnitsRelevance() const;
     boost::shared_ptr<sdk::ui::dialogs::propertybindings::models::EnabledVariablesListModel> variablesModel() const;
 
-    // Sets the multiplier to the default for the size variable's range.
+    /// Sets the multiplier to the default for the size variable's range.
     void recalculateSize();
 
-    // Field plots and line plots have symbols to size or to letter.
+    /// Field plots and line plots have symbols to size or to letter.
     static boost::shared_ptr<const RelevanceInterface> relevance();
 
 private:

@@ -13,13 +13,13 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The three variable drop-down lists of the variable dialogs, each bound to
-// its property over one shared list of enabled variables.
-//
-// A property always holds the variable its list shows: a value that is not
-// listed (never was, or vanished when the data set or the frame changed) is
-// replaced by the first listed variable, or by 0 when nothing is listed, so
-// that no dangling variable number is ever written.
+/// The three variable drop-down lists of the variable dialogs, each bound to
+/// its property over one shared list of enabled variables.
+///
+/// A property always holds the variable its list shows: a value that is not
+/// listed (never was, or vanished when the data set or the frame changed) is
+/// replaced by the first listed variable, or by 0 when nothing is listed, so
+/// that no dangling variable number is ever written.
 class ORRERY_PROMPTS_EXPORT VariableChoiceBindings
 {
 public:
@@ -30,7 +30,7 @@ public:
                            const PropertyPtr (&properties)[3]);
     ~VariableChoiceBindings();
 
-    // Brings every property to a listed variable (see above).
+    /// Brings every property to a listed variable (see above).
     void keepChoicesListed();
 
 private:

@@ -13,16 +13,16 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Asks for two or three variables of the data set, one per drop-down list, and
-// writes each to the style value the caller names when the user presses OK.
-// Nothing reaches the kernel before OK; OK is one undoable step.
+/// Asks for two or three variables of the data set, one per drop-down list, and
+/// writes each to the style value the caller names when the user presses OK.
+/// Nothing reaches the kernel before OK; OK is one undoable step.
 class ORRERY_PROMPTS_EXPORT VariableSelectDialog : public common::QtDialogAbstract,
                                                    public virtual common::DialogInterface,
                                                    public SingleInstanceDialog<VariableSelectDialog>
 {
     Q_OBJECT
 public:
-    // Chooses the variables the dialog shows first.
+    /// Chooses the variables the dialog shows first.
     class DefaultVarAssignmentInterface
     {
     public:
@@ -31,11 +31,11 @@ public:
                                      PropertyAbstract<int>& var3) const = 0;
     };
 
-    // The first call builds the dialog for these paths; a live dialog is
-    // returned unchanged (its old paths, texts and choices) whatever the
-    // arguments. An empty var3Path makes a two-variable dialog. labels needs
-    // two texts, three with a third variable; launch() checks that.
-    // Throws what the assignment throws, and then leaves no dialog behind.
+    /// The first call builds the dialog for these paths; a live dialog is
+    /// returned unchanged (its old paths, texts and choices) whatever the
+    /// arguments. An empty var3Path makes a two-variable dialog. labels needs
+    /// two texts, three with a third variable; launch() checks that.
+    /// Throws what the assignment throws, and then leaves no dialog behind.
     static VariableSelectDialog* getInstance(QWidget& parent, const toolbox::StringList& var1Path,
                                              const toolbox::StringList& var2Path, const toolbox::StringList& var3Path,
                                              const std::string& instructions, const std::vector<std::string>& labels,
@@ -44,19 +44,19 @@ public:
     explicit VariableSelectDialog(QWidget& parent);
     ~VariableSelectDialog() override;
 
-    // Run after the values are written, inside the same undo step. Replaces
-    // the action set before.
+    /// Run after the values are written, inside the same undo step. Replaces
+    /// the action set before.
     void setPostAssignmentAction(boost::function<void()> action);
 
-    // Throws std::out_of_range, before showing anything, when labels are missing.
+    /// Throws std::out_of_range, before showing anything, when labels are missing.
     void launch() override;
 
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 public Q_SLOTS:
-    // Writes the choices under the application lock as one undo step, runs the
-    // post-assignment action and closes. A value the kernel refuses is shown
-    // to the user and the dialog stays open.
+    /// Writes the choices under the application lock as one undo step, runs the
+    /// post-assignment action and closes. A value the kernel refuses is shown
+    /// to the user and the dialog stays open.
     void accept() override;
 
 private:

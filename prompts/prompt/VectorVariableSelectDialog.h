@@ -9,12 +9,12 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The U, V (and, in 3D, W) components of the vector plot.
+/// The U, V (and, in 3D, W) components of the vector plot.
 class ORRERY_PROMPTS_EXPORT VectorVariableSelectDialog
 {
 public:
-    // Starts from the host's vector candidates when it finds usable ones,
-    // otherwise from the variables the style already holds.
+    /// Starts from the host's vector candidates when it finds usable ones,
+    /// otherwise from the variables the style already holds.
     class VectorVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
@@ -25,10 +25,10 @@ public:
         PlotType_e plotType;
     };
 
-    // The variable dialog for the vector components of plotType (see
-    // VariableSelectDialog::getInstance for the reuse of a live dialog).
+    /// The variable dialog for the vector components of plotType (see
+    /// VariableSelectDialog::getInstance for the reuse of a live dialog).
     static VariableSelectDialog* getInstance(QWidget& parent, PlotType_e plotType);
-    // Relevant while the current page shows a frame with a 2D or 3D field plot.
+    /// Relevant while the current page shows a frame with a 2D or 3D field plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 };
 

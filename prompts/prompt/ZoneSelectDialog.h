@@ -8,23 +8,23 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// Lets the user pick one zone of the current frame from a list; a double
-// click on a zone picks it and closes the dialog.
+/// Lets the user pick one zone of the current frame from a list; a double
+/// click on a zone picks it and closes the dialog.
 class ORRERY_PROMPTS_EXPORT ZoneSelectDialog : public common::QtDialogAbstract,
                                                public virtual common::DialogInterface,
                                                public SingleInstanceDialog<ZoneSelectDialog>
 {
     Q_OBJECT
 public:
-    // The live dialog (built on first use) showing zone as the current choice,
-    // scrolled to it. The row is taken to be zone - 1.
+    /// The live dialog (built on first use) showing zone as the current choice,
+    /// scrolled to it. The row is taken to be zone - 1.
     static ZoneSelectDialog* getInstance(QWidget& parent, int zone);
 
-    // zone is not used: getInstance applies it.
+    /// zone is not used: getInstance applies it.
     ZoneSelectDialog(QWidget& parent, int zone);
     ~ZoneSelectDialog() override;
 
-    // The chosen zone number; 0 when none is selected.
+    /// The chosen zone number; 0 when none is selected.
     int selectedZone();
 
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();

@@ -11,8 +11,8 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-// The zone prompt's values: the selected zone numbers and the list of the
-// zones enabled in the current frame.
+/// The zone prompt's values: the selected zone numbers and the list of the
+/// zones enabled in the current frame.
 class ORRERY_PROMPTS_EXPORT ZoneSelectPropertiesManager
 {
 public:
@@ -23,7 +23,7 @@ public:
     boost::shared_ptr<const sdk::ui::dialogs::propertybindings::models::ListModelInterface<int>>
     enabledZonesModel() const;
 
-    // Relevant while a data set exists.
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

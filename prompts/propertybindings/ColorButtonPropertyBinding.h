@@ -11,15 +11,15 @@ namespace ui {
 namespace dialogs {
 namespace propertybindings {
 
-// A push or tool button showing a colour index of the kernel's colour map as a
-// swatch and a name; a click lets the user choose another colour in the colour
-// chooser. Colouring by variable (negative indices) shows the multi-colour icon.
+/// A push or tool button showing a colour index of the kernel's colour map as a
+/// swatch and a name; a click lets the user choose another colour in the colour
+/// chooser. Colouring by variable (negative indices) shows the multi-colour icon.
 class ORRERY_PROMPTS_EXPORT ColorButtonPropertyBinding : public QObjectPropertyBinding<int>
 {
     Q_OBJECT
 public:
-    // enableVarColoring is handed to the colour chooser: whether the multi
-    // colourings and RGB colouring may be chosen.
+    /// enableVarColoring is handed to the colour chooser: whether the multi
+    /// colourings and RGB colouring may be chosen.
     ColorButtonPropertyBinding(QAbstractButton* button, const boost::shared_ptr<PropertyAbstract<int>>& property,
                                bool enableVarColoring);
     ColorButtonPropertyBinding(QAbstractButton* button, propertymanager::UIStylePropertyAbstract<int>& property,

@@ -14,9 +14,9 @@ namespace sdk {
 namespace ui {
 namespace propertymanager {
 
-// One style value of a generated set: the kernel property (kept for offsets and
-// submission) and the property the accessor hands out, which a manager may
-// replace by one of its own placed in front of the kernel property.
+/// One style value of a generated set: the kernel property (kept for offsets and
+/// submission) and the property the accessor hands out, which a manager may
+/// replace by one of its own placed in front of the kernel property.
 template <typename T>
 struct GeneratedStyleEntry
 {
@@ -24,8 +24,8 @@ struct GeneratedStyleEntry
     boost::shared_ptr<PropertyAbstract<T>> property;
 };
 
-// Common part of the generated style property sets: a modal set collects edits
-// and writes them on submission, a non-modal one writes every edit at once.
+/// Common part of the generated style property sets: a modal set collects edits
+/// and writes them on submission, a non-modal one writes every edit at once.
 class ORRERY_PROMPTS_EXPORT GeneratedStylePropertySet : public virtual UIKernelStylePropertiesAbstract
 {
 public:
@@ -44,8 +44,8 @@ public:
     }
 
 protected:
-    // The virtual base is built by the concrete set with its modality or parent;
-    // the base initializer named here is never used.
+    /// The virtual base is built by the concrete set with its modality or parent;
+    /// the base initializer named here is never used.
     explicit GeneratedStylePropertySet(const toolbox::StringList& prefix)
         : UIKernelStylePropertiesAbstract(true), m_prefix(prefix)
     {}

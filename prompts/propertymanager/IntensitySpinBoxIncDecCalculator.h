@@ -6,8 +6,8 @@ namespace orrery::sdk::ui::propertymanager {
 
 class RGBColorOptsPropertiesGenerated;
 
-// Steps the RGB intensity range by a tenth of the value range that the three
-// channel variables span together; 0 when any channel has no range.
+/// Steps the RGB intensity range by a tenth of the value range that the three
+/// channel variables span together; 0 when any channel has no range.
 class ORRERY_PROMPTS_EXPORT IntensitySpinBoxIncDecCalculator : public virtual SpinBoxIncDecCalculatorBase
 {
 public:

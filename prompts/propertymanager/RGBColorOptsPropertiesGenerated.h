@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// The RGB colouring style values of a field plot.
+/// The RGB colouring style values of a field plot.
 class ORRERY_PROMPTS_EXPORT RGBColorOptsPropertiesGenerated : public GeneratedStylePropertySet
 {
     ORRERY_GENERATED_STYLE_SET(RGBColorOptsPropertiesGenerated)

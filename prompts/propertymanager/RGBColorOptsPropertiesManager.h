@@ -15,9 +15,9 @@ namespace orrery::sdk::ui::propertymanager {
 
 class RGBColorOptsPropertiesGenerated;
 
-// What the RGB colouring options offer beside the style values: the mode and
-// variable lists, which channel variables can be edited in the current mode,
-// and channel variables kept valid when the data change.
+/// What the RGB colouring options offer beside the style values: the mode and
+/// variable lists, which channel variables can be edited in the current mode,
+/// and channel variables kept valid when the data change.
 class ORRERY_PROMPTS_EXPORT RGBColorOptsPropertiesManager
 {
 public:
@@ -29,19 +29,19 @@ public:
 
     boost::shared_ptr<RGBModeModel> rgbModeModel() const;
     boost::shared_ptr<EnabledVariablesModel> enabledVariablesModel() const;
-    // A channel variable cannot be edited while the mode calculates the channel.
+    /// A channel variable cannot be edited while the mode calculates the channel.
     boost::shared_ptr<const RelevanceInterface> redVarRelevance() const;
     boost::shared_ptr<const RelevanceInterface> greenVarRelevance() const;
     boost::shared_ptr<const RelevanceInterface> blueVarRelevance() const;
 
     void installRelevancies();
-    // Replaces the channel variables by the host's candidates when they are
-    // not acceptable channel variables any more.
+    /// Replaces the channel variables by the host's candidates when they are
+    /// not acceptable channel variables any more.
     void checkAndAssignRGBVars();
-    // Whether a state change can invalidate the channel variables.
+    /// Whether a state change can invalidate the channel variables.
     bool stateChangePredicate(const integration::StateChangeEventInterface& event) const;
 
-    // RGB colouring applies to field plots only.
+    /// RGB colouring applies to field plots only.
     static boost::shared_ptr<const RelevanceInterface> relevance();
 
 private:

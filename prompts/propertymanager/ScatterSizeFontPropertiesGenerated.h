@@ -5,7 +5,7 @@
 
 namespace orrery::sdk::ui::propertymanager {
 
-// The scatter symbol size and font style values, and the line plot symbol font.
+/// The scatter symbol size and font style values, and the line plot symbol font.
 class ORRERY_PROMPTS_EXPORT ScatterSizeFontPropertiesGenerated : public GeneratedStylePropertySet
 {
     ORRERY_GENERATED_STYLE_SET(ScatterSizeFontPropertiesGenerated)

@@ -7,9 +7,9 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 
-// Strict text-to-value conversion for text field bindings. Leading blanks fail
-// (the text is tidied beforehand); trailing characters are not examined, since
-// the field's validator has screened the text.
+/// Strict text-to-value conversion for text field bindings. Leading blanks fail
+/// (the text is tidied beforehand); trailing characters are not examined, since
+/// the field's validator has screened the text.
 class ORRERY_CORE_EXPORT StringConverter
 {
 public:
@@ -22,7 +22,7 @@ public:
     virtual void convert(double& value);
     virtual void convert(std::string& value);
 
-    // Any other type has no text form here.
+    /// Any other type has no text form here.
     template <typename T>
     void convert(T&)
     {

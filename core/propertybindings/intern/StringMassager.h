@@ -7,10 +7,10 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 
-// Tidies a committed text before it is validated and converted. Numbers lose
-// the blanks around them (a pasted " 2.5 " is meant as 2.5, and the strict
-// conversion refuses leading blanks); text values are left exactly as typed,
-// since blanks can be part of them.
+/// Tidies a committed text before it is validated and converted. Numbers lose
+/// the blanks around them (a pasted " 2.5 " is meant as 2.5, and the strict
+/// conversion refuses leading blanks); text values are left exactly as typed,
+/// since blanks can be part of them.
 class ORRERY_CORE_EXPORT StringMassager
 {
 public:

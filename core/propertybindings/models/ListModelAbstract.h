@@ -3,7 +3,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// Defaults for the optional operations: read-only, no header rows, linear lookup.
+/// Defaults for the optional operations: read-only, no header rows, linear lookup.
 template <typename T>
 class ListModelAbstract : public virtual ListModelInterface<T>
 {

@@ -6,8 +6,8 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// Rows of a choice widget: a display text and a value of type T per row, with
-// change signals. Shared (virtually) by every list model.
+/// Rows of a choice widget: a display text and a value of type T per row, with
+/// change signals. Shared (virtually) by every list model.
 template <typename T>
 class ListModelInterface
 {
@@ -31,7 +31,7 @@ public:
     virtual void signalItemsRemovedConnected() const {}
     virtual ~ListModelInterface() = default;
 
-    // The whole list may have changed.
+    /// The whole list may have changed.
     boost::signals2::connection connectToDataChanged(const DataChangedSignal::slot_type& slot) const
     {
         return connected(m_dataChanged.connect(slot), &ListModelInterface::signalDataChangedConnected);
@@ -40,18 +40,18 @@ public:
     {
         return connected(m_itemChanged.connect(slot), &ListModelInterface::signalItemChangedConnected);
     }
-    // Rows first..last (inclusive) were inserted.
+    /// Rows first..last (inclusive) were inserted.
     boost::signals2::connection connectToItemsInserted(const ItemsRangeSignal::slot_type& slot) const
     {
         return connected(m_itemsInserted.connect(slot), &ListModelInterface::signalItemsInsertedConnected);
     }
-    // Rows first..last (inclusive) were removed.
+    /// Rows first..last (inclusive) were removed.
     boost::signals2::connection connectToItemsRemoved(const ItemsRangeSignal::slot_type& slot) const
     {
         return connected(m_itemsRemoved.connect(slot), &ListModelInterface::signalItemsRemovedConnected);
     }
 
-    // One action for every kind of change, its connections kept in the collection.
+    /// One action for every kind of change, its connections kept in the collection.
     void connectToEveryChange(const boost::function<void()>& action, SignalConnectionCollection& connections) const
     {
         connections.add(connectToDataChanged([action] { action(); }));

@@ -4,7 +4,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// One row of an option table: the text shown and the value it stands for.
+/// One row of an option table: the text shown and the value it stands for.
 template <typename V>
 struct OptionRow
 {
@@ -12,7 +12,7 @@ struct OptionRow
     V value;
 };
 
-// Tables of host enumerations hold their values as int.
+/// Tables of host enumerations hold their values as int.
 template <typename T, bool = std::is_enum<T>::value>
 struct OptionValue
 {

@@ -6,7 +6,7 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// Serves a constant option table; never changes, so never signals.
+/// Serves a constant option table; never changes, so never signals.
 template <typename T>
 class PremappedListModel : public ListModelAbstract<T>
 {
@@ -20,7 +20,7 @@ public:
 
     int size() const override { return m_count; }
     T get(int row) const override { return static_cast<T>(m_rows[row].value); }
-    // Option texts are shown in the user's language; numbers pass unchanged.
+    /// Option texts are shown in the user's language; numbers pass unchanged.
     std::string getStr(int row) const override
     {
         return QCoreApplication::translate("OptionTables", m_rows[row].text.c_str()).toStdString();

@@ -7,13 +7,13 @@
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
-// Shows a list model in a Qt view or combo box and relays its changes.
-// The list model must outlive this adapter.
+/// Shows a list model in a Qt view or combo box and relays its changes.
+/// The list model must outlive this adapter.
 template <typename T>
 class QListModel : public QAbstractListModel
 {
 public:
-    // Role under which a row's value is offered.
+    /// Role under which a row's value is offered.
     static constexpr int ValueRole = 1808;
 
     explicit QListModel(const ListModelInterface<T>& model) : m_model(model)
