@@ -1,11 +1,15 @@
 #include "demo/IdleBatch.h"
+#include <algorithm>
 #include <QTimer>
 
-IdleBatch::IdleBatch(Flush flush, QObject* parent) : QObject(parent), m_flush(std::move(flush)) {}
+IdleBatch::IdleBatch(Flush flush, int keep, QObject* parent) : QObject(parent), m_flush(std::move(flush)), m_keep(keep)
+{}
 
 void IdleBatch::add(const QString& line)
 {
     m_pending << line;
+    if (m_pending.size() >= 2 * m_keep) // dropped in bulk, so that each line costs O(1)
+        m_pending.erase(m_pending.begin(), m_pending.end() - m_keep);
     if (m_scheduled)
         return;
     m_scheduled = true;
@@ -19,5 +23,5 @@ void IdleBatch::flush()
         return;
     QStringList lines;
     lines.swap(m_pending);
-    m_flush(lines);
+    m_flush(lines.mid(std::max(0, int(lines.size()) - m_keep)));
 }

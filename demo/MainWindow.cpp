@@ -194,10 +194,7 @@ MainWindow::MainWindow()
     const int shownLines = 5000;
     m_journal->setMaximumBlockCount(shownLines);
     auto* journalLines = new IdleBatch(
-        [this](const QStringList& lines) {
-            m_journal->appendPlainText(lines.mid(std::max(0, int(lines.size()) - shownLines)).join('\n'));
-        },
-        this);
+        [this](const QStringList& lines) { m_journal->appendPlainText(lines.join('\n')); }, shownLines, this);
     m_journalGrew = Kernel::instance().journal().lineAdded().connect(
         [journalLines](const std::string& line) { journalLines->add(QString::fromStdString(line)); });
     m_stateChanged = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(

@@ -91,13 +91,13 @@ StateView::StateView(QWidget* parent)
     : QWidget(parent), m_tree(new QTreeWidget), m_events(new QListWidget),
       m_newEvents(new IdleBatch(
           [this](const QStringList& lines) {
-              m_events->addItems(lines.mid(std::max(0, int(lines.size()) - ListedEvents)));
+              m_events->addItems(lines);
               while (m_events->count() > ListedEvents)
                   delete m_events->takeItem(0);
               m_events->scrollToBottom();
               refresh();
           },
-          this))
+          ListedEvents, this))
 {
     m_tree->setColumnCount(2);
     m_tree->setHeaderLabels({tr("Item"), tr("Value")});
