@@ -8,8 +8,8 @@ majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
 pkgs=(cmake g++ make ccache pkg-config libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
 for m in "${majors[@]}"; do
   case "$m" in
-    6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-l10n-tools qt6-tools-dev qt6-translations-l10n) ;;
-    5) pkgs+=(qtbase5-dev qtbase5-dev-tools qttools5-dev-tools qttools5-dev qttranslations5-l10n) ;;
+    6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-l10n-tools qt6-tools-dev qt6-translations-l10n qt6-svg-dev) ;;
+    5) pkgs+=(qtbase5-dev qtbase5-dev-tools qttools5-dev-tools qttools5-dev qttranslations5-l10n libqt5svg5-dev) ;;
     fuzz) pkgs+=(clang-14 libclang-rt-14-dev clang) ;;
     docs) pkgs+=(doxygen) ;;
     abi) pkgs+=(abigail-tools xz-utils) ;;

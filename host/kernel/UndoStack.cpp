@@ -43,22 +43,22 @@ UndoStack::Step UndoStack::end(bool revert, bool record)
 
 UndoStack::Step UndoStack::undo()
 {
-    if (m_done.empty())
-        return {};
-    m_undone.push_back(std::move(m_done.back()));
-    m_done.pop_back();
-    m_changed();
-    return m_undone.back().records;
+    return moveNewest(m_done, m_undone);
 }
 
 UndoStack::Step UndoStack::redo()
 {
-    if (m_undone.empty())
+    return moveNewest(m_undone, m_done);
+}
+
+UndoStack::Step UndoStack::moveNewest(std::deque<Named>& from, std::deque<Named>& to)
+{
+    if (from.empty())
         return {};
-    m_done.push_back(std::move(m_undone.back()));
-    m_undone.pop_back();
+    to.push_back(std::move(from.back()));
+    from.pop_back();
     m_changed();
-    return m_done.back().records;
+    return to.back().records;
 }
 
 void UndoStack::clear()

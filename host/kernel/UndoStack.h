@@ -68,6 +68,8 @@ private:
         std::string name;
     };
     void push(Named step);
+    // Moves the newest step of from to to and returns its records (none when from is empty).
+    Step moveNewest(std::deque<Named>& from, std::deque<Named>& to);
     static std::string nameFor(const UndoRecord& record);
 
     // The records of every open bracket, outermost first, so that closing an
@@ -75,7 +77,7 @@ private:
     Step m_pending;
     std::vector<Bracket> m_brackets;
     std::deque<Named> m_done;
-    std::vector<Named> m_undone;
+    std::deque<Named> m_undone;
     size_t m_limit = DefaultLimit;
     boost::signals2::signal<void()> m_changed;
 };
