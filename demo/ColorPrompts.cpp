@@ -29,9 +29,9 @@ void ColorPrompts::pickMultiColor(ColorChooserDialog& d)
     DemoUser::click(*d.findChild<QToolButton*>("C3"));
 }
 
-void ColorPrompts::pickWhite(ColorChooserDialog& d)
+void ColorPrompts::pickRed(ColorChooserDialog& d)
 {
-    DemoUser::click(*d.findChild<QToolButton*>("colorButton_1"));
+    DemoUser::click(*d.findChild<QToolButton*>("colorButton_2"));
 }
 
 void ColorPrompts::pickRGB(ColorChooserDialog& d)

@@ -19,7 +19,7 @@ public:
     static ColorChooserDialog* openColorChooserWithoutVarColoring(QWidget& parent);
     static void pickGridColor(ColorChooserDialog& d);
     static void pickMultiColor(ColorChooserDialog& d);
-    static void pickWhite(ColorChooserDialog& d);
+    static void pickRed(ColorChooserDialog& d);
     // Without channel variables the chooser asks for them first; the tour
     // takes the variables the dialog proposes.
     static void pickRGB(ColorChooserDialog& d);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include "demo/ColorButtonDemoDialog.h"
 #include "demo/ColorPrompts.h"
+#include "demo/PlotEffects.h"
 #include "demo/SelectionPrompts.h"
 #include "demo/SimplePrompts.h"
 #include "demo/StylePrompts.h"
@@ -27,43 +28,44 @@ const std::vector<DialogCatalog::Entry>& DialogCatalog::entries()
     using S = SelectionPrompts;
     using C = ColorPrompts;
     using St = StylePrompts;
+    using E = PlotEffects;
     static const std::vector<Entry> all = {
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Text String..."), P::openTextString, P::driveTextString, B::Ok,
-              P::textStringAnswers, "TextString"),
+              P::textStringAnswers, E::frameTitle, "TextString"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Three Integer Values..."), P::openThreeInts, P::driveThreeInts, B::Ok,
-              P::threeIntsAnswers, "ThreeIntegerValues"),
+              P::threeIntsAnswers, E::indexRange, "ThreeIntegerValues"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "ASCII Character..."), P::openAsciiCharacter, P::driveAsciiCharacter,
-              B::Ok, P::asciiCharacterAnswers, "ASCIICharacter"),
+              B::Ok, P::asciiCharacterAnswers, E::scatterSymbol, "ASCIICharacter"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Anchor Alignment..."), P::openAnchorAlignment,
-              P::driveAnchorAlignment, B::Cancel, P::anchorAlignmentAnswers, "AnchorAlignment"),
+              P::driveAnchorAlignment, B::Ok, P::anchorAlignmentAnswers, E::titleAnchor, "AnchorAlignment"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Choose Loader..."), P::openLoaderChooser, P::driveLoaderChooser,
-              B::Ok, P::loaderChooserAnswers, "LoaderChooser"),
+              B::Ok, P::loaderChooserAnswers, E::loader, "LoaderChooser"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Axis Variables..."), S::openAxisVariables, S::driveAxisVariables,
-              B::Ok, S::variableAnswers, "AxisVariables"),
+              B::Ok, S::variableAnswers, E::axes, "AxisVariables"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Vector Variables..."), S::openVectorVariables,
-              S::driveVectorVariables, B::Ok, S::variableAnswers, "VectorVariables"),
+              S::driveVectorVariables, B::Ok, S::variableAnswers, E::vectors, "VectorVariables"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "RGB Variables..."), S::openRGBVariables, S::driveRGBVariables, B::Ok,
-              S::variableAnswers, "RGBVariables"),
+              S::variableAnswers, E::rgbChannels, "RGBVariables"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Add-on Variables..."), S::openAddonVariables, S::driveAddonVariables,
-              B::Ok, S::addonAnswers, "AddonVariables"),
-        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Select Zone..."), S::openZone, S::driveZone, B::Ok, S::zoneAnswers,
+              B::Ok, S::addonAnswers, E::addon, "AddonVariables"),
+        entry(QT_TRANSLATE_NOOP("DialogCatalog", "Select Zone..."), S::openZone, S::driveZone, B::Ok, S::zoneAnswers, E::activeZone,
               "ZoneSelection"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser..."), C::openColorChooser, C::pickGridColor,
-              B::NoButton, C::colorChooserAnswers, "ColourChooser"),
+              B::NoButton, C::colorChooserAnswers, E::zoneColour, "ColourChooser"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, Multi Color..."), C::openColorChooser,
-              C::pickMultiColor, B::NoButton, C::colorChooserAnswers),
+              C::pickMultiColor, B::NoButton, C::colorChooserAnswers, E::zoneColour),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser without Variable Coloring..."),
-              C::openColorChooserWithoutVarColoring, C::pickWhite, B::NoButton, C::colorChooserAnswers),
+              C::openColorChooserWithoutVarColoring, C::pickRed, B::NoButton, C::colorChooserAnswers, E::zoneColour),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, RGB..."), C::openColorChooser, C::pickRGB, B::NoButton,
-              C::colorChooserAnswers),
+              C::colorChooserAnswers, E::zoneColour),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Button..."), C::openColorButton, C::driveColorButton, B::Close,
-              C::colorButtonAnswers),
+              C::colorButtonAnswers, E::colourButton),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "RGB Coloring Options..."), St::openRGBColorOpts,
-              St::driveRGBColorOpts, B::Close, St::rgbColorOptsAnswers, "RGBColouringOptions"),
+              St::driveRGBColorOpts, B::Close, St::rgbColorOptsAnswers, E::rgbOptions, "RGBColouringOptions"),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Color Chooser, RGB with Channel Variables..."), C::openColorChooser,
-              C::pickRGB, B::NoButton, C::colorChooserAnswers),
+              C::pickRGB, B::NoButton, C::colorChooserAnswers, E::zoneColour),
         entry(QT_TRANSLATE_NOOP("DialogCatalog", "Scatter Size and Font..."), St::openScatterSizeFont,
-              St::driveScatterSizeFont, B::Close, St::scatterSizeFontAnswers, "ScatterSizeAndFont"),
+              St::driveScatterSizeFont, B::Close, St::scatterSizeFontAnswers, E::scatterSize, "ScatterSizeAndFont"),
     };
     return all;
 }

@@ -22,6 +22,8 @@ public:
         std::function<void(Dialog&)> drive;
         QDialogButtonBox::StandardButton closeWith;
         std::function<QString(Dialog&)> answers;
+        // What the answers do to the plot, once the dialog is accepted or closed (see PlotEffects).
+        std::function<QString(Dialog&)> effect;
         bool callerOwnsDialog; // single-instance dialogs belong to their parent
         // Letters only; set on the one entry per library dialog that the checks
         // walking every dialog open (the others drive a dialog listed before).
@@ -35,7 +37,7 @@ public:
 private:
     template <typename D>
     static Entry entry(const QString& name, D* (*open)(QWidget&), void (*drive)(D&),
-                       QDialogButtonBox::StandardButton closeWith, QString (*answers)(D&),
+                       QDialogButtonBox::StandardButton closeWith, QString (*answers)(D&), QString (*effect)(D&),
                        const char* checkName = nullptr)
     {
         return {name,
@@ -43,6 +45,7 @@ private:
                 [drive](Dialog& d) { drive(static_cast<D&>(d)); },
                 closeWith,
                 [answers](Dialog& d) { return answers(static_cast<D&>(d)); },
+                [effect](Dialog& d) { return effect(static_cast<D&>(d)); },
                 !std::is_base_of_v<orrery::dialogs::prompt::SingleInstanceDialog<D>, D>,
                 checkName};
     }

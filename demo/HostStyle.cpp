@@ -87,25 +87,45 @@ bool HostStyle::flag(const std::string& slashed, long member, bool fallback)
     return finalValue(path(slashed), member, fallback);
 }
 
-bool HostStyle::setInteger(const std::string& slashed, long number, std::string* error)
+std::string HostStyle::text(const std::string& slashed, long member)
+{
+    return finalValue(path(slashed), member, std::string());
+}
+
+bool HostStyle::setInteger(const std::string& slashed, long number, std::string* error, long member)
 {
     AppLock lock(AppLock::ImplicitMacroRecording_Allow);
     const CheckedStyleValue value{StyleValue(path(slashed))};
     RawArray<long> ids;
     identifiers(value, ids);
     ArgList args;
-    value.setupSetValueArgList(ids, nullptr, -1, -1, AssignOp_Equals, args);
+    value.setupSetValueArgList(ids, nullptr, member, -1, AssignOp_Equals, args);
     args.appendArbParam("IValue", number);
     return finish(value.styleSetLowLevel(args), error);
 }
 
-bool HostStyle::setFlag(const std::string& slashed, bool on, std::string* error, long member)
+namespace {
+
+template <typename T>
+bool setFinal(const std::string& slashed, const T& to, std::string* error, long member)
 {
     AppLock lock(AppLock::ImplicitMacroRecording_Allow);
-    const StyleValue value(path(slashed));
+    const StyleValue value(HostStyle::path(slashed));
     RawArray<long> ids;
     identifiers(value, ids);
     ArgList args;
     value.setupSetValueArgList(ids, nullptr, member, -1, AssignOp_Equals, args);
-    return finish(value.setFinalValue(on, args), error);
+    return finish(value.setFinalValue(to, args), error);
+}
+
+} // namespace
+
+bool HostStyle::setFlag(const std::string& slashed, bool on, std::string* error, long member)
+{
+    return setFinal(slashed, on, error, member);
+}
+
+bool HostStyle::setText(const std::string& slashed, const std::string& text, std::string* error)
+{
+    return setFinal(slashed, text, error, -1);
 }

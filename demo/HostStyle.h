@@ -13,9 +13,11 @@ public:
     static long integer(const std::string& path, long member = -1, long fallback = 0);
     static double number(const std::string& path, long member = -1, double fallback = 0.0);
     static bool flag(const std::string& path, long member = -1, bool fallback = false);
+    static std::string text(const std::string& path, long member = -1);
 
     // False, with the kernel's text in error, when the kernel refuses.
-    static bool setInteger(const std::string& path, long value, std::string* error = nullptr);
     // member: the zone of a per-zone value, -1 otherwise.
+    static bool setInteger(const std::string& path, long value, std::string* error = nullptr, long member = -1);
     static bool setFlag(const std::string& path, bool value, std::string* error = nullptr, long member = -1);
+    static bool setText(const std::string& path, const std::string& value, std::string* error = nullptr);
 };

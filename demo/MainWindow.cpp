@@ -18,6 +18,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include "demo/HostStyle.h"
+#include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
 #include "demo/StateView.h"
 #include "host/kernel/JournalReplayer.h"
@@ -132,7 +133,9 @@ MainWindow::MainWindow()
     save->setShortcut(QKeySequence::Save);
     file->addAction(tr("&Replay Journal..."), this, &MainWindow::replayJournalFrom)->setObjectName("fileReplayJournal");
     file->addSeparator();
-    file->addAction(tr("&Quit"), qApp, &QApplication::quit)->setShortcut(QKeySequence::Quit);
+    QAction* quit = new QAction(tr("&Quit"), this);
+    quit->setShortcut(QKeySequence::Quit);
+    connect(quit, &QAction::triggered, qApp, &QApplication::quit);
 
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     m_undo = edit->addAction(tr("&Undo"), this, [] {
@@ -172,9 +175,18 @@ MainWindow::MainWindow()
     m_showScatter = view->addAction(tr("Show &Scatter Symbols"), this, &MainWindow::setShowScatter);
     m_showScatter->setCheckable(true);
     m_showScatter->setObjectName("viewShowScatter");
+    m_plotMenus = new PlotMenus(*this, *m_plot, *file, *edit, *view);
+    file->addSeparator();
+    file->addAction(quit);
     view->addSeparator();
     for (QDockWidget* dock : {stateDock, journalDock, answersDock})
         view->addAction(dock->toggleViewAction());
+    connect(m_plot, &PlotView::pointerMoved, this, [this](const QString& values) {
+        if (values.isEmpty())
+            statusBar()->clearMessage();
+        else
+            statusBar()->showMessage(values);
+    });
 
     QMenu* dialogs = menuBar()->addMenu(tr("&Dialogs"));
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
@@ -246,6 +258,7 @@ void MainWindow::refreshViewActions()
         action->setChecked(action->data().toInt() == type);
     m_showVectors->setChecked(HostStyle::flag("FieldLayers/ShowVector"));
     m_showScatter->setChecked(OrrUtilDataSetGetNumZones() > 0 && HostStyle::flag("FieldMap/Scatter/Show", 1));
+    m_plotMenus->refresh();
 }
 
 // Vectors need components: when the style has no usable ones, the host's
@@ -307,12 +320,16 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
             connect(dialog, &QDialog::finished, &untilClosed, &QEventLoop::quit);
             untilClosed.exec();
         }
+        const bool accepted = dialog->result() == QDialog::Accepted;
         line = QString("%1: %2, %3")
                    .arg(DialogCatalog::title(entry),
-                        dialog->result() == QDialog::Accepted ? tr("accepted")
-                        : modeless                            ? tr("closed")
-                                                              : tr("cancelled"),
+                        accepted  ? tr("accepted")
+                        : modeless ? tr("closed")
+                                   : tr("cancelled"),
                         entry.answers(*dialog));
+        const QString effect = accepted || modeless ? entry.effect(*dialog) : QString();
+        if (!effect.isEmpty())
+            line += QString::fromUtf8(" → ") + effect;
     }
     if (entry.callerOwnsDialog)
         delete dialog;

@@ -6,6 +6,7 @@
 class QAction;
 class QActionGroup;
 class QPlainTextEdit;
+class PlotMenus;
 class PlotView;
 class StateView;
 
@@ -57,6 +58,7 @@ private:
     QActionGroup* m_plotTypes;
     QAction* m_showVectors;
     QAction* m_showScatter;
+    PlotMenus* m_plotMenus;
     boost::signals2::scoped_connection m_undoChanged;
     boost::signals2::scoped_connection m_journalGrew;
     boost::signals2::scoped_connection m_stateChanged;

@@ -1,130 +1,105 @@
 #include "demo/PlotPainter.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <QFontMetrics>
-#include <QObject>
+#include <numeric>
+#include <QCoreApplication>
+#include <QFontMetricsF>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
 #include "demo/AxisTicks.h"
-#include "demo/HostStyle.h"
-#include "host/kernel/Kernel.h"
+#include "demo/ColourRamp.h"
+#include "demo/PlotKey.h"
+#include "demo/PlotScene.h"
+#include "demo/PlotSymbol.h"
+#include "demo/PointRaster.h"
 #include "host/kernel/OrrUtilHost.h"
 
 namespace {
 
 const double Pi = 3.14159265358979323846;
-const int RGBColoring = -6;         // the colour chooser's "RGB" entry
-const double LongestArrowPx = 32.0; // vectors are scaled so the longest is this long
-const long ManyPoints = 20000;      // above this, points are drawn one pixel wide
+const double LongestArrowPx = 32.0; // vectors are scaled so that the longest is this long
+const double CmInPixels = 96.0 / 2.54;
+// Space between neighbouring tick labels, in line heights: enough for the eye to tell them apart.
+const double XGap = 1.5, YGap = 1.6;
 
-QString takeString(char* text)
+QString tr(const char* text)
 {
-    const QString result = text ? QString::fromUtf8(text) : QString();
-    OrrUtilStringDealloc(&text);
-    return result;
+    return QCoreApplication::translate("PlotPainter", text);
 }
 
-QColor basicColor(int index)
+QFont titleFont(const QFont& base)
 {
-    unsigned char r = 0, g = 0, b = 0;
-    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
-    return QColor(r, g, b);
+    QFont font(base);
+    font.setBold(true);
+    if (base.pointSizeF() > 0)
+        font.setPointSizeF(base.pointSizeF() * 1.2);
+    else
+        font.setPixelSize(int(base.pixelSize() * 1.2));
+    return font;
 }
 
-// Blue through green to red, for the multi colourings.
-QRgb ramp(double t)
+// A zone that is not the one picked out is drawn pale.
+QRgb faded(QRgb c, bool fade)
 {
-    t = std::clamp(t, 0.0, 1.0);
-    const double r = std::clamp(1.5 - std::abs(4.0 * t - 3.0), 0.0, 1.0);
-    const double g = std::clamp(1.5 - std::abs(4.0 * t - 2.0), 0.0, 1.0);
-    const double b = std::clamp(1.5 - std::abs(4.0 * t - 1.0), 0.0, 1.0);
-    return qRgb(int(r * 255), int(g * 255), int(b * 255));
+    if (!fade)
+        return c;
+    auto pale = [](int v) { return 255 - int((255 - v) * 0.25); };
+    return qRgb(pale(qRed(c)), pale(qGreen(c)), pale(qBlue(c)));
 }
 
-bool isValue(double v)
+// The range an axis shows: the data's with a margin, so that no point sits on the frame.
+void padded(const PlotScene::Axis& axis, double& min, double& max)
 {
-    return std::isfinite(v);
-}
-
-const std::vector<std::string>& categories(int var)
-{
-    static const std::vector<std::string> none;
-    const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
-    return data.hasVar(var) ? data.categories(var) : none;
-}
-
-// The colour of each point of one zone's layer.
-class Colouring
-{
-public:
-    Colouring(int colorIndex, int zone, int contourVar)
-    {
-        if (colorIndex == RGBColoring) {
-            m_kind = Kind::RGB;
-            m_mode = static_cast<int>(HostStyle::integer("GlobalRGB/RGBMode"));
-            m_min = HostStyle::number("GlobalRGB/RangeMin", -1, 0.0);
-            m_max = HostStyle::number("GlobalRGB/RangeMax", -1, 1.0);
-            const char* channels[] = {"GlobalRGB/RedChannelVar", "GlobalRGB/GreenChannelVar",
-                                      "GlobalRGB/BlueChannelVar"};
-            for (int c = 0; c < 3; ++c)
-                m_channel[c] = OrrUtilVarGetValuesInZone(zone, int(HostStyle::integer(channels[c])));
-        } else if (colorIndex < 0) {
-            m_kind = Kind::Ramp;
-            m_channel[0] = OrrUtilVarGetValuesInZone(zone, contourVar);
-            if (!m_channel[0] || !OrrUtilVarGetMinMax(contourVar, &m_min, &m_max))
-                m_kind = Kind::Fixed;
-        }
-        m_fixed = basicColor(colorIndex < 0 ? 0 : colorIndex).rgb();
+    min = axis.min;
+    max = axis.max;
+    if (axis.log) {
+        const double lo = std::log10(min), hi = std::log10(max);
+        const double pad = hi > lo ? 0.04 * (hi - lo) : 0.5;
+        min = std::pow(10.0, lo - pad);
+        max = std::pow(10.0, hi + pad);
+        return;
     }
-
-    bool varies() const { return m_kind != Kind::Fixed; }
-    bool ramped() const { return m_kind == Kind::Ramp; }
-    QRgb fixed() const { return m_fixed; }
-
-    QRgb at(long i) const
-    {
-        if (m_kind == Kind::Ramp)
-            return ramp((m_channel[0][i] - m_min) / (m_max > m_min ? m_max - m_min : 1.0));
-        if (m_kind == Kind::Fixed)
-            return m_fixed;
-        double c[3];
-        for (int k = 0; k < 3; ++k)
-            c[k] = m_channel[k]
-                       ? std::clamp((m_channel[k][i] - m_min) / (m_max > m_min ? m_max - m_min : 1.0), 0.0, 1.0)
-                       : 0.0;
-        // Modes 1 to 3 leave one channel to be calculated from the other two.
-        if (m_mode >= 1 && m_mode <= 3) {
-            const int calculated = m_mode == 1 ? 2 : m_mode == 2 ? 1 : 0;
-            c[calculated] = std::clamp(1.0 - c[(calculated + 1) % 3] - c[(calculated + 2) % 3], 0.0, 1.0);
+    const double span = max - min;
+    if (!(span > 0.0) || !std::isfinite(span)) {
+        const double half = std::isfinite(span) && min != 0.0 ? std::abs(min) * 0.1 : 0.5;
+        min -= half;
+        max += half;
+        if (!std::isfinite(max - min)) { // a range across the whole of the doubles
+            min /= 2;
+            max /= 2;
         }
-        if (!isValue(c[0]) || !isValue(c[1]) || !isValue(c[2]))
-            return qRgb(128, 128, 128);
-        return qRgb(int(c[0] * 255), int(c[1] * 255), int(c[2] * 255));
+        return;
     }
+    const double pad = std::max(0.04 * span, axis.categories.empty() ? 0.0 : 0.4);
+    if (std::isfinite(span + 2 * pad)) {
+        min -= pad;
+        max += pad;
+    }
+}
 
-private:
-    enum class Kind
-    {
-        Fixed,
-        RGB,
-        Ramp
-    };
-    Kind m_kind = Kind::Fixed;
-    int m_mode = 0;
-    double m_min = 0.0;
-    double m_max = 1.0;
-    std::array<const double*, 3> m_channel{{nullptr, nullptr, nullptr}};
-    QRgb m_fixed = 0;
-};
+AxisTicks::Scale scaleFor(const PlotScene::Axis& axis, const PlotGeometry& geometry, int a, double length,
+                          const AxisTicks::Extent& extent, double gap,
+                          const std::function<QString(const QString&, double)>& elide)
+{
+    const double min = geometry.shown.min[a], max = geometry.shown.max[a];
+    if (!axis.categories.empty()) {
+        const AxisTicks::Position position = [&](double v) {
+            return std::abs(geometry.toPixel(a, v) - geometry.toPixel(a, min));
+        };
+        return AxisTicks::categories(min, max, axis.categories, position, extent, gap, elide);
+    }
+    return axis.log ? AxisTicks::fitLog(min, max, length, extent, gap) : AxisTicks::fit(min, max, length, extent, gap);
+}
 
 } // namespace
 
 struct PlotPainter::Projection
 {
     bool threeD = false;
-    // 2D: screen = offset + scale * value
+    // 2D: screen = offset + scale * axis units
+    bool log[2] = {false, false};
     double ox = 0, sx = 1, oy = 0, sy = 1;
     // 3D: values normalized to -1..1, rotated, scaled about the centre
     double centre[2] = {0, 0};
@@ -132,79 +107,81 @@ struct PlotPainter::Projection
     double lo[3] = {0, 0, 0}, span[3] = {1, 1, 1};
     double m[2][3] = {{1, 0, 0}, {0, 1, 0}};
 
+    void set2D(const PlotGeometry& g)
+    {
+        for (int a = 0; a < 2; ++a)
+            log[a] = g.log[a];
+        sx = g.plot.width() / (g.toAxis(0, g.shown.max[0]) - g.toAxis(0, g.shown.min[0]));
+        ox = g.plot.left() - sx * g.toAxis(0, g.shown.min[0]);
+        sy = -g.plot.height() / (g.toAxis(1, g.shown.max[1]) - g.toAxis(1, g.shown.min[1]));
+        oy = g.plot.bottom() - sy * g.toAxis(1, g.shown.min[1]);
+    }
+
     QPointF map(double x, double y, double z = 0.0) const
     {
         if (!threeD)
-            return QPointF(ox + sx * x, oy + sy * y);
+            return QPointF(ox + sx * (log[0] ? std::log10(x) : x), oy + sy * (log[1] ? std::log10(y) : y));
         const double n[3] = {2.0 * (x - lo[0]) / span[0] - 1.0, 2.0 * (y - lo[1]) / span[1] - 1.0,
                              2.0 * (z - lo[2]) / span[2] - 1.0};
         return QPointF(centre[0] + scale * (m[0][0] * n[0] + m[0][1] * n[1] + m[0][2] * n[2]),
                        centre[1] - scale * (m[1][0] * n[0] + m[1][1] * n[1] + m[1][2] * n[2]));
     }
-    // Pixels per grid unit, for symbol sizes.
-    double gridToPixels = 1.0;
 };
 
-void PlotPainter::paint(QPainter& painter, const QRectF& area) const
+PlotGeometry PlotPainter::paint(QPainter& painter, const QRectF& area) const
 {
     painter.fillRect(area, Qt::white);
     painter.setPen(Qt::black);
     if (!OrrUtilDataSetIsAvailable() || OrrUtilFrameGetCount() < 1) {
-        paintMessage(painter, area, QObject::tr("No data set: open a file or a sample."));
-        return;
+        paintMessage(painter, area, tr("No data set: open a file or a sample."));
+        return {};
     }
-    const QString title = takeString(OrrUtilDataSetGetTitle());
-    painter.drawText(area.adjusted(0, 4, 0, 0), Qt::AlignHCenter | Qt::AlignTop, title);
-    switch (OrrUtilFrameGetPlotType()) {
-    case PlotType_TwoD: paintField(painter, area, false, false); break;
-    case PlotType_ThreeD: paintField(painter, area, true, false); break;
-    case PlotType_XYLine: paintField(painter, area, false, true); break;
-    default:
-        paintMessage(painter, area,
-                     QObject::tr("Plot type %1 shows no data in this demo.").arg(int(OrrUtilFrameGetPlotType())));
+    const PlotScene scene = PlotScene::fromHost();
+    if (!scene.problem.isEmpty()) {
+        paintMessage(painter, area, scene.problem);
+        return {};
     }
+    const double em = QFontMetricsF(painter.font()).height();
+    if (area.width() < 8 * em || area.height() < 6 * em) {
+        paintMessage(painter, area, tr("Too small for a plot"));
+        return {};
+    }
+    return paintField(painter, area, scene);
 }
 
 void PlotPainter::paintMessage(QPainter& painter, const QRectF& area, const QString& text) const
 {
     painter.setPen(Qt::darkGray);
-    painter.drawText(area, Qt::AlignCenter, text);
+    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
-void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD, bool lines) const
+PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, const PlotScene& scene) const
 {
-    const std::string root = threeD ? "ThreeDAxis/" : "TwoDAxis/";
-    const char* names[] = {"XDetail", "YDetail", "ZDetail"};
-    Axis axes[3];
-    const int dims = threeD ? 3 : 2;
-    for (int a = 0; a < dims; ++a) {
-        axes[a].var = int(HostStyle::integer(root + names[a] + "/VarNum"));
-        axes[a].name = takeString(OrrUtilVarGetName(axes[a].var));
-        if (!OrrUtilVarGetMinMax(axes[a].var, &axes[a].min, &axes[a].max) || !(axes[a].max > axes[a].min)) {
-            axes[a].min = isValue(axes[a].min) ? axes[a].min - 0.5 : 0.0;
-            axes[a].max = axes[a].min + 1.0;
-        } else if (!threeD) {
-            // A margin, so that points on the edge of the range are not drawn over by the frame.
-            const double margin = 0.04 * (axes[a].max - axes[a].min);
-            axes[a].min -= margin;
-            axes[a].max += margin;
-        }
-    }
-    if (axes[0].name.isEmpty() || axes[1].name.isEmpty() || (threeD && axes[2].name.isEmpty())) {
-        paintMessage(painter, area, QObject::tr("Choose the axis variables (Dialogs > Axis Variables)."));
-        return;
-    }
+    const QFontMetricsF metrics(painter.font());
+    const double em = metrics.height();
+    const double titleHeight = QFontMetricsF(titleFont(painter.font())).height() * 1.5;
+    const PlotKey key(scene, painter.font());
+    const double top = scene.anchor <= AnchorAlignment_TopRight ? titleHeight : em;
+    const double bottom = (scene.threeD ? em : 2.4 * em + 10)
+                          + (scene.anchor >= AnchorAlignment_BottomLeft ? titleHeight : 0.0)
+                          + (scene.notes.isEmpty() ? 0.0 : em * scene.notes.size());
+    double right = key.width() + em;
 
     Projection p;
-    const QRectF plot = area.adjusted(70, 30, -24, -50);
-    if (threeD) {
+    PlotGeometry geometry;
+    QRectF plot;
+    if (scene.threeD) {
+        plot = area.adjusted(3 * em, top, -right - 2 * em, -bottom - em);
         p.threeD = true;
         p.centre[0] = plot.center().x();
         p.centre[1] = plot.center().y();
-        p.scale = std::min(plot.width(), plot.height()) * 0.33;
+        // A turned cube reaches up to sqrt(3) half-sides from its centre.
+        p.scale = std::min(plot.width(), plot.height()) / (2 * 1.75);
         for (int a = 0; a < 3; ++a) {
-            p.lo[a] = axes[a].min;
-            p.span[a] = axes[a].max - axes[a].min;
+            double min = 0, max = 0;
+            padded(scene.axes[a], min, max);
+            p.lo[a] = min;
+            p.span[a] = max - min;
         }
         const double yaw = m_yaw * Pi / 180.0, pitch = m_pitch * Pi / 180.0;
         // Turn about the vertical (z) axis, then tilt towards the viewer.
@@ -214,158 +191,307 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         p.m[1][0] = std::sin(yaw) * std::sin(pitch);
         p.m[1][1] = std::cos(yaw) * std::sin(pitch);
         p.m[1][2] = std::cos(pitch);
-        p.gridToPixels = p.scale * 2.0 / p.span[1];
-        paintBox3D(painter, p, axes);
+        paintBox3D(painter, p, scene);
     } else {
-        p.sx = plot.width() / (axes[0].max - axes[0].min);
-        p.ox = plot.left() - p.sx * axes[0].min;
-        p.sy = -plot.height() / (axes[1].max - axes[1].min);
-        p.oy = plot.bottom() - p.sy * axes[1].min;
-        p.gridToPixels = plot.height() / (axes[1].max - axes[1].min);
-        paintFrame2D(painter, plot, axes[0], axes[1]);
+        for (int a = 0; a < 2; ++a) {
+            geometry.log[a] = scene.axes[a].log;
+            geometry.names[a] = scene.axes[a].name;
+            if (m_window) {
+                geometry.shown.min[a] = m_window->min[a];
+                geometry.shown.max[a] = m_window->max[a];
+            } else
+                padded(scene.axes[a], geometry.shown.min[a], geometry.shown.max[a]);
+        }
+        // The widest Y label decides the left margin; the last X label may reach into the right one.
+        geometry.plot = area.adjusted(0, top, 0, -bottom);
+        const AxisTicks::Scale yScale =
+            scaleFor(scene.axes[1], geometry, 1, geometry.plot.height(), [em](const QString&) { return em; },
+                     YGap * em, [](const QString&, double) { return QString(); });
+        double labels = 0.0;
+        for (const AxisTicks::Tick& tick : yScale.ticks)
+            labels = std::max(labels, metrics.horizontalAdvance(tick.label));
+        labels = std::min(labels, area.width() * 0.3);
+        geometry.plot.setLeft(area.left() + labels + 1.6 * em + 10);
+        geometry.plot.setRight(area.right() - right);
+        const AxisTicks::Scale xEstimate = scaleFor(
+            scene.axes[0], geometry, 0, geometry.plot.width(),
+            [&](const QString& t) { return metrics.horizontalAdvance(t); }, XGap * em,
+            [](const QString&, double) { return QString(); });
+        if (!xEstimate.ticks.empty()) {
+            const double overhang = geometry.toPixel(0, xEstimate.ticks.back().value)
+                                    + metrics.horizontalAdvance(xEstimate.ticks.back().label) / 2 + 4
+                                    - (area.right() - key.width());
+            if (overhang > 0 && key.width() > 0)
+                geometry.plot.setRight(geometry.plot.right() - overhang);
+            else if (overhang > 0)
+                geometry.plot.setRight(std::min(geometry.plot.right(), area.right() - overhang + em));
+        }
+        geometry.navigable = true;
+        plot = geometry.plot;
+        p.set2D(geometry);
+        paintAxes2D(painter, plot, scene, geometry);
     }
+    paintLayers(painter, scene.threeD ? area : plot, p, scene);
+    key.paint(painter, QRectF(area.right() - key.width(), plot.top(), key.width(), area.bottom() - plot.top() - em));
+    paintTitle(painter, area, plot, scene);
+    painter.setPen(Qt::darkGray);
+    for (int n = 0; n < scene.notes.size(); ++n)
+        painter.drawText(QRectF(area.left() + 4, area.bottom() - em * (scene.notes.size() - n), area.width() - 8, em),
+                         Qt::AlignLeft, scene.notes[n]);
+    return geometry;
+}
 
-    // The variable the multi colourings follow: the first that is not on an axis.
-    int contourVar = 0;
-    for (int v = 1; v <= OrrUtilDataSetGetNumVars() && !contourVar; ++v)
-        if (OrrUtilVarIsEnabled(v) && v != axes[0].var && v != axes[1].var && (!threeD || v != axes[2].var))
-            contourVar = v;
-    if (!contourVar)
-        contourVar = axes[1].var;
+void PlotPainter::paintAxes2D(QPainter& painter, const QRectF& plot, const PlotScene& scene,
+                              const PlotGeometry& geometry) const
+{
+    const QFontMetricsF metrics(painter.font());
+    const double em = metrics.height();
+    const auto width = [&](const QString& t) { return metrics.horizontalAdvance(t); };
+    const auto elide = [&](const QString& t, double room) { return metrics.elidedText(t, Qt::ElideRight, room); };
+    const AxisTicks::Scale x = scaleFor(scene.axes[0], geometry, 0, plot.width(), width, XGap * em, elide);
+    const AxisTicks::Scale y = scaleFor(
+        scene.axes[1], geometry, 1, plot.height(), [em](const QString&) { return em; }, YGap * em,
+        [](const QString&, double) { return QString(); });
+    const double yLabelRoom = plot.left() - 1.6 * em - 10;
 
-    const bool showVectors = !lines && HostStyle::flag("FieldLayers/ShowVector");
-    const std::string vectorRoot = threeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
-    const int vectorVars[3] = {int(HostStyle::integer(vectorRoot + "UVar")),
-                               int(HostStyle::integer(vectorRoot + "VVar")),
-                               threeD ? int(HostStyle::integer(vectorRoot + "WVar")) : 0};
-    const int sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
-    const double relativeSize = HostStyle::number("GlobalScatter/RelativeSize", -1, 1.0);
-    const bool sizeInGrid = HostStyle::flag("GlobalScatter/RelativeSizeInGridUnits", -1, true);
-    const double cmToGrid = OrrUtilConvertUnits(Units_Centimetre, Units_Grid, 1.0);
-    const double mediumSize = HostStyle::number("BasicSize/SymbolSizes/Medium", -1, 2.5) / 100.0 * plot.height();
+    painter.save();
+    painter.setPen(QPen(QColor(232, 232, 232), 1));
+    for (const AxisTicks::Tick& tick : x.ticks)
+        painter.drawLine(QPointF(geometry.toPixel(0, tick.value), plot.top()),
+                         QPointF(geometry.toPixel(0, tick.value), plot.bottom()));
+    for (const AxisTicks::Tick& tick : y.ticks)
+        painter.drawLine(QPointF(plot.left(), geometry.toPixel(1, tick.value)),
+                         QPointF(plot.right(), geometry.toPixel(1, tick.value)));
+    painter.setPen(QPen(Qt::black, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(plot);
+    for (const AxisTicks::Tick& tick : x.ticks) {
+        const double px = geometry.toPixel(0, tick.value);
+        painter.drawLine(QPointF(px, plot.bottom()), QPointF(px, plot.bottom() + 4));
+        const double w = width(tick.label);
+        painter.drawText(QRectF(px - w / 2 - 1, plot.bottom() + 5, w + 2, em), Qt::AlignCenter, tick.label);
+    }
+    for (const AxisTicks::Tick& tick : y.ticks) {
+        const double py = geometry.toPixel(1, tick.value);
+        painter.drawLine(QPointF(plot.left() - 4, py), QPointF(plot.left(), py));
+        painter.drawText(QRectF(plot.left() - 6 - yLabelRoom, py - em / 2, yLabelRoom, em),
+                         Qt::AlignRight | Qt::AlignVCenter, elide(tick.label, yLabelRoom));
+    }
+    // Offsets and powers of ten once, at the axis ends; the titles take the room left.
+    const double titleRow = plot.bottom() + 6 + em;
+    const double xNote = x.note.isEmpty() ? 0.0 : width(x.note) + em;
+    painter.drawText(QRectF(plot.right() - xNote, titleRow, xNote, em), Qt::AlignRight, x.note);
+    if (!y.note.isEmpty())
+        painter.drawText(QRectF(plot.left() - yLabelRoom, plot.top() - em - 2, yLabelRoom + plot.width() / 2, em),
+                         Qt::AlignLeft | Qt::AlignBottom, y.note);
+    painter.drawText(QRectF(plot.left() + xNote, titleRow, plot.width() - 2 * xNote, em), Qt::AlignHCenter,
+                     elide(scene.axes[0].name, plot.width() - 2 * xNote));
+    painter.translate(plot.left() - yLabelRoom - 10, plot.center().y());
+    painter.rotate(-90);
+    painter.drawText(QRectF(-plot.height() / 2, -em, plot.height(), em), Qt::AlignHCenter | Qt::AlignBottom,
+                     elide(scene.axes[1].name, plot.height()));
+    painter.restore();
+}
 
-    std::vector<QPointF> points;
-    const int zones = OrrUtilDataSetGetNumZones();
+void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotScene& scene) const
+{
+    const QFontMetricsF metrics(painter.font());
+    const double em = metrics.height();
+    auto corner = [&](int i) {
+        return p.map(p.lo[0] + (i & 1 ? p.span[0] : 0.0), p.lo[1] + (i & 2 ? p.span[1] : 0.0),
+                     p.lo[2] + (i & 4 ? p.span[2] : 0.0));
+    };
+    painter.save();
+    painter.setPen(QPen(QColor(170, 170, 170), 1));
+    for (int i = 0; i < 8; ++i)
+        for (int bit = 1; bit < 8; bit <<= 1)
+            if (!(i & bit))
+                painter.drawLine(corner(i), corner(i | bit));
+    const QPointF middle(p.centre[0], p.centre[1]);
+    for (int a = 0; a < 3; ++a) {
+        const QPointF from = corner(0), to = corner(1 << a);
+        const QPointF along = to - from;
+        const double length = std::hypot(along.x(), along.y());
+        painter.setPen(Qt::black);
+        painter.drawLine(from, to);
+        // Labels sit beside the edge, on the side away from the box's centre, and
+        // take along it the room of their width or height, as the edge runs.
+        const QPointF unit = length > 0 ? along / length : QPointF(1, 0);
+        QPointF out(-unit.y(), unit.x());
+        const QPointF fromCentre = (from + to) / 2 - middle;
+        if (out.x() * fromCentre.x() + out.y() * fromCentre.y() < 0)
+            out = -out;
+        const auto extent = [&](const QString& t) {
+            return std::abs(unit.x()) * metrics.horizontalAdvance(t) + std::abs(unit.y()) * em;
+        };
+        const AxisTicks::Scale scale = AxisTicks::fit(p.lo[a], p.lo[a] + p.span[a], length, extent, em);
+        for (const AxisTicks::Tick& tick : scale.ticks) {
+            const QPointF at = from + along * ((tick.value - p.lo[a]) / p.span[a]);
+            painter.drawLine(at, at + out * 4);
+            const double w = metrics.horizontalAdvance(tick.label);
+            const QPointF centre = at + out * (6 + std::abs(out.x()) * w / 2 + std::abs(out.y()) * em / 2);
+            painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter,
+                             tick.label);
+        }
+        const QString name = scale.note.isEmpty() ? scene.axes[a].name : scene.axes[a].name + " " + scale.note;
+        const double w = metrics.horizontalAdvance(name);
+        const QPointF beyond = to + (length > 0 ? along / length : QPointF(1, 0)) * (em + w / 2);
+        painter.drawText(QRectF(beyond.x() - w / 2, beyond.y() - em / 2, w + 2, em), Qt::AlignCenter, name);
+    }
+    painter.restore();
+}
+
+void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Projection& p,
+                              const PlotScene& scene) const
+{
+    painter.save();
+    painter.setClipRect(clip);
+    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    const double baseRadius =
+        std::max(2.0, scene.mediumPercent / 100.0 * std::min(clip.height(), clip.width()) / 2.0);
+    const double largestRadius = std::max(baseRadius, std::min(clip.width(), clip.height()) / 12.0);
+    const PlotSymbol symbol(scene.symbol, painter.font());
     double longestArrow = 0.0;
     struct Arrow
     {
         QPointF from, delta;
     };
     std::vector<Arrow> arrows;
-    bool rampedByContour = false;
-    painter.save();
-    painter.setClipRect(area);
-    for (int zone = 1; zone <= zones; ++zone) {
-        if (!OrrUtilZoneIsEnabled(zone))
+
+    for (const PlotScene::Zone& zone : scene.zones) {
+        const double* const* v = zone.values;
+        if (!v[0] || !v[1] || (scene.threeD && !v[2]))
             continue;
-        const long n = OrrUtilZoneGetNumPoints(zone);
-        const double* v[3] = {OrrUtilVarGetValuesInZone(zone, axes[0].var),
-                              OrrUtilVarGetValuesInZone(zone, axes[1].var),
-                              threeD ? OrrUtilVarGetValuesInZone(zone, axes[2].var) : nullptr};
-        if (!v[0] || !v[1] || (threeD && !v[2]) || n <= 0)
-            continue;
-        // Missing values (NaN) leave their point out.
+        // Missing values (NaN) leave their point out; on a log axis so do values that are not positive.
         auto at = [&](long i, QPointF& out) {
-            const double x = v[0][i], y = v[1][i], z = threeD ? v[2][i] : 0.0;
-            if (!isValue(x) || !isValue(y) || !isValue(z))
+            const double x = v[0][i], y = v[1][i], z = scene.threeD ? v[2][i] : 0.0;
+            if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(z) || (p.log[0] && x <= 0)
+                || (p.log[1] && y <= 0))
                 return false;
             out = p.map(x, y, z);
             return true;
         };
-
-        const Colouring meshColour(int(HostStyle::integer("FieldMap/Mesh/Color", zone)), zone, contourVar);
-        rampedByContour = rampedByContour || meshColour.ramped();
-        if (lines) {
-            painter.setPen(QPen(QColor(meshColour.fixed()), 2));
+        const PointColours mesh(zone.meshColour, zone.zone, scene.contour);
+        if (scene.lines) {
+            // In the order of the index variable (X); a missing Y leaves a gap.
+            std::vector<long> order;
+            scene.forEachIndex(zone.points, [&](long i) {
+                if (std::isfinite(v[0][i]))
+                    order.push_back(i);
+            });
+            std::stable_sort(order.begin(), order.end(), [&](long a, long b) { return v[0][a] < v[0][b]; });
             QPainterPath path;
             bool open = false;
             QPointF q;
-            for (long i = 0; i < n; ++i) {
+            for (long i : order) {
                 if (!at(i, q)) {
                     open = false;
                     continue;
                 }
-                if (open)
-                    path.lineTo(q);
-                else
-                    path.moveTo(q);
+                open ? path.lineTo(q) : path.moveTo(q);
                 open = true;
             }
+            painter.setPen(QPen(QColor(faded(mesh.fixed(), zone.faded)), 2, Qt::SolidLine, Qt::RoundCap,
+                                Qt::RoundJoin));
+            painter.setBrush(Qt::NoBrush);
             painter.drawPath(path);
+            // A lone point between gaps is still a value: a dot marks it.
+            painter.setPen(QPen(QColor(faded(mesh.fixed(), zone.faded)), 4, Qt::SolidLine, Qt::RoundCap));
+            for (size_t k = 0; k < order.size(); ++k) {
+                const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
+                if (!before && !after && at(order[k], q))
+                    painter.drawPoint(q);
+            }
             continue;
         }
 
-        if (HostStyle::flag("FieldMap/Mesh/Show", zone, true)) {
-            const bool many = n > ManyPoints;
-            QPen pen(QColor(meshColour.fixed()), many ? 1 : 5, Qt::SolidLine, Qt::RoundCap);
-            if (!meshColour.varies()) {
-                points.clear();
-                points.reserve(size_t(n));
+        const long drawn = scene.countIn(zone.points);
+        if (zone.mesh) {
+            if (drawn > ManyPoints && (!mesh.varies() || mesh.ramped())) {
+                PointRaster raster(clip, ratio);
                 QPointF q;
-                for (long i = 0; i < n; ++i)
+                scene.forEachIndex(zone.points, [&](long i) {
                     if (at(i, q))
-                        points.push_back(q);
-                painter.setPen(pen);
-                painter.drawPoints(points.data(), int(points.size()));
+                        raster.add(q.x(), q.y(), mesh.ramped() ? mesh.valueAt(i) : -1.0);
+                });
+                const int map = scene.contour.map;
+                painter.drawImage(clip.topLeft(),
+                                  raster.image(faded(mesh.fixed(), zone.faded),
+                                               [&](double t) { return faded(ColourRamp::at(map, t), zone.faded); }));
             } else {
                 // Points grouped by colour (4 bits a channel) so that each group is one call.
-                std::vector<std::vector<QPointF>> groups(4096);
+                std::vector<std::vector<QPointF>> groups(mesh.varies() ? 4096 : 1);
                 QPointF q;
-                for (long i = 0; i < n; ++i)
-                    if (at(i, q)) {
-                        const QRgb c = meshColour.at(i);
-                        groups[size_t(((qRed(c) >> 4) << 8) | ((qGreen(c) >> 4) << 4) | (qBlue(c) >> 4))].push_back(q);
-                    }
+                scene.forEachIndex(zone.points, [&](long i) {
+                    if (!at(i, q))
+                        return;
+                    const QRgb c = mesh.at(i);
+                    groups[mesh.varies() ? size_t(((qRed(c) >> 4) << 8) | ((qGreen(c) >> 4) << 4) | (qBlue(c) >> 4))
+                                         : 0]
+                        .push_back(q);
+                });
+                QPen pen(QColor(), drawn > ManyPoints ? 1.0 : 5.0, Qt::SolidLine, Qt::RoundCap);
                 for (size_t g = 0; g < groups.size(); ++g)
                     if (!groups[g].empty()) {
-                        pen.setColor(QColor(int(g >> 8) * 17, int((g >> 4) & 15) * 17, int(g & 15) * 17));
+                        const QRgb c = mesh.varies() ? qRgb(int(g >> 8) * 17, int((g >> 4) & 15) * 17, int(g & 15) * 17)
+                                                     : mesh.fixed();
+                        pen.setColor(QColor(faded(c, zone.faded)));
                         painter.setPen(pen);
                         painter.drawPoints(groups[g].data(), int(groups[g].size()));
                     }
             }
         }
 
-        if (HostStyle::flag("FieldMap/Scatter/Show", zone)) {
-            const Colouring scatterColour(int(HostStyle::integer("FieldMap/Scatter/Color", zone)), zone, contourVar);
-            const double* sizes = OrrUtilVarGetValuesInZone(zone, sizeVar);
-            painter.setPen(QPen(Qt::black, 1));
+        if (zone.scatter) {
+            const PointColours colours(zone.scatterColour, zone.zone, scene.contour);
+            const double* sizes = OrrUtilVarGetValuesInZone(zone.zone, scene.sizeVar);
+            double largest = 0.0;
+            if (sizes)
+                scene.forEachIndex(zone.points, [&](long i) {
+                    if (std::isfinite(sizes[i]))
+                        largest = std::max(largest, std::abs(sizes[i]));
+                });
+            // Sized by a variable: the largest value gets the relative size, in symbol sizes or centimetres.
+            const double unit = (scene.sizeInCm ? CmInPixels / 2.0 : baseRadius) * scene.relativeSize;
             QPointF q;
-            for (long i = 0; i < n; ++i) {
-                if (!at(i, q))
-                    continue;
-                double radius = mediumSize / 2.0;
+            long count = 0;
+            scene.forEachIndex(zone.points, [&](long i) {
+                if (count >= PlotScene::MostSymbols || !at(i, q))
+                    return;
+                double radius = baseRadius;
                 if (sizes) {
-                    if (!isValue(sizes[i]))
-                        continue;
-                    const double grid = relativeSize * std::abs(sizes[i]) * (sizeInGrid ? 1.0 : cmToGrid);
-                    radius = grid * p.gridToPixels / 2.0;
+                    if (!std::isfinite(sizes[i]))
+                        return;
+                    radius = largest > 0 ? unit * std::abs(sizes[i]) / largest : baseRadius;
                 }
-                radius = std::clamp(radius, 1.5, 60.0);
-                painter.setBrush(QColor(scatterColour.at(i)));
-                painter.drawEllipse(q, radius, radius);
-            }
+                ++count;
+                symbol.draw(painter, q, std::clamp(radius, 1.0, largestRadius), QColor(faded(colours.at(i), zone.faded)));
+            });
             painter.setBrush(Qt::NoBrush);
         }
 
-        if (showVectors) {
-            const double* c[3] = {OrrUtilVarGetValuesInZone(zone, vectorVars[0]),
-                                  OrrUtilVarGetValuesInZone(zone, vectorVars[1]),
-                                  threeD ? OrrUtilVarGetValuesInZone(zone, vectorVars[2]) : nullptr};
-            if (!c[0] || !c[1] || (threeD && !c[2]))
+        if (scene.vectors) {
+            const double* c[3] = {OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[0]),
+                                  OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[1]),
+                                  scene.threeD ? OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[2]) : nullptr};
+            if (!c[0] || !c[1] || (scene.threeD && !c[2]))
                 continue;
             QPointF q;
-            for (long i = 0; i < n; ++i) {
+            scene.forEachIndex(zone.points, [&](long i) {
                 if (!at(i, q))
-                    continue;
-                const double u = c[0][i], w = c[1][i], t = threeD ? c[2][i] : 0.0;
-                if (!isValue(u) || !isValue(w) || !isValue(t))
-                    continue;
+                    return;
+                const double u = c[0][i], w = c[1][i], t = scene.threeD ? c[2][i] : 0.0;
+                if (!std::isfinite(u) || !std::isfinite(w) || !std::isfinite(t))
+                    return;
                 // Arrows are scaled afterwards so that the longest has a fixed length.
-                const QPointF tip = p.map(v[0][i] + u, v[1][i] + w, threeD ? v[2][i] + t : 0.0);
+                const QPointF tip = p.map(v[0][i] + u, v[1][i] + w, scene.threeD ? v[2][i] + t : 0.0);
                 const QPointF delta = tip - q;
-                longestArrow = std::max(longestArrow, std::hypot(delta.x(), delta.y()));
+                const double length = std::hypot(delta.x(), delta.y());
+                if (!std::isfinite(length))
+                    return;
+                longestArrow = std::max(longestArrow, length);
                 arrows.push_back({q, delta});
-            }
+            });
         }
     }
 
@@ -385,78 +511,31 @@ void PlotPainter::paintField(QPainter& painter, const QRectF& area, bool threeD,
         }
     }
     painter.restore();
-    if (rampedByContour)
-        paintCategoryLegend(painter, plot, contourVar);
 }
 
-void PlotPainter::paintCategoryLegend(QPainter& painter, const QRectF& plot, int var) const
+void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const
 {
-    const std::vector<std::string>& names = categories(var);
-    double min = 0, max = 0;
-    if (names.empty() || names.size() > AxisTicks::MaxNamed || !OrrUtilVarGetMinMax(var, &min, &max))
+    if (scene.title.isEmpty())
         return;
-    const QFontMetrics metrics(painter.font());
-    const int row = metrics.height() + 2;
-    int width = 0;
-    for (const std::string& name : names)
-        width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(name)));
-    const QRectF box(plot.right() - width - 30, plot.top() + 4, width + 26, row * double(names.size()) + 6);
     painter.save();
-    painter.setPen(QColor(120, 120, 120));
-    painter.setBrush(QColor(255, 255, 255, 220));
-    painter.drawRect(box);
-    for (size_t k = 0; k < names.size(); ++k) {
-        const double y = box.top() + 3 + row * double(k);
-        painter.fillRect(QRectF(box.left() + 5, y + 3, 10, row - 6),
-                         QColor(ramp((double(k + 1) - min) / (max > min ? max - min : 1.0))));
-        painter.setPen(Qt::black);
-        painter.drawText(QRectF(box.left() + 20, y, width + 4, row), Qt::AlignLeft | Qt::AlignVCenter,
-                         QString::fromStdString(names[k]));
+    painter.setFont(titleFont(painter.font()));
+    const QFontMetricsF metrics(painter.font());
+    const double height = metrics.height();
+    const int column = scene.anchor % 3, row = scene.anchor / 3;
+    const Qt::Alignment horizontal = column == 0 ? Qt::AlignLeft : column == 1 ? Qt::AlignHCenter : Qt::AlignRight;
+    const QString text = metrics.elidedText(scene.title, Qt::ElideRight, area.width() - 8);
+    const double y = row == 0 ? area.top() + height * 0.25
+                     : row == 1 ? plot.center().y() - height / 2
+                                : area.bottom() - height * 1.25;
+    const QRectF band(row == 1 ? plot.left() + 6 : std::min(plot.left(), area.left() + 4), y,
+                      row == 1 ? plot.width() - 12 : std::max(plot.right(), area.right() - 4) - std::min(plot.left(), area.left() + 4),
+                      height);
+    if (row == 1) { // over the data: on a pale box so that it stays readable
+        const double w = metrics.horizontalAdvance(text) + 8;
+        const double left = column == 0 ? band.left() : column == 1 ? band.center().x() - w / 2 : band.right() - w;
+        painter.fillRect(QRectF(left, y, w, height), QColor(255, 255, 255, 210));
     }
-    painter.restore();
-}
-
-void PlotPainter::paintFrame2D(QPainter& painter, const QRectF& plot, const Axis& x, const Axis& y) const
-{
-    painter.setPen(QPen(Qt::black, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(plot);
-    const QFontMetrics metrics(painter.font());
-    for (const AxisTicks::Tick& tick : AxisTicks::of(x.min, x.max, categories(x.var))) {
-        const double px = plot.left() + (tick.value - x.min) / (x.max - x.min) * plot.width();
-        painter.drawLine(QPointF(px, plot.bottom()), QPointF(px, plot.bottom() + 4));
-        painter.drawText(QRectF(px - 40, plot.bottom() + 5, 80, 16), Qt::AlignHCenter | Qt::AlignTop,
-                         metrics.elidedText(tick.label, Qt::ElideRight, 80));
-    }
-    for (const AxisTicks::Tick& tick : AxisTicks::of(y.min, y.max, categories(y.var))) {
-        const double py = plot.bottom() - (tick.value - y.min) / (y.max - y.min) * plot.height();
-        painter.drawLine(QPointF(plot.left() - 4, py), QPointF(plot.left(), py));
-        painter.drawText(QRectF(plot.left() - 70, py - 8, 64, 16), Qt::AlignRight | Qt::AlignVCenter,
-                         metrics.elidedText(tick.label, Qt::ElideRight, 64));
-    }
-    painter.drawText(QRectF(plot.left(), plot.bottom() + 22, plot.width(), 18), Qt::AlignHCenter, x.name);
-    painter.save();
-    painter.translate(plot.left() - 56, plot.center().y());
-    painter.rotate(-90);
-    painter.drawText(QRectF(-plot.height() / 2, -16, plot.height(), 16), Qt::AlignHCenter | Qt::AlignBottom, y.name);
-    painter.restore();
-}
-
-void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const Axis axes[3]) const
-{
-    painter.setPen(QPen(QColor(170, 170, 170), 1));
-    auto corner = [&](int i) {
-        return p.map(i & 1 ? axes[0].max : axes[0].min, i & 2 ? axes[1].max : axes[1].min,
-                     i & 4 ? axes[2].max : axes[2].min);
-    };
-    for (int i = 0; i < 8; ++i)
-        for (int bit = 1; bit < 8; bit <<= 1)
-            if (!(i & bit))
-                painter.drawLine(corner(i), corner(i | bit));
     painter.setPen(Qt::black);
-    for (int a = 0; a < 3; ++a) {
-        const QPointF end = corner(1 << a);
-        painter.drawLine(corner(0), end);
-        painter.drawText(end + QPointF(4, -4), axes[a].name);
-    }
+    painter.drawText(band.adjusted(4, 0, -4, 0), horizontal | Qt::AlignVCenter, text);
+    painter.restore();
 }

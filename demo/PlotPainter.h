@@ -1,39 +1,41 @@
 #pragma once
-#include <vector>
-#include <QColor>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include "demo/PlotGeometry.h"
 
 class QPainter;
+struct PlotScene;
 
-// Paints one frame of the host onto a painter. Everything is read from the
-// host when paint() is called; the object holds only the 3D view angles.
+// Paints the current frame of the host onto a painter: axes with round ticks,
+// the zones' points, lines, symbols and vectors, the key and the title.
+// Everything is read from the host when paint() is called; the object holds
+// only how the user looks at it (3D angles, a 2D window).
 class PlotPainter
 {
 public:
-    PlotPainter(double yawDegrees, double pitchDegrees) : m_yaw(yawDegrees), m_pitch(pitchDegrees) {}
+    PlotPainter(double yawDegrees, double pitchDegrees, const PlotWindow* window = nullptr)
+        : m_yaw(yawDegrees), m_pitch(pitchDegrees), m_window(window)
+    {
+    }
 
-    void paint(QPainter& painter, const QRectF& area) const;
+    // area in the painter's logical units; returns where the axes went.
+    PlotGeometry paint(QPainter& painter, const QRectF& area) const;
+
+    // Above this many points a layer is drawn through a raster of the axes box.
+    static constexpr long ManyPoints = 20000;
 
 private:
-    struct Axis
-    {
-        int var = 0;
-        double min = 0.0;
-        double max = 1.0;
-        QString name;
-    };
-    // Where a point of the data lands on the picture.
     struct Projection;
 
-    void paintField(QPainter& painter, const QRectF& area, bool threeD, bool lines) const;
-    void paintFrame2D(QPainter& painter, const QRectF& plot, const Axis& x, const Axis& y) const;
-    void paintBox3D(QPainter& painter, const Projection& projection, const Axis axes[3]) const;
-    // The names of the categories the points are coloured by, beside their colours.
-    void paintCategoryLegend(QPainter& painter, const QRectF& plot, int var) const;
+    PlotGeometry paintField(QPainter& painter, const QRectF& area, const PlotScene& scene) const;
+    void paintAxes2D(QPainter& painter, const QRectF& plot, const PlotScene& scene, const PlotGeometry& geometry) const;
+    void paintBox3D(QPainter& painter, const Projection& projection, const PlotScene& scene) const;
+    void paintLayers(QPainter& painter, const QRectF& plot, const Projection& projection, const PlotScene& scene) const;
+    void paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const;
     void paintMessage(QPainter& painter, const QRectF& area, const QString& text) const;
 
     double m_yaw;
     double m_pitch;
+    const PlotWindow* m_window;
 };

@@ -5,7 +5,10 @@
 #include <QListView>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <algorithm>
 #include "demo/DemoUser.h"
+#include "demo/HostStyle.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "demo/Translations.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
@@ -26,9 +29,12 @@ QString yesNo(bool value)
 
 SimplePrompts::EnterTextStringDialog* SimplePrompts::openTextString(QWidget& parent)
 {
-    auto* dialog =
-        new EnterTextStringDialog(parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
-                                  QCoreApplication::translate("DialogCatalog", "Frame 1"), "", false);
+    const QString title = QString::fromStdString(HostStyle::text("FrameLayout/Title"));
+    auto* dialog = new EnterTextStringDialog(parent,
+                                             QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
+                                             title.isEmpty() ? QCoreApplication::translate("DialogCatalog", "Frame 1")
+                                                             : title,
+                                             "", false);
     dialog->setModal(true); // the host runs this prompt modally; it sets no modality itself
     return dialog;
 }
@@ -45,8 +51,14 @@ QString SimplePrompts::textStringAnswers(EnterTextStringDialog& d)
 
 SimplePrompts::EnterThreeIntValuesDialog* SimplePrompts::openThreeInts(QWidget& parent)
 {
+    // The range drawn now; an open end shows as the number of points of the largest zone.
+    long points = 1;
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        points = std::max(points, long(OrrUtilZoneGetNumPoints(zone)));
+    const long end = HostStyle::integer("IndexRange/End");
     return EnterThreeIntValuesDialog::getInstance(
-        parent, 1, 100, 1, Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+        parent, HostStyle::integer("IndexRange/Begin", -1, 1), end > 0 ? end : points,
+        HostStyle::integer("IndexRange/Skip", -1, 1), Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);
@@ -88,12 +100,13 @@ QString SimplePrompts::asciiCharacterAnswers(EnterASCIICharacterDialog& d)
 
 SimplePrompts::AnchorAlignmentDialog* SimplePrompts::openAnchorAlignment(QWidget& parent)
 {
-    return AnchorAlignmentDialog::getInstance(AnchorAlignment_BottomLeft, parent);
+    return AnchorAlignmentDialog::getInstance(
+        AnchorAlignment_e(HostStyle::integer("FrameLayout/TitleAnchor", -1, AnchorAlignment_TopCenter)), parent);
 }
 
 void SimplePrompts::driveAnchorAlignment(AnchorAlignmentDialog& d)
 {
-    DemoUser::click(*d.findChild<QRadioButton*>("anchorAlignment_MiddleCenter_RadioButton"));
+    DemoUser::click(*d.findChild<QRadioButton*>("anchorAlignment_TopLeft_RadioButton"));
 }
 
 QString SimplePrompts::anchorAlignmentAnswers(AnchorAlignmentDialog& d)

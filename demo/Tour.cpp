@@ -10,6 +10,7 @@
 #include <QTimer>
 #include "demo/DemoUser.h"
 #include "demo/MainWindow.h"
+#include "demo/PlotExport.h"
 #include "demo/PlotView.h"
 #include "demo/TextFit.h"
 #include "platform/common/IdleQueue.h"
@@ -44,10 +45,9 @@ bool save(QWidget& widget, const QString& path)
 // The plot as the dialog left it, so that the pictures show what each dialog did.
 bool savePlot(const PlotView& plot, const QString& path)
 {
-    QImage picture(plot.size().expandedTo(QSize(640, 480)), QImage::Format_RGB32);
-    plot.render(picture);
-    const bool saved = picture.save(path);
-    std::printf("  %s %s\n", saved ? "plot" : "could not save", qPrintable(path));
+    QString error;
+    const bool saved = PlotExport::write(plot, path, plot.size().expandedTo(QSize(640, 480)), plot.devicePixelRatioF(), &error);
+    std::printf("  %s\n", saved ? qPrintable("plot " + path) : qPrintable(error));
     return saved;
 }
 

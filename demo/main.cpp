@@ -1,14 +1,34 @@
 #include <cstdio>
+#include <cstring>
 #include <QApplication>
 #include <QCommandLineParser>
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
+#include "demo/PlotExport.h"
+#include "demo/PlotView.h"
 #include "demo/Tour.h"
 #include "demo/Translations.h"
 #include "host/kernel/KernelDriver.h"
 
+namespace {
+
+// A run that only writes files needs no display: without one it draws offscreen.
+void drawOffscreenWithoutDisplay(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY")
+        || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        return;
+    for (int i = 1; i < argc; ++i)
+        if (!std::strcmp(argv[i], "--export") || !std::strcmp(argv[i], "--tour")
+            || !std::strncmp(argv[i], "--export=", 9) || !std::strncmp(argv[i], "--tour=", 7))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
+    drawOffscreenWithoutDisplay(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName("orrery-demo");
     QApplication::setApplicationDisplayName("Orrery Prompts Demo");
@@ -30,7 +50,11 @@ int main(int argc, char** argv)
                                       "Show the texts in <language> (for example de); the default follows the "
                                       "system locale, en shows the original English texts.",
                                       "language");
-    parser.addOptions({replay, tour, plotType, language});
+    const QCommandLineOption exportPlot("export",
+                                        "Write the plot to <file> (.png, .svg or .pdf) after loading the file and "
+                                        "any replay, then exit.",
+                                        "file");
+    parser.addOptions({replay, tour, plotType, language, exportPlot});
     parser.process(app);
     for (const QString& problem : Translations::install(app, parser.value(language)))
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
@@ -53,7 +77,7 @@ int main(int argc, char** argv)
     MainWindow window;
     orrery::kernel::KernelDriver::loadSampleDataSet(
         "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
-    const bool touring = parser.isSet(tour);
+    const bool touring = parser.isSet(tour) || parser.isSet(exportPlot);
     // Without a window to show them in, failures end the run.
     if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))
         && touring)
@@ -66,6 +90,14 @@ int main(int argc, char** argv)
     }
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;
+    if (parser.isSet(exportPlot)) {
+        QString problem;
+        if (!PlotExport::write(window.plot(), parser.value(exportPlot), window.plot().sizeHint(), 1.0, &problem)) {
+            std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
+            return 1;
+        }
+        return 0;
+    }
     if (touring)
         return Tour::run(window, parser.value(tour));
     window.show();

@@ -34,6 +34,18 @@ StyleRule variableNumber()
     };
 }
 
+StyleRule zoneNumber()
+{
+    return [](const StyleDatum& value, const RuleContext& context) {
+        const long zone = std::get<long>(value);
+        const int count = context.dataSet.numZones();
+        if (zone != 0 && (zone < 1 || zone > count))
+            return WriteVerdict::refuse(
+                (boost::format("Zone number %1% is out of range (1 to %2%).") % zone % count).str());
+        return WriteVerdict::accept();
+    };
+}
+
 StyleRule withinRange(const std::string& what, long lowest, long highest)
 {
     return [=](const StyleDatum& value, const RuleContext&) {

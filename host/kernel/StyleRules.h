@@ -10,6 +10,8 @@ namespace rules {
 // no variables, since nothing can be checked then.
 StyleRule variableNumber();
 // A long within [lowest, highest]; what names the value in the refusal text.
+// 0 (no zone) or a zone of the data set.
+StyleRule zoneNumber();
 StyleRule withinRange(const std::string& what, long lowest, long highest);
 StyleRule greaterThanZero(const std::string& what);
 StyleRule percentage(const std::string& what);

@@ -1,4 +1,5 @@
 #include "host/kernel/StyleSchema.h"
+#include <climits>
 #include <stdexcept>
 #include "host/kernel/StyleRules.h"
 #include "host/kernel/StyleState.h"
@@ -53,6 +54,27 @@ StyleSchema::StyleSchema()
         color.perZone = true;
         add(group + "/Color", color);
     }
+    addPlotAnnotations();
+}
+
+// What a plot shows beyond the data: its title, the variable and map that
+// colour it, the zone picked out, the part of each zone drawn, the scatter
+// symbol and logarithmic axes.
+void StyleSchema::addPlotAnnotations()
+{
+    add("FrameLayout/Title", {StyleType::String, std::string(), {}}); // empty: the data set's title
+    add("FrameLayout/TitleAnchor", {StyleType::Long, long(AnchorAlignment_TopCenter),
+                                    rules::withinRange("Anchor alignment", AnchorAlignment_TopLeft,
+                                                       AnchorAlignment_BottomRight)});
+    add("FrameLayout/ActiveZone", {StyleType::Long, long(0), rules::zoneNumber()}); // 0: none
+    addVariable("GlobalContour/Var", 0); // 0: the first variable not on an axis
+    add("GlobalContour/ColorMap", {StyleType::Long, long(0), rules::withinRange("Colour map", 0, 2)});
+    add("IndexRange/Begin", {StyleType::Long, long(1), rules::withinRange("First index", 1, LONG_MAX)});
+    add("IndexRange/End", {StyleType::Long, long(0), rules::withinRange("Last index", 0, LONG_MAX)}); // 0: the last
+    add("IndexRange/Skip", {StyleType::Long, long(1), rules::withinRange("Index skip", 1, LONG_MAX)});
+    add("GlobalScatter/Symbol", {StyleType::String, std::string(), {}}); // empty: a disc
+    for (const char* axis : {"XDetail", "YDetail"})
+        add(std::string("TwoDAxis/") + axis + "/IsLog", {StyleType::Bool, false, {}});
 }
 
 const StyleEntry* StyleSchema::find(const std::string& key) const

@@ -28,6 +28,7 @@ private:
     void add(const std::string& key, const StyleEntry& entry);
     void addVariable(const std::string& key, long defaultVar);
     void addFont(const std::string& group);
+    void addPlotAnnotations();
 
     std::map<std::string, StyleEntry> m_entries;
 };

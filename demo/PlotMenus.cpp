@@ -1,0 +1,143 @@
+#include "demo/PlotMenus.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QMenu>
+#include "demo/ColourRamp.h"
+#include "demo/HostStyle.h"
+#include "demo/MainWindow.h"
+#include "demo/PlotExport.h"
+#include "demo/PlotView.h"
+#include "host/kernel/OrrUtilHost.h"
+
+namespace {
+
+QString takeString(char* text)
+{
+    const QString result = text ? QString::fromUtf8(text) : QString();
+    OrrUtilStringDealloc(&text);
+    return result;
+}
+
+const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLog"};
+
+} // namespace
+
+PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view)
+    : QObject(&window), m_window(window), m_plot(plot)
+{
+    QAction* exportAction = new QAction(tr("&Export Plot..."), this);
+    exportAction->setObjectName("fileExportPlot");
+    connect(exportAction, &QAction::triggered, this, &PlotMenus::exportPlot);
+    file.addAction(exportAction);
+    QAction* copy = edit.addAction(tr("&Copy Plot"), this, &PlotMenus::copyPlot);
+    copy->setObjectName("editCopyPlot");
+    copy->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+
+    view.addSeparator();
+    QAction* reset = view.addAction(tr("Show &All Data"), &plot, &PlotView::resetWindow);
+    reset->setObjectName("viewShowAll");
+    reset->setToolTip(tr("Undo the zoom and pan of the plot (Home in the plot)"));
+    const QString logTexts[2] = {tr("Logarithmic &X Axis"), tr("Logarithmic &Y Axis")};
+    for (int a = 0; a < 2; ++a) {
+        m_log[a] = view.addAction(logTexts[a], this, [this, a](bool on) { setLog(a, on); });
+        m_log[a]->setCheckable(true);
+        m_log[a]->setObjectName(a == 0 ? "viewLogX" : "viewLogY");
+    }
+    QMenu* colourBy = view.addMenu(tr("&Color Points By"));
+    colourBy->setObjectName("viewColorBy");
+    connect(colourBy, &QMenu::aboutToShow, this, [this, colourBy] { fillColourBy(*colourBy); });
+    QMenu* colourMap = view.addMenu(tr("Color &Map"));
+    colourMap->setObjectName("viewColorMap");
+    connect(colourMap, &QMenu::aboutToShow, this, [this, colourMap] { fillColourMap(*colourMap); });
+
+    plot.setContextMenuPolicy(Qt::ActionsContextMenu);
+    auto* separator = new QAction(this);
+    separator->setSeparator(true);
+    plot.addActions({reset, m_log[0], m_log[1], colourBy->menuAction(), colourMap->menuAction(), separator,
+                     exportAction, copy});
+}
+
+void PlotMenus::refresh()
+{
+    const bool twoD = OrrUtilFrameGetPlotType() != PlotType_ThreeD;
+    for (int a = 0; a < 2; ++a) {
+        m_log[a]->setChecked(HostStyle::flag(LogKeys[a]));
+        m_log[a]->setEnabled(twoD);
+    }
+}
+
+void PlotMenus::fillColourBy(QMenu& menu)
+{
+    menu.clear();
+    const long chosen = HostStyle::integer("GlobalContour/Var");
+    for (int var = 0; var <= OrrUtilDataSetGetNumVars(); ++var) {
+        if (var > 0 && !OrrUtilVarIsEnabled(var))
+            continue;
+        QAction* action =
+            menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)") : takeString(OrrUtilVarGetName(var)),
+                           this, [this, var] { colourBy(var); });
+        action->setCheckable(true);
+        action->setChecked(var == chosen);
+        if (var == 0)
+            menu.addSeparator();
+    }
+}
+
+void PlotMenus::fillColourMap(QMenu& menu)
+{
+    menu.clear();
+    const long chosen = HostStyle::integer("GlobalContour/ColorMap");
+    for (int map = 0; map < ColourRamp::Count; ++map) {
+        QAction* action = menu.addAction(ColourRamp::name(map), this, [this, map] {
+            std::string error;
+            if (!HostStyle::setInteger("GlobalContour/ColorMap", map, &error))
+                m_window.complain(QString::fromStdString(error));
+        });
+        action->setCheckable(true);
+        action->setChecked(map == chosen);
+    }
+}
+
+// Colouring by a variable shows only on zones coloured by a map: zones in one
+// plain colour are given the first map colouring in the same step.
+void PlotMenus::colourBy(int var)
+{
+    OrrUtilUndoStateBeginNamed(0, "Color By Variable");
+    std::string error;
+    bool ok = HostStyle::setInteger("GlobalContour/Var", var, &error);
+    for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        if (HostStyle::integer("FieldMap/Mesh/Color", zone) >= 0)
+            ok = HostStyle::setInteger("FieldMap/Mesh/Color", -1, &error, zone);
+    OrrUtilUndoStateEnd(!ok, true);
+    if (!ok)
+        m_window.complain(QString::fromStdString(error));
+}
+
+void PlotMenus::setLog(int axis, bool on)
+{
+    std::string error;
+    if (!HostStyle::setFlag(LogKeys[axis], on, &error))
+        m_window.complain(QString::fromStdString(error));
+    refresh();
+}
+
+void PlotMenus::exportPlot()
+{
+    const QString path = QFileDialog::getSaveFileName(&m_window, tr("Export Plot"), "plot.png", PlotExport::filter());
+    if (path.isEmpty())
+        return;
+    QString error;
+    if (PlotExport::write(m_plot, path, m_plot.size(), m_plot.devicePixelRatioF(), &error))
+        m_window.report(tr("Exported the plot to %1").arg(path));
+    else
+        m_window.complain(error);
+}
+
+void PlotMenus::copyPlot()
+{
+    QApplication::clipboard()->setImage(PlotExport::image(m_plot, m_plot.size(), m_plot.devicePixelRatioF()));
+    m_window.report(tr("Copied the plot to the clipboard"));
+}

@@ -1,0 +1,32 @@
+#pragma once
+#include <QObject>
+
+class MainWindow;
+class PlotView;
+class QAction;
+class QMenu;
+
+// The plot's own entries, in the View menu and the plot's context menu:
+// logarithmic axes, the variable and colour map that colour the points,
+// showing everything again; and exporting and copying the picture.
+class PlotMenus : public QObject
+{
+    Q_OBJECT
+public:
+    PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view);
+
+    // Brings the check marks up to date with the host's style.
+    void refresh();
+    void exportPlot();
+    void copyPlot();
+
+private:
+    void fillColourBy(QMenu& menu);
+    void fillColourMap(QMenu& menu);
+    void colourBy(int var);
+    void setLog(int axis, bool on);
+
+    MainWindow& m_window;
+    PlotView& m_plot;
+    QAction* m_log[2];
+};

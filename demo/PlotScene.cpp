@@ -1,0 +1,175 @@
+#include "demo/PlotScene.h"
+
+#include <cmath>
+#include <limits>
+#include <QCoreApplication>
+#include "demo/AxisTicks.h"
+#include "demo/HostStyle.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
+
+namespace {
+
+const int RGBColoring = -6;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PlotPainter", text);
+}
+
+QString takeString(char* text)
+{
+    const QString result = text ? QString::fromUtf8(text) : QString();
+    OrrUtilStringDealloc(&text);
+    return result;
+}
+
+std::vector<std::string> namedCategories(int var)
+{
+    const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
+    if (!data.hasVar(var) || data.categories(var).size() > AxisTicks::MaxNamed)
+        return {};
+    return data.categories(var);
+}
+
+// The finite values of var in the drawn points, smallest and largest; false when there are none.
+bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max)
+{
+    min = std::numeric_limits<double>::infinity();
+    max = -min;
+    for (const PlotScene::Zone& zone : scene.zones) {
+        const double* values = OrrUtilVarGetValuesInZone(zone.zone, var);
+        if (!values)
+            continue;
+        scene.forEachIndex(zone.points, [&](long i) {
+            const double v = values[i];
+            if (std::isfinite(v) && (!positiveOnly || v > 0.0)) {
+                min = std::min(min, v);
+                max = std::max(max, v);
+            }
+        });
+    }
+    return min <= max;
+}
+
+// The variable colour maps follow when none is chosen: the first one not on an axis whose values vary.
+int automaticContourVar(const PlotScene& scene)
+{
+    int fallback = 0;
+    for (int v = 1; v <= OrrUtilDataSetGetNumVars(); ++v) {
+        if (!OrrUtilVarIsEnabled(v) || v == scene.axes[0].var || v == scene.axes[1].var
+            || (scene.threeD && v == scene.axes[2].var))
+            continue;
+        double min = 0, max = 0;
+        if (rangeOf(scene, v, false, min, max) && max > min)
+            return v;
+        fallback = fallback ? fallback : v;
+    }
+    return fallback ? fallback : scene.axes[1].var;
+}
+
+} // namespace
+
+bool PlotScene::anyScatter() const
+{
+    return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });
+}
+
+bool PlotScene::anyRamp() const
+{
+    auto ramped = [](int index) { return index < 0 && index != RGBColoring; };
+    return std::any_of(zones.begin(), zones.end(), [&](const Zone& z) {
+        return (z.mesh && ramped(z.meshColour)) || (z.scatter && ramped(z.scatterColour));
+    });
+}
+
+PlotScene PlotScene::fromHost()
+{
+    PlotScene scene;
+    const PlotType_e type = OrrUtilFrameGetPlotType();
+    if (type != PlotType_TwoD && type != PlotType_ThreeD && type != PlotType_XYLine) {
+        scene.problem = tr("Plot type %1 shows no data in this demo.").arg(int(type));
+        return scene;
+    }
+    scene.threeD = type == PlotType_ThreeD;
+    scene.lines = type == PlotType_XYLine;
+    scene.dims = scene.threeD ? 3 : 2;
+    scene.title = QString::fromStdString(HostStyle::text("FrameLayout/Title"));
+    if (scene.title.isEmpty())
+        scene.title = takeString(OrrUtilDataSetGetTitle());
+    scene.anchor = int(HostStyle::integer("FrameLayout/TitleAnchor", -1, 1));
+    scene.begin = HostStyle::integer("IndexRange/Begin", -1, 1);
+    scene.end = HostStyle::integer("IndexRange/End", -1, 0);
+    scene.skip = std::max(1L, HostStyle::integer("IndexRange/Skip", -1, 1));
+
+    const long active = HostStyle::integer("FrameLayout/ActiveZone");
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone) {
+        if (!OrrUtilZoneIsEnabled(zone))
+            continue;
+        Zone z;
+        z.zone = zone;
+        z.name = takeString(OrrUtilZoneGetName(zone));
+        z.points = OrrUtilZoneGetNumPoints(zone);
+        z.meshColour = int(HostStyle::integer("FieldMap/Mesh/Color", zone));
+        z.scatterColour = int(HostStyle::integer("FieldMap/Scatter/Color", zone));
+        z.mesh = HostStyle::flag("FieldMap/Mesh/Show", zone, true);
+        z.scatter = !scene.lines && HostStyle::flag("FieldMap/Scatter/Show", zone);
+        z.faded = active > 0 && active != zone;
+        scene.zones.push_back(z);
+    }
+    for (const Zone& z : scene.zones) {
+        if (z.scatter && scene.countIn(z.points) > MostSymbols) {
+            scene.notes << tr("Symbols are drawn for the first %1 points of a zone.").arg(MostSymbols);
+            break;
+        }
+    }
+
+    const std::string root = scene.threeD ? "ThreeDAxis/" : "TwoDAxis/";
+    const char* names[] = {"XDetail", "YDetail", "ZDetail"};
+    for (int a = 0; a < scene.dims; ++a) {
+        Axis& axis = scene.axes[a];
+        axis.var = int(HostStyle::integer(root + names[a] + "/VarNum"));
+        axis.name = takeString(OrrUtilVarGetName(axis.var));
+        if (axis.name.isEmpty()) {
+            scene.problem = tr("Choose the axis variables (Dialogs > Axis Variables).");
+            return scene;
+        }
+        axis.categories = namedCategories(axis.var);
+        axis.log = !scene.threeD && HostStyle::flag(root + names[a] + "/IsLog");
+    }
+    for (Zone& z : scene.zones)
+        for (int a = 0; a < scene.dims; ++a)
+            z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
+    for (int a = 0; a < scene.dims; ++a) {
+        Axis& axis = scene.axes[a];
+        if (!rangeOf(scene, axis.var, axis.log, axis.min, axis.max)) {
+            if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max)) {
+                scene.notes << tr("%1 has no positive values: its axis is linear.").arg(axis.name);
+                axis.log = false;
+            } else {
+                scene.problem = tr("Nothing to draw: %1 has no values in the points chosen.").arg(axis.name);
+                return scene;
+            }
+        }
+    }
+
+    const int chosen = int(HostStyle::integer("GlobalContour/Var"));
+    scene.contour.var = chosen ? chosen : automaticContourVar(scene);
+    scene.contour.map = int(HostStyle::integer("GlobalContour/ColorMap"));
+    scene.contourName = takeString(OrrUtilVarGetName(scene.contour.var));
+    scene.contourCategories = namedCategories(scene.contour.var);
+    if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max))
+        scene.contour.min = scene.contour.max = 0.0;
+
+    scene.vectors = !scene.lines && HostStyle::flag("FieldLayers/ShowVector");
+    const std::string vectorRoot = scene.threeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
+    const char* components[] = {"UVar", "VVar", "WVar"};
+    for (int c = 0; c < scene.dims; ++c)
+        scene.vectorVars[c] = int(HostStyle::integer(vectorRoot + components[c]));
+    scene.sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
+    scene.relativeSize = HostStyle::number("GlobalScatter/RelativeSize", -1, 1.0);
+    scene.sizeInCm = !HostStyle::flag("GlobalScatter/RelativeSizeInGridUnits", -1, true);
+    scene.mediumPercent = HostStyle::number("BasicSize/SymbolSizes/Medium", -1, 2.5);
+    scene.symbol = QString::fromStdString(HostStyle::text("GlobalScatter/Symbol"));
+    return scene;
+}

@@ -1,0 +1,80 @@
+#pragma once
+#include <algorithm>
+#include <string>
+#include <vector>
+#include <QString>
+#include <QStringList>
+#include "demo/PointColours.h"
+
+// What the current frame asks to be drawn, read from the host in one go: the
+// axes with the range of the values to be drawn, the zones and their layers,
+// the colouring, title, symbol and index range.
+struct PlotScene
+{
+    struct Axis
+    {
+        int var = 0;
+        QString name;
+        double min = 0.0;
+        double max = 1.0;
+        bool log = false;
+        std::vector<std::string> categories; // named values 1, 2, ... when few
+    };
+    struct Zone
+    {
+        int zone = 0;
+        QString name;
+        long points = 0;
+        const double* values[3] = {nullptr, nullptr, nullptr};
+        int meshColour = 0;
+        int scatterColour = 0;
+        bool mesh = false;
+        bool scatter = false;
+        bool faded = false; // another zone is picked out
+    };
+
+    bool threeD = false;
+    bool lines = false;
+    int dims = 2;
+    Axis axes[3];
+    QString title;
+    int anchor = 1;
+    long begin = 1, end = 0, skip = 1;
+    PointColours::Contour contour;
+    QString contourName;
+    std::vector<std::string> contourCategories;
+    bool vectors = false;
+    int vectorVars[3] = {0, 0, 0};
+    int sizeVar = 0;
+    double relativeSize = 1.0;
+    bool sizeInCm = false;
+    double mediumPercent = 2.5;
+    QString symbol;
+    std::vector<Zone> zones;
+    // Why nothing can be drawn; empty when something can.
+    QString problem;
+    // What is drawn otherwise than the style asks, one line each.
+    QStringList notes;
+
+    // Symbols beyond this many in a zone would hide the data they mark.
+    static constexpr long MostSymbols = 20000;
+
+    static PlotScene fromHost();
+
+    // Calls visit(i) for every point index of a zone of `points` within the chosen range.
+    // How many of a zone's `points` are within the chosen range.
+    long countIn(long points) const
+    {
+        const long last = end > 0 ? std::min(end, points) : points;
+        return last >= begin ? (last - begin) / skip + 1 : 0;
+    }
+    template <typename Visit>
+    void forEachIndex(long points, const Visit& visit) const
+    {
+        const long last = end > 0 ? std::min(end, points) : points;
+        for (long i = begin - 1; i < last; i += skip)
+            visit(i);
+    }
+    bool anyScatter() const;
+    bool anyRamp() const;
+};

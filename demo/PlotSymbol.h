@@ -1,0 +1,18 @@
+#pragma once
+#include <QFont>
+#include <QPainterPath>
+
+class QPainter;
+
+// A scatter symbol: a disc, or a character drawn as an outline so that
+// thousands of them cost one glyph lookup.
+class PlotSymbol
+{
+public:
+    PlotSymbol(const QString& character, const QFont& font);
+
+    void draw(QPainter& painter, const QPointF& centre, double radius, const QColor& colour) const;
+
+private:
+    QPainterPath m_glyph; // centred on the origin, one unit high; empty for a disc
+};
