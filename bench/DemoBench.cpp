@@ -1,6 +1,7 @@
 // The demo host's two heavy paths beside their baselines, in one run:
-//  - the plot's redraw of 1,000,000 points beside QPainter::drawPoints of the
-//    same points into an image of the same size;
+//  - the plot's redraw of 1,000,000 and 10,000,000 points, and a zoom step at
+//    1,000,000, beside QPainter::drawPoints of the same points into an image
+//    of the same size;
 //  - loading a legacy VTK file beside a plain read of the same file, with the
 //    peak heap of each as a multiple of the data held as doubles;
 //  - replaying a journal of 100,000 style changes in the demo's window (its
@@ -80,44 +81,63 @@ void operator delete[](void* p, std::size_t) noexcept
 
 namespace {
 
-const int Points = 1000000;
 const QSize ImageSize(1000, 800);
 
-void putMillionPoints()
+// Uniformly scattered points in one zone; state.range(0) of them.
+void putPoints(long count)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    std::vector<std::vector<double>> values(2, std::vector<double>(Points));
-    for (int i = 0; i < Points; ++i) {
+    std::vector<std::vector<double>> values(2, std::vector<double>(size_t(count)));
+    for (long i = 0; i < count; ++i) {
         values[0][size_t(i)] = unit(random);
         values[1][size_t(i)] = unit(random);
     }
-    orrery::kernel::DataSet data("Million", {"X", "Y"});
+    orrery::kernel::DataSet data("Cloud", {"X", "Y"});
     data.addZone("Cloud", values);
     KernelDriver::resetKernel();
     KernelDriver::setDataSet(data);
 }
 
-void PlotRedrawMillionPoints(benchmark::State& state)
+void PlotRedraw(benchmark::State& state)
 {
-    putMillionPoints();
+    putPoints(state.range(0));
     PlotView view;
     QImage image(ImageSize, QImage::Format_RGB32);
     for (auto _ : state) {
         view.render(image);
         benchmark::DoNotOptimize(image.constBits());
     }
-    state.counters["points/s"] = benchmark::Counter(double(Points), benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["points/s"] =
+        benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
 }
-BENCHMARK(PlotRedrawMillionPoints)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlotRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
 
-// The same points, already in pixels, drawn with the pen the plot uses for
-// many points, after the same white fill.
-void BaselineDrawPointsMillion(benchmark::State& state)
+// One wheel notch in and one out about the centre, each drawn as the view draws after it.
+void PlotZoomStep(benchmark::State& state)
+{
+    putPoints(state.range(0));
+    PlotView view;
+    view.resize(ImageSize);
+    QImage image(ImageSize, QImage::Format_RGB32);
+    view.render(image);
+    view.grab(); // the geometry a zoom works from
+    bool in = true;
+    for (auto _ : state) {
+        view.zoomAt(QPointF(500, 400), in ? 1.25 : 0.8);
+        in = !in;
+        view.render(image);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+BENCHMARK(PlotZoomStep)->Arg(1000000)->Unit(benchmark::kMillisecond);
+
+// The same points, already in pixels, drawn with a one-pixel pen after the same white fill.
+void BaselineDrawPoints(benchmark::State& state)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    std::vector<QPointF> points(Points);
+    std::vector<QPointF> points(size_t(state.range(0)));
     for (QPointF& p : points)
         p = QPointF(70 + unit(random) * (ImageSize.width() - 94), 30 + unit(random) * (ImageSize.height() - 80));
     QImage image(ImageSize, QImage::Format_RGB32);
@@ -129,9 +149,10 @@ void BaselineDrawPointsMillion(benchmark::State& state)
         painter.end();
         benchmark::DoNotOptimize(image.constBits());
     }
-    state.counters["points/s"] = benchmark::Counter(double(Points), benchmark::Counter::kIsIterationInvariantRate);
+    state.counters["points/s"] =
+        benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
 }
-BENCHMARK(BaselineDrawPointsMillion)->Unit(benchmark::kMillisecond);
+BENCHMARK(BaselineDrawPoints)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
 
 // A binary structured grid of double coordinates and one double scalar: 32
 // bytes a point in the file and four doubles a point in the data set.

@@ -22,7 +22,7 @@ const double Pi = 3.14159265358979323846;
 const double LongestArrowPx = 32.0; // vectors are scaled so that the longest is this long
 const double CmInPixels = 96.0 / 2.54;
 // Space between neighbouring tick labels, in line heights: enough for the eye to tell them apart.
-const double XGap = 1.5, YGap = 1.6;
+const double XGap = 2.0, YGap = 2.2;
 
 QString tr(const char* text)
 {
@@ -204,9 +204,9 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         }
         // The widest Y label decides the left margin; the last X label may reach into the right one.
         geometry.plot = area.adjusted(0, top, 0, -bottom);
-        const AxisTicks::Scale yScale =
-            scaleFor(scene.axes[1], geometry, 1, geometry.plot.height(), [em](const QString&) { return em; },
-                     YGap * em, [](const QString&, double) { return QString(); });
+        const AxisTicks::Scale yScale = scaleFor(
+            scene.axes[1], geometry, 1, geometry.plot.height(), [em](const QString&) { return em; }, YGap * em,
+            [](const QString&, double) { return QString(); });
         double labels = 0.0;
         for (const AxisTicks::Tick& tick : yScale.ticks)
             labels = std::max(labels, metrics.horizontalAdvance(tick.label));
@@ -341,14 +341,12 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
     painter.restore();
 }
 
-void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Projection& p,
-                              const PlotScene& scene) const
+void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Projection& p, const PlotScene& scene) const
 {
     painter.save();
     painter.setClipRect(clip);
     const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
-    const double baseRadius =
-        std::max(2.0, scene.mediumPercent / 100.0 * std::min(clip.height(), clip.width()) / 2.0);
+    const double baseRadius = std::max(2.0, scene.mediumPercent / 100.0 * std::min(clip.height(), clip.width()) / 2.0);
     const double largestRadius = std::max(baseRadius, std::min(clip.width(), clip.height()) / 12.0);
     const PlotSymbol symbol(scene.symbol, painter.font());
     double longestArrow = 0.0;
@@ -391,8 +389,8 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                 open ? path.lineTo(q) : path.moveTo(q);
                 open = true;
             }
-            painter.setPen(QPen(QColor(faded(mesh.fixed(), zone.faded)), 2, Qt::SolidLine, Qt::RoundCap,
-                                Qt::RoundJoin));
+            painter.setPen(
+                QPen(QColor(faded(mesh.fixed(), zone.faded)), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
             painter.setBrush(Qt::NoBrush);
             painter.drawPath(path);
             // A lone point between gaps is still a value: a dot marks it.
@@ -415,9 +413,9 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                         raster.add(q.x(), q.y(), mesh.ramped() ? mesh.valueAt(i) : -1.0);
                 });
                 const int map = scene.contour.map;
-                painter.drawImage(clip.topLeft(),
-                                  raster.image(faded(mesh.fixed(), zone.faded),
-                                               [&](double t) { return faded(ColourRamp::at(map, t), zone.faded); }));
+                painter.drawImage(clip.topLeft(), raster.image(faded(mesh.fixed(), zone.faded), [&](double t) {
+                    return faded(ColourRamp::at(map, t), zone.faded);
+                }));
             } else {
                 // Points grouped by colour (4 bits a channel) so that each group is one call.
                 std::vector<std::vector<QPointF>> groups(mesh.varies() ? 4096 : 1);
@@ -465,7 +463,8 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                     radius = largest > 0 ? unit * std::abs(sizes[i]) / largest : baseRadius;
                 }
                 ++count;
-                symbol.draw(painter, q, std::clamp(radius, 1.0, largestRadius), QColor(faded(colours.at(i), zone.faded)));
+                symbol.draw(painter, q, std::clamp(radius, 1.0, largestRadius),
+                            QColor(faded(colours.at(i), zone.faded)));
             });
             painter.setBrush(Qt::NoBrush);
         }
@@ -524,11 +523,12 @@ void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF
     const int column = scene.anchor % 3, row = scene.anchor / 3;
     const Qt::Alignment horizontal = column == 0 ? Qt::AlignLeft : column == 1 ? Qt::AlignHCenter : Qt::AlignRight;
     const QString text = metrics.elidedText(scene.title, Qt::ElideRight, area.width() - 8);
-    const double y = row == 0 ? area.top() + height * 0.25
+    const double y = row == 0   ? area.top() + height * 0.25
                      : row == 1 ? plot.center().y() - height / 2
                                 : area.bottom() - height * 1.25;
     const QRectF band(row == 1 ? plot.left() + 6 : std::min(plot.left(), area.left() + 4), y,
-                      row == 1 ? plot.width() - 12 : std::max(plot.right(), area.right() - 4) - std::min(plot.left(), area.left() + 4),
+                      row == 1 ? plot.width() - 12
+                               : std::max(plot.right(), area.right() - 4) - std::min(plot.left(), area.left() + 4),
                       height);
     if (row == 1) { // over the data: on a pale box so that it stays readable
         const double w = metrics.horizontalAdvance(text) + 8;

@@ -14,7 +14,7 @@ const int RGBColoring = -6;
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("PlotPainter", text);
+    return QCoreApplication::translate("PlotScene", text);
 }
 
 QString takeString(char* text)

@@ -88,6 +88,7 @@ bool PlotView::setWindow(const PlotWindow& window)
             return false;
     }
     m_window = window;
+    m_geometry.shown = window; // the next zoom or pan works from here, drawn or not
     invalidate();
     return true;
 }
@@ -162,10 +163,10 @@ void PlotView::mouseMoveEvent(QMouseEvent* event)
     const QPointF at = position(event);
     if (m_geometry.navigable && m_geometry.plot.contains(at))
         Q_EMIT pointerMoved(QString("%1 = %2, %3 = %4")
-                              .arg(m_geometry.names[0])
-                              .arg(m_geometry.toValue(0, at.x()), 0, 'g', 6)
-                              .arg(m_geometry.names[1])
-                              .arg(m_geometry.toValue(1, at.y()), 0, 'g', 6));
+                                .arg(m_geometry.names[0])
+                                .arg(m_geometry.toValue(0, at.x()), 0, 'g', 6)
+                                .arg(m_geometry.names[1])
+                                .arg(m_geometry.toValue(1, at.y()), 0, 'g', 6));
     else
         Q_EMIT pointerMoved(QString());
     if (!(event->buttons() & Qt::LeftButton))

@@ -240,6 +240,21 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     </message>
 </context>
 <context>
+    <name>ColourRamp</name>
+    <message>
+        <source>Perceptual (violet to yellow)</source>
+        <translation>Wahrnehmungsgleich (Violett bis Gelb)</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Rainbow (blue to red)</source>
+        <translation>Regenbogen (Blau bis Rot)</translation>
+    </message>
+</context>
+<context>
     <name>DialogCatalog</name>
     <message>
         <source>Title of the new frame:</source>
@@ -416,6 +431,54 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>wrote %1</source>
         <translation>geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>the plot is unchanged: %1</source>
+        <translation>der Plot bleibt unverändert: %1</translation>
+    </message>
+    <message>
+        <source>no zone is coloured by RGB yet: choose RGB in the Color Chooser</source>
+        <translation>noch ist keine Zone nach RGB gefärbt: RGB in der Farbauswahl wählen</translation>
+    </message>
+    <message>
+        <source>the plot&apos;s title is &quot;%1&quot;</source>
+        <translation>der Titel des Plots ist „%1“</translation>
+    </message>
+    <message>
+        <source>points %1 to %2 of each zone are drawn, every %3</source>
+        <translation>Punkte %1 bis %2 jeder Zone werden gezeichnet, in Schritten von %3</translation>
+    </message>
+    <message>
+        <source>the scatter symbols are &quot;%1&quot;</source>
+        <translation>die Streusymbole sind „%1“</translation>
+    </message>
+    <message>
+        <source>the title is placed by the anchor chosen</source>
+        <translation>der Titel steht am gewählten Ankerpunkt</translation>
+    </message>
+    <message>
+        <source>the plot is unchanged: a loader reads a file when one is opened</source>
+        <translation>der Plot bleibt unverändert: ein Lader liest eine Datei, wenn sie geöffnet wird</translation>
+    </message>
+    <message>
+        <source>vectors are shown</source>
+        <translation>Vektoren werden gezeigt</translation>
+    </message>
+    <message>
+        <source>the plot is unchanged: the add-on&apos;s inputs are its own</source>
+        <translation>der Plot bleibt unverändert: die Eingaben gehören dem Add-on</translation>
+    </message>
+    <message>
+        <source>zone %1 is picked out, the others are pale</source>
+        <translation>Zone %1 ist hervorgehoben, die anderen sind blass</translation>
+    </message>
+    <message>
+        <source>the points of zone %1 are coloured %2</source>
+        <translation>die Punkte von Zone %1 sind %2 gefärbt</translation>
+    </message>
+    <message>
+        <source>symbols are hidden: View &gt; Show Scatter Symbols shows them</source>
+        <translation>Symbole sind ausgeblendet: Ansicht &gt; Streusymbole zeigen blendet sie ein</translation>
     </message>
 </context>
 <context>
@@ -1456,6 +1519,122 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     </message>
 </context>
 <context>
+    <name>PlotExport</name>
+    <message>
+        <source>Cannot export the plot to %1: %2</source>
+        <translation>Der Plot kann nicht nach %1 exportiert werden: %2</translation>
+    </message>
+    <message>
+        <source>the picture has no size</source>
+        <translation>das Bild hat keine Größe</translation>
+    </message>
+    <message>
+        <source>the PNG could not be written</source>
+        <translation>das PNG konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>A plot drawn by %1</source>
+        <translation>Ein Plot, gezeichnet von %1</translation>
+    </message>
+    <message>
+        <source>the %1 could not be started</source>
+        <translation>das %1 konnte nicht begonnen werden</translation>
+    </message>
+    <message>
+        <source>the extension must be .png, .svg or .pdf</source>
+        <translation>die Endung muss .png, .svg oder .pdf sein</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png);;SVG drawing (*.svg);;PDF document (*.pdf)</source>
+        <translation>PNG-Bild (*.png);;SVG-Zeichnung (*.svg);;PDF-Dokument (*.pdf)</translation>
+    </message>
+</context>
+<context>
+    <name>PlotMenus</name>
+    <message>
+        <source>&amp;Export Plot...</source>
+        <translation>Plot &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Plot</source>
+        <translation>Plot &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Data</source>
+        <translation>&amp;Alle Daten zeigen</translation>
+    </message>
+    <message>
+        <source>Undo the zoom and pan of the plot (Home in the plot)</source>
+        <translation>Zoom und Verschiebung des Plots zurücknehmen (Pos1 im Plot)</translation>
+    </message>
+    <message>
+        <source>Logarithmic &amp;X Axis</source>
+        <translation>Logarithmische &amp;X-Achse</translation>
+    </message>
+    <message>
+        <source>Logarithmic &amp;Y Axis</source>
+        <translation>Logarithmische &amp;Y-Achse</translation>
+    </message>
+    <message>
+        <source>&amp;Color Points By</source>
+        <translation>Punkte &amp;färben nach</translation>
+    </message>
+    <message>
+        <source>Color &amp;Map</source>
+        <translation>Farb&amp;skala</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic (the first varying variable off the axes)</source>
+        <translation>&amp;Automatisch (die erste veränderliche Variable außerhalb der Achsen)</translation>
+    </message>
+    <message>
+        <source>Export Plot</source>
+        <translation>Plot exportieren</translation>
+    </message>
+    <message>
+        <source>Exported the plot to %1</source>
+        <translation>Plot nach %1 exportiert</translation>
+    </message>
+    <message>
+        <source>Copied the plot to the clipboard</source>
+        <translation>Plot in die Zwischenablage kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>PlotPainter</name>
+    <message>
+        <source>No data set: open a file or a sample.</source>
+        <translation>Kein Datensatz: Öffnen Sie eine Datei oder ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>Too small for a plot</source>
+        <translation>Zu klein für einen Plot</translation>
+    </message>
+</context>
+<context>
+    <name>PlotScene</name>
+    <message>
+        <source>Plot type %1 shows no data in this demo.</source>
+        <translation>Plottyp %1 zeigt in dieser Demo keine Daten.</translation>
+    </message>
+    <message>
+        <source>Symbols are drawn for the first %1 points of a zone.</source>
+        <translation>Symbole werden für die ersten %1 Punkte einer Zone gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Choose the axis variables (Dialogs &gt; Axis Variables).</source>
+        <translation>Wählen Sie die Achsenvariablen (Dialoge &gt; Achsenvariablen).</translation>
+    </message>
+    <message>
+        <source>%1 has no positive values: its axis is linear.</source>
+        <translation>%1 hat keine positiven Werte: seine Achse ist linear.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw: %1 has no values in the points chosen.</source>
+        <translation>Nichts zu zeichnen: %1 hat in den gewählten Punkten keine Werte.</translation>
+    </message>
+</context>
+<context>
     <name>PlotView</name>
     <message>
         <source>The plot cannot be drawn: %1</source>
@@ -1471,18 +1650,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>No data set: open a file or a sample.</source>
-        <translation>Kein Datensatz: Öffnen Sie eine Datei oder ein Beispiel.</translation>
-    </message>
-    <message>
-        <source>Plot type %1 shows no data in this demo.</source>
-        <translation>Plottyp %1 zeigt in dieser Demo keine Daten.</translation>
-    </message>
-    <message>
-        <source>Choose the axis variables (Dialogs &gt; Axis Variables).</source>
-        <translation>Wählen Sie die Achsenvariablen (Dialoge &gt; Achsenvariablen).</translation>
     </message>
 </context>
 <context>

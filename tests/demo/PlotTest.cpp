@@ -1,0 +1,189 @@
+#include <cmath>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include "demo/DemoUser.h"
+#include "demo/DialogCatalog.h"
+#include "demo/MainWindow.h"
+#include "demo/PlotExport.h"
+#include "demo/PlotView.h"
+#include "host/kernel/DataSet.h"
+#include "host/kernel/OrrUtilHost.h"
+#include "tests/support/RecordingDevice.h"
+#include "tests/support/TestSupport.h"
+
+using testsupport::Drawn;
+using testsupport::Kernel;
+using testsupport::RecordingDevice;
+using testsupport::SampleKernelTest;
+
+namespace {
+
+const QSize Size(800, 600);
+
+Drawn drawn(const PlotView& view)
+{
+    RecordingDevice device(Size);
+    QPainter painter(&device);
+    view.render(painter, QRectF(QPointF(0, 0), QSizeF(Size)));
+    painter.end();
+    return device.record();
+}
+
+QRgb colourOf(int index)
+{
+    unsigned char r, g, b;
+    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
+    return qRgb(r, g, b);
+}
+
+class Plot : public SampleKernelTest
+{
+protected:
+    // Runs a dialog of the Dialogs menu as the tour does: driven, then closed with its button.
+    QString run(MainWindow& window, const char* name)
+    {
+        for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
+            if (entry.name == name)
+                return window.runDialog(entry, [&entry](DialogCatalog::Dialog& dialog) {
+                    entry.drive(dialog);
+                    DemoUser::press(dialog, entry.closeWith);
+                });
+        ADD_FAILURE() << name;
+        return QString();
+    }
+    long pointsInRange(long begin, long end, long skip)
+    {
+        long total = 0;
+        for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone) {
+            const long last = std::min(end, long(OrrUtilZoneGetNumPoints(zone)));
+            total += last >= begin ? (last - begin) / skip + 1 : 0;
+        }
+        return total;
+    }
+};
+
+TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    const Drawn start = drawn(view);
+    EXPECT_EQ(pointsInRange(1, 1000000, 1), start.points);
+
+    run(window, "Text String...");
+    EXPECT_TRUE(drawn(view).drewText("Pressure over time"));
+
+    run(window, "Three Integer Values...");
+    EXPECT_EQ(pointsInRange(1, 250, 5), drawn(view).points);
+
+    run(window, "ASCII Character...");
+    EXPECT_GE(drawn(view).shapes, pointsInRange(1, 250, 5)) << "a symbol for every point drawn";
+
+    run(window, "Anchor Alignment...");
+    const Drawn::Text* title = drawn(view).textStarting("Pressure over time");
+    ASSERT_NE(title, nullptr);
+    EXPECT_LT(title->at.x(), Size.width() / 4.0) << "the title goes to the top left";
+
+    run(window, "Select Zone...");
+    const QRgb pale = qRgb(192, 192, 192); // black, three quarters of the way to white
+    EXPECT_EQ(0u, start.colours.count(pale));
+    EXPECT_EQ(1u, drawn(view).colours.count(pale));
+
+    const QString picked = run(window, "Color Chooser...");
+    EXPECT_NE(-1, picked.indexOf("zone 2")) << picked.toStdString();
+    EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
+
+    run(window, "Color Chooser, Multi Color...");
+    const Drawn ramp = drawn(view);
+    EXPECT_GT(ramp.colours.size(), start.colours.size() + 5) << "points coloured along a map";
+
+    // Each answer was one undo step: undoing the colour brings back the custom colour.
+    OrrUtilUndoPerform();
+    EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
+}
+
+TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
+{
+    PlotView view;
+    QTemporaryDir folder;
+    QString error;
+    ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.png"), QSize(400, 300), 2.0, &error))
+        << error.toStdString();
+    const QImage png(folder.filePath("plot.png"));
+    EXPECT_EQ(QSize(800, 600), png.size()) << "twice the pixels at a ratio of 2";
+    EXPECT_NEAR(192.0, png.dotsPerMeterX() * 0.0254, 1.0);
+
+    ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.svg"), QSize(400, 300), 1.0, &error));
+    QFile svg(folder.filePath("plot.svg"));
+    ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+    const QByteArray drawing = svg.readAll();
+    EXPECT_TRUE(drawing.contains("<text")) << "texts stay text";
+    EXPECT_TRUE(drawing.contains(">0.5<")) << "a tick label of Y";
+
+    ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.pdf"), QSize(400, 300), 1.0, &error));
+    QFile pdf(folder.filePath("plot.pdf"));
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pdf.read(5) == "%PDF-");
+
+    EXPECT_FALSE(PlotExport::write(view, folder.filePath("plot.gif"), QSize(400, 300), 1.0, &error));
+    EXPECT_NE(-1, error.indexOf(".png, .svg or .pdf"));
+    EXPECT_FALSE(PlotExport::write(view, folder.filePath("missing/plot.png"), QSize(400, 300), 1.0, &error));
+    EXPECT_NE(-1, error.indexOf("missing/plot.png"));
+    EXPECT_FALSE(QFile::exists(folder.filePath("missing/plot.png")));
+}
+
+TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
+{
+    PlotView view;
+    view.resize(Size);
+    view.grab();
+    ASSERT_TRUE(view.geometry().navigable);
+    const QPointF cursor(300, 200);
+    const double x = view.geometry().toValue(0, cursor.x()), y = view.geometry().toValue(1, cursor.y());
+    const PlotWindow before0 = view.geometry().shown;
+    view.zoomAt(cursor, 4.0);
+    view.grab();
+    EXPECT_TRUE(view.zoomed());
+    // Within the few pixels by which the new tick labels may move the axes.
+    EXPECT_NEAR(cursor.x(), view.geometry().toPixel(0, x), 8.0);
+    EXPECT_NEAR(cursor.y(), view.geometry().toPixel(1, y), 8.0);
+    EXPECT_LT(view.geometry().shown.max[0] - view.geometry().shown.min[0], 0.3 * (before0.max[0] - before0.min[0]));
+
+    const PlotWindow before = view.geometry().shown;
+    for (double width : {1e-300, 1e300, 0.0, std::nan("1")}) {
+        PlotWindow window = before;
+        window.max[0] = window.min[0] + width;
+        EXPECT_FALSE(view.setWindow(window)) << width;
+    }
+    EXPECT_EQ(before.max[0], view.geometry().shown.max[0]);
+    view.resetWindow();
+    EXPECT_FALSE(view.zoomed());
+}
+
+TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
+{
+    PlotView view;
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    // A constant, a single point and a column with no values at all.
+    orrery::kernel::DataSet data("Odd", {"Constant", "Single", "Missing"});
+    data.addZone("One", {{5.0, 5.0, 5.0}, {1.0, nan, nan}, {nan, nan, nan}});
+    Kernel::setDataSet(data);
+    Kernel::setStyle({"TwoDAxis", "XDetail", "VarNum"}, 1L);
+    Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 2L);
+    const Drawn single = drawn(view);
+    EXPECT_EQ(1, single.points);
+    Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 3L);
+    EXPECT_NE(nullptr, drawn(view).textStarting("Nothing to draw: Missing")) << "the plot says why it is empty";
+
+    // An XY line with a missing value keeps the rest, with a gap.
+    Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 2L);
+    Kernel::setPlotType(PlotType_XYLine);
+    EXPECT_EQ(1, drawn(view).points) << "a lone value between gaps still shows";
+
+    // A window of one pixel draws a message, not a plot squeezed to nothing.
+    QImage tiny(1, 1, QImage::Format_RGB32);
+    view.render(tiny);
+}
+
+} // namespace
