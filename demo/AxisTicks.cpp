@@ -48,8 +48,8 @@ double coverageMax(double dmin, double dmax, double span)
 
 double density(int k, int m, double dmin, double dmax, double lmin, double lmax)
 {
-    const double ratio = (double(k - 1) * (std::max(lmax, dmax) - std::min(dmin, lmin)))
-                         / (double(m - 1) * (lmax - lmin));
+    const double ratio =
+        (double(k - 1) * (std::max(lmax, dmax) - std::min(dmin, lmin))) / (double(m - 1) * (lmax - lmin));
     return 2.0 - std::max(ratio, 1.0 / ratio);
 }
 
@@ -229,7 +229,8 @@ AxisTicks::Scale AxisTicks::fitLog(double min, double max, double length, const 
         scale.ticks.clear();
         for (int e = first; e <= last; e += stride) {
             const bool plain = e >= -3 && e <= 5;
-            scale.ticks.push_back({std::pow(10.0, e), plain ? fixed(std::pow(10.0, e), std::max(0, -e)) : powerOfTen(e)});
+            scale.ticks.push_back(
+                {std::pow(10.0, e), plain ? fixed(std::pow(10.0, e), std::max(0, -e)) : powerOfTen(e)});
         }
         if (scale.ticks.size() <= 2 || fits(scale, position, extent, gap))
             return scale;

@@ -47,7 +47,8 @@ public:
     // One tick per category in range; a name is shortened only where it would
     // run into its neighbour's.
     static Scale categories(double min, double max, const std::vector<std::string>& names, const Position& position,
-                            const Extent& extent, double gap, const std::function<QString(const QString&, double)>& elide);
+                            const Extent& extent, double gap,
+                            const std::function<QString(const QString&, double)>& elide);
 
     // True when no two neighbouring labels overlap (each centred on its tick).
     static bool fits(const Scale& scale, const Position& position, const Extent& extent, double gap);

@@ -323,7 +323,7 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
         const bool accepted = dialog->result() == QDialog::Accepted;
         line = QString("%1: %2, %3")
                    .arg(DialogCatalog::title(entry),
-                        accepted  ? tr("accepted")
+                        accepted   ? tr("accepted")
                         : modeless ? tr("closed")
                                    : tr("cancelled"),
                         entry.answers(*dialog));

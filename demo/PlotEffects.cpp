@@ -27,7 +27,9 @@ QString inOneStep(const char* stepName, const std::function<bool(std::string& er
     std::string error;
     const bool ok = writes(error);
     OrrUtilUndoStateEnd(!ok, true);
-    return ok ? done : text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot is unchanged: %1")).arg(QString::fromStdString(error));
+    return ok ? done
+              : text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot is unchanged: %1"))
+                    .arg(QString::fromStdString(error));
 }
 
 bool anyZone(const std::function<bool(int zone)>& test)
@@ -41,8 +43,10 @@ bool anyZone(const std::function<bool(int zone)>& test)
 bool anyRGB()
 {
     return anyZone([](int zone) {
-        return (HostStyle::flag("FieldMap/Mesh/Show", zone, true) && HostStyle::integer("FieldMap/Mesh/Color", zone) == RGBColoring)
-               || (HostStyle::flag("FieldMap/Scatter/Show", zone) && HostStyle::integer("FieldMap/Scatter/Color", zone) == RGBColoring);
+        return (HostStyle::flag("FieldMap/Mesh/Show", zone, true)
+                && HostStyle::integer("FieldMap/Mesh/Color", zone) == RGBColoring)
+               || (HostStyle::flag("FieldMap/Scatter/Show", zone)
+                   && HostStyle::integer("FieldMap/Scatter/Color", zone) == RGBColoring);
     });
 }
 
@@ -79,44 +83,48 @@ QString PlotEffects::symbolFor(const std::string& typed, int typeFace)
 QString PlotEffects::frameTitle(EnterTextStringDialog& d)
 {
     const std::string title = d.text().toStdString();
-    return inOneStep("Frame Title", [&](std::string& error) { return HostStyle::setText("FrameLayout/Title", title, &error); },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot's title is \"%1\"")).arg(d.text()));
+    return inOneStep(
+        "Frame Title", [&](std::string& error) { return HostStyle::setText("FrameLayout/Title", title, &error); },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot's title is \"%1\"")).arg(d.text()));
 }
 
 QString PlotEffects::indexRange(EnterThreeIntValuesDialog& d)
 {
-    return inOneStep("Index Range",
-                     [&](std::string& error) {
-                         return HostStyle::setInteger("IndexRange/Begin", d.value1(), &error)
-                                && HostStyle::setInteger("IndexRange/End", d.value2(), &error)
-                                && HostStyle::setInteger("IndexRange/Skip", d.value3(), &error);
-                     },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "points %1 to %2 of each zone are drawn, every %3"))
-                         .arg(d.value1())
-                         .arg(d.value2())
-                         .arg(d.value3()));
+    return inOneStep(
+        "Index Range",
+        [&](std::string& error) {
+            return HostStyle::setInteger("IndexRange/Begin", d.value1(), &error)
+                   && HostStyle::setInteger("IndexRange/End", d.value2(), &error)
+                   && HostStyle::setInteger("IndexRange/Skip", d.value3(), &error);
+        },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "points %1 to %2 of each zone are drawn, every %3"))
+            .arg(d.value1())
+            .arg(d.value2())
+            .arg(d.value3()));
 }
 
 QString PlotEffects::scatterSymbol(EnterASCIICharacterDialog& d)
 {
     const QString symbol = symbolFor(d.selectedChar(), d.typeFaceOverride());
-    return inOneStep("Scatter Symbol",
-                     [&](std::string& error) {
-                         bool ok = HostStyle::setText("GlobalScatter/Symbol", symbol.toStdString(), &error);
-                         for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
-                             ok = HostStyle::setFlag("FieldMap/Scatter/Show", true, &error, zone);
-                         return ok;
-                     },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "the scatter symbols are \"%1\"")).arg(symbol));
+    return inOneStep(
+        "Scatter Symbol",
+        [&](std::string& error) {
+            bool ok = HostStyle::setText("GlobalScatter/Symbol", symbol.toStdString(), &error);
+            for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
+                ok = HostStyle::setFlag("FieldMap/Scatter/Show", true, &error, zone);
+            return ok;
+        },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "the scatter symbols are \"%1\"")).arg(symbol));
 }
 
 QString PlotEffects::titleAnchor(AnchorAlignmentDialog& d)
 {
-    return inOneStep("Title Position",
-                     [&](std::string& error) {
-                         return HostStyle::setInteger("FrameLayout/TitleAnchor", d.selectedAlignment(), &error);
-                     },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "the title is placed by the anchor chosen")));
+    return inOneStep(
+        "Title Position",
+        [&](std::string& error) {
+            return HostStyle::setInteger("FrameLayout/TitleAnchor", d.selectedAlignment(), &error);
+        },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "the title is placed by the anchor chosen")));
 }
 
 QString PlotEffects::loader(ChooseLoaderDialog&)
@@ -134,9 +142,9 @@ QString PlotEffects::vectors(VariableSelectDialog&)
 {
     if (HostStyle::flag("FieldLayers/ShowVector"))
         return QString();
-    return inOneStep("Show Vectors",
-                     [](std::string& error) { return HostStyle::setFlag("FieldLayers/ShowVector", true, &error); },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "vectors are shown")));
+    return inOneStep(
+        "Show Vectors", [](std::string& error) { return HostStyle::setFlag("FieldLayers/ShowVector", true, &error); },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "vectors are shown")));
 }
 
 QString PlotEffects::rgbChannels(VariableSelectDialog&)
@@ -152,22 +160,24 @@ QString PlotEffects::addon(AddonsVariableSelectDialog&)
 QString PlotEffects::activeZone(ZoneSelectDialog& d)
 {
     const int zone = d.selectedZone();
-    return inOneStep("Pick Out Zone",
-                     [&](std::string& error) { return HostStyle::setInteger("FrameLayout/ActiveZone", zone, &error); },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "zone %1 is picked out, the others are pale")).arg(zone));
+    return inOneStep(
+        "Pick Out Zone",
+        [&](std::string& error) { return HostStyle::setInteger("FrameLayout/ActiveZone", zone, &error); },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "zone %1 is picked out, the others are pale")).arg(zone));
 }
 
 QString PlotEffects::zoneColour(ColorChooserDialog& d)
 {
     const int zone = currentZone(), colour = d.selectedColor();
-    return inOneStep("Zone Color",
-                     [&](std::string& error) {
-                         return HostStyle::setInteger("FieldMap/Mesh/Color", colour, &error, zone)
-                                && HostStyle::setInteger("FieldMap/Scatter/Color", colour, &error, zone);
-                     },
-                     text(QT_TRANSLATE_NOOP("DialogCatalog", "the points of zone %1 are coloured %2"))
-                         .arg(zone)
-                         .arg(ColorChooserDialog::colorDisplayName(colour, false)));
+    return inOneStep(
+        "Zone Color",
+        [&](std::string& error) {
+            return HostStyle::setInteger("FieldMap/Mesh/Color", colour, &error, zone)
+                   && HostStyle::setInteger("FieldMap/Scatter/Color", colour, &error, zone);
+        },
+        text(QT_TRANSLATE_NOOP("DialogCatalog", "the points of zone %1 are coloured %2"))
+            .arg(zone)
+            .arg(ColorChooserDialog::colorDisplayName(colour, false)));
 }
 
 QString PlotEffects::colourButton(ColorButtonDemoDialog&)
@@ -182,7 +192,7 @@ QString PlotEffects::rgbOptions(RGBColorOptsDialog&)
 
 QString PlotEffects::scatterSize(ScatterSizeFontDialog&)
 {
-    return anyScatter() ? QString()
-                        : text(QT_TRANSLATE_NOOP("DialogCatalog",
-                                                 "symbols are hidden: View > Show Scatter Symbols shows them"));
+    return anyScatter()
+               ? QString()
+               : text(QT_TRANSLATE_NOOP("DialogCatalog", "symbols are hidden: View > Show Scatter Symbols shows them"));
 }

@@ -26,7 +26,8 @@ struct PlotGeometry
 
     double toPixel(int a, double value) const
     {
-        const double t = (toAxis(a, value) - toAxis(a, shown.min[a])) / (toAxis(a, shown.max[a]) - toAxis(a, shown.min[a]));
+        const double t =
+            (toAxis(a, value) - toAxis(a, shown.min[a])) / (toAxis(a, shown.max[a]) - toAxis(a, shown.min[a]));
         return a == 0 ? plot.left() + t * plot.width() : plot.bottom() - t * plot.height();
     }
     double toValue(int a, double pixel) const

@@ -11,8 +11,8 @@
 
 namespace {
 
-const double Swatch = 12.0;  // side of a colour square
-const double Bar = 14.0;     // width of the colour bar
+const double Swatch = 12.0;   // side of a colour square
+const double Bar = 14.0;      // width of the colour bar
 const double MaxText = 160.0; // a name longer than this is shortened
 
 } // namespace
@@ -77,8 +77,8 @@ double PlotKey::paintColourBar(QPainter& painter, const QRectF& column) const
     painter.setPen(QColor(90, 90, 90));
     painter.drawRect(bar);
     const double min = m_scene.contour.min, max = m_scene.contour.max;
-    const AxisTicks::Scale scale =
-        AxisTicks::fit(min, max, bar.height(), [em](const QString&) { return em; }, em * 1.2);
+    const AxisTicks::Scale scale = AxisTicks::fit(
+        min, max, bar.height(), [em](const QString&) { return em; }, em * 1.2);
     painter.setPen(Qt::black);
     for (const AxisTicks::Tick& tick : scale.ticks) {
         const double y = max > min ? bar.bottom() - (tick.value - min) / (max - min) * bar.height() : bar.center().y();

@@ -56,8 +56,8 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
     plot.setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* separator = new QAction(this);
     separator->setSeparator(true);
-    plot.addActions({reset, m_log[0], m_log[1], colourBy->menuAction(), colourMap->menuAction(), separator,
-                     exportAction, copy});
+    plot.addActions(
+        {reset, m_log[0], m_log[1], colourBy->menuAction(), colourMap->menuAction(), separator, exportAction, copy});
 }
 
 void PlotMenus::refresh()
@@ -76,9 +76,9 @@ void PlotMenus::fillColourBy(QMenu& menu)
     for (int var = 0; var <= OrrUtilDataSetGetNumVars(); ++var) {
         if (var > 0 && !OrrUtilVarIsEnabled(var))
             continue;
-        QAction* action =
-            menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)") : takeString(OrrUtilVarGetName(var)),
-                           this, [this, var] { colourBy(var); });
+        QAction* action = menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)")
+                                                  : takeString(OrrUtilVarGetName(var)),
+                                         this, [this, var] { colourBy(var); });
         action->setCheckable(true);
         action->setChecked(var == chosen);
         if (var == 0)

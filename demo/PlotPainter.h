@@ -16,8 +16,7 @@ class PlotPainter
 public:
     PlotPainter(double yawDegrees, double pitchDegrees, const PlotWindow* window = nullptr)
         : m_yaw(yawDegrees), m_pitch(pitchDegrees), m_window(window)
-    {
-    }
+    {}
 
     // area in the painter's logical units; returns where the axes went.
     PlotGeometry paint(QPainter& painter, const QRectF& area) const;

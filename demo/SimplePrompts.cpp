@@ -30,11 +30,9 @@ QString yesNo(bool value)
 SimplePrompts::EnterTextStringDialog* SimplePrompts::openTextString(QWidget& parent)
 {
     const QString title = QString::fromStdString(HostStyle::text("FrameLayout/Title"));
-    auto* dialog = new EnterTextStringDialog(parent,
-                                             QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
-                                             title.isEmpty() ? QCoreApplication::translate("DialogCatalog", "Frame 1")
-                                                             : title,
-                                             "", false);
+    auto* dialog = new EnterTextStringDialog(
+        parent, QCoreApplication::translate("DialogCatalog", "Title of the new frame:"),
+        title.isEmpty() ? QCoreApplication::translate("DialogCatalog", "Frame 1") : title, "", false);
     dialog->setModal(true); // the host runs this prompt modally; it sets no modality itself
     return dialog;
 }
@@ -58,7 +56,8 @@ SimplePrompts::EnterThreeIntValuesDialog* SimplePrompts::openThreeInts(QWidget& 
     const long end = HostStyle::integer("IndexRange/End");
     return EnterThreeIntValuesDialog::getInstance(
         parent, HostStyle::integer("IndexRange/Begin", -1, 1), end > 0 ? end : points,
-        HostStyle::integer("IndexRange/Skip", -1, 1), Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
+        HostStyle::integer("IndexRange/Skip", -1, 1),
+        Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "Index Range")), "",
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Begin")),
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&End")),
         Translations::forDialog(QT_TRANSLATE_NOOP("DialogCatalog", "&Skip")), 1, 1, 1);

@@ -63,9 +63,9 @@ StyleSchema::StyleSchema()
 void StyleSchema::addPlotAnnotations()
 {
     add("FrameLayout/Title", {StyleType::String, std::string(), {}}); // empty: the data set's title
-    add("FrameLayout/TitleAnchor", {StyleType::Long, long(AnchorAlignment_TopCenter),
-                                    rules::withinRange("Anchor alignment", AnchorAlignment_TopLeft,
-                                                       AnchorAlignment_BottomRight)});
+    add("FrameLayout/TitleAnchor",
+        {StyleType::Long, long(AnchorAlignment_TopCenter),
+         rules::withinRange("Anchor alignment", AnchorAlignment_TopLeft, AnchorAlignment_BottomRight)});
     add("FrameLayout/ActiveZone", {StyleType::Long, long(0), rules::zoneNumber()}); // 0: none
     addVariable("GlobalContour/Var", 0); // 0: the first variable not on an axis
     add("GlobalContour/ColorMap", {StyleType::Long, long(0), rules::withinRange("Colour map", 0, 2)});
