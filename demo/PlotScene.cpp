@@ -2,11 +2,14 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
+#include <tuple>
 #include <QCoreApplication>
 #include "demo/AxisTicks.h"
 #include "demo/HostStyle.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
+#include "platform/sdk/StateChangeEventObservable.h"
 
 namespace {
 
@@ -32,22 +35,70 @@ std::vector<std::string> namedCategories(int var)
     return data.categories(var);
 }
 
+// The smallest and largest finite values of one variable in one zone's drawn
+// points, kept until the data change: a zoom, a turn or a style change redraws
+// ten million points without reading them twice more for their ranges.
+class RangeCache
+{
+public:
+    struct Range
+    {
+        double min, max;
+        bool any;
+    };
+
+    static RangeCache& instance()
+    {
+        // Never destroyed: state changes may still arrive while the program ends.
+        static RangeCache* cache = new RangeCache;
+        return *cache;
+    }
+
+    Range of(const PlotScene& scene, int zone, int var, bool positiveOnly)
+    {
+        const Key key{zone, var, scene.begin, scene.end, scene.skip, positiveOnly};
+        const auto found = m_ranges.find(key);
+        if (found != m_ranges.end())
+            return found->second;
+        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false};
+        if (const double* values = OrrUtilVarGetValuesInZone(zone, var))
+            scene.forEachIndex(OrrUtilZoneGetNumPoints(zone), [&](long i) {
+                const double v = values[i];
+                if (std::isfinite(v) && (!positiveOnly || v > 0.0)) {
+                    range.min = std::min(range.min, v);
+                    range.max = std::max(range.max, v);
+                }
+            });
+        range.any = range.min <= range.max;
+        return m_ranges[key] = range;
+    }
+
+private:
+    typedef std::tuple<int, int, long, long, long, bool> Key;
+
+    RangeCache()
+    {
+        orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
+            [this](const orrery::sdk::integration::StateChangeEventInterface& event) {
+                if (event.code() != StateChange_Style && event.code() != StateChange_NodeMapsAltered)
+                    m_ranges.clear();
+            });
+    }
+
+    std::map<Key, Range> m_ranges;
+};
+
 // The finite values of var in the drawn points, smallest and largest; false when there are none.
 bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max)
 {
     min = std::numeric_limits<double>::infinity();
     max = -min;
     for (const PlotScene::Zone& zone : scene.zones) {
-        const double* values = OrrUtilVarGetValuesInZone(zone.zone, var);
-        if (!values)
-            continue;
-        scene.forEachIndex(zone.points, [&](long i) {
-            const double v = values[i];
-            if (std::isfinite(v) && (!positiveOnly || v > 0.0)) {
-                min = std::min(min, v);
-                max = std::max(max, v);
-            }
-        });
+        const RangeCache::Range range = RangeCache::instance().of(scene, zone.zone, var, positiveOnly);
+        if (range.any) {
+            min = std::min(min, range.min);
+            max = std::max(max, range.max);
+        }
     }
     return min <= max;
 }

@@ -474,7 +474,7 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     </message>
     <message>
         <source>the points of zone %1 are coloured %2</source>
-        <translation>die Punkte von Zone %1 sind %2 gefärbt</translation>
+        <translation>die Punkte von Zone %1 haben die Farbe %2</translation>
     </message>
     <message>
         <source>symbols are hidden: View &gt; Show Scatter Symbols shows them</source>
