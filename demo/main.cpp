@@ -54,7 +54,9 @@ int main(int argc, char** argv)
                                         "Write the plot to <file> (.png, .svg or .pdf) after loading the file and "
                                         "any replay, then exit.",
                                         "file");
-    parser.addOptions({replay, tour, plotType, language, exportPlot});
+    const QCommandLineOption dpi("dpi", "With --export to a PNG: <n> dots per inch (96 is one pixel a screen pixel).",
+                                 "n", "96");
+    parser.addOptions({replay, tour, plotType, language, exportPlot, dpi});
     parser.process(app);
     for (const QString& problem : Translations::install(app, parser.value(language)))
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
@@ -91,8 +93,15 @@ int main(int argc, char** argv)
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;
     if (parser.isSet(exportPlot)) {
+        bool number = false;
+        const double dotsPerInch = parser.value(dpi).toDouble(&number);
+        if (!number || !(dotsPerInch >= 24 && dotsPerInch <= 2400)) {
+            std::fprintf(stderr, "orrery-demo: --dpi takes a number from 24 to 2400.\n");
+            return 2;
+        }
         QString problem;
-        if (!PlotExport::write(window.plot(), parser.value(exportPlot), window.plot().sizeHint(), 1.0, &problem)) {
+        if (!PlotExport::write(window.plot(), parser.value(exportPlot), window.plot().sizeHint(), dotsPerInch / 96.0,
+                               &problem)) {
             std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
             return 1;
         }
