@@ -1,6 +1,7 @@
 #include "demo/PlotKey.h"
 
 #include <algorithm>
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
@@ -40,6 +41,8 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font) : m_scene(scene), m_
     if (m_zones)
         for (const PlotScene::Zone& zone : scene.zones)
             m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(zone.name));
+    if (scene.anyScatter() && !scene.sizeName.isEmpty())
+        m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(sizeText()));
     if (m_width > 0)
         m_width += 16;
 }
@@ -138,4 +141,18 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
                          metrics.elidedText(zone.name, Qt::ElideRight, column.width() - 2 * Swatch - 6));
         y += row;
     }
+    // Symbols sized by a variable: a small and a large one beside its name.
+    if (!m_scene.anyScatter() || m_scene.sizeName.isEmpty() || y + row > column.bottom())
+        return;
+    const PlotSymbol symbol(m_scene.symbol, m_font);
+    symbol.draw(painter, QPointF(column.left() + 4, y + row / 2), 2.5, Qt::gray);
+    symbol.draw(painter, QPointF(column.left() + Swatch + 4, y + row / 2), Swatch * 0.8, Qt::gray);
+    painter.setPen(Qt::black);
+    painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
+                     Qt::AlignLeft | Qt::AlignVCenter, sizeText());
+}
+
+QString PlotKey::sizeText() const
+{
+    return QCoreApplication::translate("PlotKey", "size ~ |%1|").arg(m_scene.sizeName);
 }

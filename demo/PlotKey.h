@@ -20,6 +20,7 @@ private:
     double paintColourBar(QPainter& painter, const QRectF& column) const;
     double paintCategories(QPainter& painter, const QRectF& column) const;
     void paintZones(QPainter& painter, const QRectF& column) const;
+    QString sizeText() const;
 
     const PlotScene& m_scene;
     QFont m_font;

@@ -218,6 +218,7 @@ PlotScene PlotScene::fromHost()
     for (int c = 0; c < scene.dims; ++c)
         scene.vectorVars[c] = int(HostStyle::integer(vectorRoot + components[c]));
     scene.sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
+    scene.sizeName = takeString(OrrUtilVarGetName(scene.sizeVar));
     scene.relativeSize = HostStyle::number("GlobalScatter/RelativeSize", -1, 1.0);
     scene.sizeInCm = !HostStyle::flag("GlobalScatter/RelativeSizeInGridUnits", -1, true);
     scene.mediumPercent = HostStyle::number("BasicSize/SymbolSizes/Medium", -1, 2.5);

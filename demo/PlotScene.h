@@ -46,6 +46,7 @@ struct PlotScene
     bool vectors = false;
     int vectorVars[3] = {0, 0, 0};
     int sizeVar = 0;
+    QString sizeName; // of the variable that sizes the symbols; empty for one size
     double relativeSize = 1.0;
     bool sizeInCm = false;
     double mediumPercent = 2.5;

@@ -1550,6 +1550,13 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     </message>
 </context>
 <context>
+    <name>PlotKey</name>
+    <message>
+        <source>size ~ |%1|</source>
+        <translation>Größe ~ |%1|</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenus</name>
     <message>
         <source>&amp;Export Plot...</source>
