@@ -10,6 +10,9 @@ namespace styleproperties {
 class ORRERY_CORE_EXPORT KernelPropertyHandle
 {
 public:
+    /// Points the property at collection member \a first (for example a zone or a
+    /// map; -1 for none) and re-reads it. \a second is carried for nested collections
+    /// and is -1 today.
     virtual void setOffsets(long first, long second) = 0;
     /// Writes pending edits to the kernel; immediate properties have none.
     virtual void apply() {}
