@@ -71,6 +71,7 @@ inline bool sameKernelValue(const T& a, const T& b)
 {
     return a == b;
 }
+/// Equal values, or both NaN.
 template <>
 inline bool sameKernelValue<double>(const double& a, const double& b)
 {
