@@ -10,7 +10,7 @@ class ORRERY_FRAMEWORK_EXPORT ListHeaderItemDelegate : public QStyledItemDelegat
 {
     Q_OBJECT
 public:
-    /// A delegate owned by \a parent, as Qt's delegates are.
+    /// A delegate owned by \a parent, if one is given.
     explicit ListHeaderItemDelegate(QObject* parent = nullptr);
 
     /// Whether \a index is a header row: valid, but not enabled.

@@ -18,7 +18,7 @@ struct ValueEquality
 template <>
 struct ValueEquality<double>
 {
-    /// Equal unless either is NaN.
+    /// Equal values; a NaN equals nothing.
     static bool equal(double a, double b) { return !(a < b) && !(a > b) && !std::isnan(a) && !std::isnan(b); }
 };
 
