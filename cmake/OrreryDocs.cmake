@@ -1,7 +1,8 @@
 # `cmake --build <build> --target docs`: the reference documentation of the
 # library's public headers (core/, framework/, prompts/) and its main page, with
-# Doxygen. ORRERY_DOCS_STRICT makes every warning an error.
-option(ORRERY_DOCS_STRICT "Fail the docs target on any documentation warning" OFF)
+# Doxygen. ORRERY_DOCS_STRICT (on by default) makes every warning an error, so an
+# undocumented public member fails the build of the docs.
+option(ORRERY_DOCS_STRICT "Fail the docs target on any documentation warning" ON)
 find_package(Doxygen QUIET)
 if(NOT DOXYGEN_FOUND)
   message(STATUS "Doxygen not found (scripts/install-deps.sh docs installs it): no docs target")

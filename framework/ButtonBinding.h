@@ -14,11 +14,15 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT ButtonBinding : public BindingInterface
 {
 public:
+    /// Runs \a action on every click of \a button until the binding is destroyed.
     ButtonBinding(QAbstractButton& button, const boost::function<void()>& action);
     ~ButtonBinding() override;
 
+    /// Nothing to show.
     void updateWidget() override {}
+    /// Nothing: the dialog shows and hides the button.
     void updateVisibility() override {}
+    /// Nothing: the dialog enables and disables the button.
     void updateSensitivity() override {}
 
 private:

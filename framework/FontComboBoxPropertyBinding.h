@@ -16,6 +16,8 @@ class ORRERY_FRAMEWORK_EXPORT FontComboBoxPropertyBinding : public UIPropertyBin
                                                             private qwidgetobservable::QComboBoxListenerInterface
 {
 public:
+    /// Binds \a combo, which must outlive the binding; a family picked there is stored
+    /// in \a property.
     FontComboBoxPropertyBinding(QFontComboBox& combo, const boost::shared_ptr<PropertyAbstract<std::string>>& property);
     ~FontComboBoxPropertyBinding() override;
 

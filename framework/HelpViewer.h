@@ -21,9 +21,11 @@ public:
     /// The viewer belonging to owner, or null.
     static HelpViewer* of(const QWidget& owner);
 
+    /// The name of the page asked for last, as given to showPage().
     QString page() const { return m_page; }
     /// False when no page of that name is shipped; a notice is shown instead.
     bool pageFound() const { return m_found; }
+    /// The page's text as shown, without markup.
     QString text() const;
 
 private:

@@ -10,9 +10,11 @@ namespace orrery::sdk::ui::propertymanager {
 class ORRERY_FRAMEWORK_EXPORT InvertingRelevance : public virtual RelevanceInterface
 {
 public:
+    /// Inverts \a inverted, which the relevance keeps alive.
     explicit InvertingRelevance(const boost::shared_ptr<const RelevanceInterface>& inverted);
     ~InvertingRelevance() override;
 
+    /// True while the wrapped relevance is false.
     bool isRelevant() const override;
 
 private:

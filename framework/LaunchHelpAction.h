@@ -12,8 +12,11 @@ class ORRERY_FRAMEWORK_EXPORT LaunchHelpAction : public QAction
 {
     Q_OBJECT
 public:
+    /// A "Help" action, a child of \a owner, showing \a helpPage (a file name under
+    /// ":/help") in the help viewer of \a owner's window.
     LaunchHelpAction(std::string const& helpPage, QObject& owner);
 
+    /// The page the action shows.
     std::string const& helpPage() const { return m_helpPage; }
 
 private:

@@ -10,11 +10,14 @@ class ORRERY_FRAMEWORK_EXPORT ListHeaderItemDelegate : public QStyledItemDelegat
 {
     Q_OBJECT
 public:
+    /// A delegate owned by \a parent, if one is given.
     explicit ListHeaderItemDelegate(QObject* parent = nullptr);
 
+    /// Whether \a index is a header row: valid, but not enabled.
     static bool isHeader(const QModelIndex& index);
 
 protected:
+    /// Styles header rows as captions; other rows as usual.
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 

@@ -28,11 +28,16 @@ public:
     {}
     ~ListViewPropertyBinding() override;
 
+    /// With ModelUpdate_DeferredWhileBusy, holds the view's repaints back while the host is busy.
     void init(BindingInterface::ModelUpdateMode mode);
+    /// Sets the view's selection mode (single or multiple choice).
     void setSelectionMode(QAbstractItemView::SelectionMode mode);
 
+    /// Selects the rows of the property's values.
     void updateWidget() override;
+    /// Nothing: a RelevanceApplier shows and hides the view.
     void updateVisibility() override {}
+    /// Nothing: a RelevanceApplier enables and disables the view.
     void updateSensitivity() override {}
 
 private:

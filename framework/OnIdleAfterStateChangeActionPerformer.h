@@ -13,8 +13,10 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT OnIdleAfterStateChangeActionPerformer
 {
 public:
+    /// Picks the state changes that matter.
     typedef boost::function<bool(const integration::StateChangeEventInterface&)> Predicate;
 
+    /// Runs \a action on idle after state changes that \a predicate accepts, until destroyed.
     OnIdleAfterStateChangeActionPerformer(const Predicate& predicate, const boost::function<void()>& action);
     ~OnIdleAfterStateChangeActionPerformer();
 

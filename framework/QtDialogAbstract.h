@@ -23,9 +23,11 @@ class ORRERY_FRAMEWORK_EXPORT QtDialogAbstract : public QDialog, public virtual 
 {
     Q_OBJECT
 public:
+    /// A relevance, shared; null means always relevant.
     typedef boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> RelevancePtr;
 
-    /// An empty relevance makes the dialog relevant at all times.
+    /// A child window of \a parent, which owns it. An empty relevance makes the dialog
+    /// relevant at all times.
     QtDialogAbstract(QWidget& parent, RelevancePtr relevance);
     ~QtDialogAbstract() override;
 
@@ -35,14 +37,17 @@ public:
     /// Closes the dialog as rejected and schedules its destruction.
     void drop() override;
 
+    /// Whether the dialog's relevance holds now.
     bool isRelevant() const;
     /// Takes ownership of the action; it is triggered by F1 and by a Help button.
     void setHelpAction(QAction* action);
+    /// The help action, or null when the dialog has none.
     QAction* helpAction() const { return m_helpAction; }
 
 protected:
     /// Refuses to accept while the dialog is not relevant, and closes its help.
     void done(int result) override;
+    /// Connects the layout's button boxes and applies the relevance before the dialog appears.
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -18,12 +18,15 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT RelevanceApplier
 {
 public:
+    /// How relevance shows on the widgets.
     enum Manifestation_e
     {
-        Manifestation_Sensitivity = 0, // enabled while relevant
-        Manifestation_Visibility = 1   // visible while relevant
+        Manifestation_Sensitivity = 0, ///< enabled while relevant
+        Manifestation_Visibility = 1   ///< visible while relevant
     };
 
+    /// Applies \a relevance (kept alive here) to \a widgets now and after each change; a
+    /// widget destroyed meanwhile is skipped.
     RelevanceApplier(const boost::shared_ptr<const propertymanager::RelevanceInterface>& relevance,
                      const std::vector<QWidget*>& widgets, Manifestation_e manifestation = Manifestation_Sensitivity,
                      BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_Immediate);
@@ -31,6 +34,7 @@ public:
     RelevanceApplier& operator=(const RelevanceApplier&) = delete;
     ~RelevanceApplier();
 
+    /// Enables or shows the widgets when relevant, disables or hides them otherwise.
     void apply();
 
 private:

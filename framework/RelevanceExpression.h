@@ -13,10 +13,13 @@ namespace orrery::sdk::ui::propertymanager {
 class ORRERY_FRAMEWORK_EXPORT RelevanceExpression : public virtual RelevanceInterface
 {
 public:
+    /// Starts with \a first; every term is kept alive by the expression.
     explicit RelevanceExpression(const boost::shared_ptr<const RelevanceInterface>& first);
     ~RelevanceExpression() override;
 
+    /// Combines what is there so far with \a term by "and"; returns the expression for chaining.
     RelevanceExpression& aand(const boost::shared_ptr<const RelevanceInterface>& term);
+    /// Combines what is there so far with \a term by "or"; returns the expression for chaining.
     RelevanceExpression& oor(const boost::shared_ptr<const RelevanceInterface>& term);
 
     bool isRelevant() const override;

@@ -13,6 +13,8 @@ class ORRERY_FRAMEWORK_EXPORT SpinBoxDoublePropertyBinding
     : public SpinBoxPropertyBindingAbstract<double, orrery::ui::QScientificSpinBox, double>
 {
 public:
+    /// Binds \a spinBox, which must outlive the binding, stepping by \a calculator,
+    /// which the binding takes over.
     SpinBoxDoublePropertyBinding(orrery::ui::QScientificSpinBox* spinBox,
                                  const boost::shared_ptr<PropertyAbstract<double>>& property,
                                  propertymanager::SpinBoxIncDecCalculatorBase* calculator,

@@ -16,6 +16,7 @@ public:
     /// Number of steps asked for at once, negative downwards: 1 or -1 for an arrow,
     /// 10 or -10 for Page Up or Page Down.
     int deltaFactor() const { return m_deltaFactor; }
+    /// The move for \a steps steps at once; sets deltaFactor() and asks delta().
     double deltaFor(int steps);
 
 private:

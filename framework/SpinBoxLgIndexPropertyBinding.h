@@ -10,6 +10,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_FRAMEWORK_EXPORT SpinBoxLgIndexPropertyBinding : public SpinBoxPropertyBindingAbstract<long, QSpinBox, int>
 {
 public:
+    /// Binds \a spinBox, which must outlive the binding.
     SpinBoxLgIndexPropertyBinding(
         QSpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<long>>& property,
         BindingInterface::WidgetUpdateMode_e mode = BindingInterface::WidgetUpdateMode_OnIdle);

@@ -15,6 +15,7 @@ template <typename T, typename SpinBox, typename Shown>
 class SpinBoxPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
 {
 public:
+    /// Binds \a spinBox, which must outlive the binding.
     SpinBoxPropertyBindingAbstract(SpinBox& spinBox, const boost::shared_ptr<PropertyAbstract<T>>& property,
                                    BindingInterface::WidgetUpdateMode_e mode)
         : UIPropertyBindingAbstract<T>(property, mode), m_spinBox(spinBox)
@@ -24,15 +25,19 @@ public:
     }
     ~SpinBoxPropertyBindingAbstract() override { QObject::disconnect(m_connection); }
 
+    /// Shows the property's value; the spin box's own change report is not written back.
     void updateWidget() override
     {
         ScopedExitAction lowerGuard(ScopedExitAction::raiseUntilExit(m_updatingWidget));
         m_spinBox.setValue(toShown(this->property().retrieveValue()));
     }
+    /// Shows or hides the spin box as the property's relevance says.
     void updateVisibility() override { m_spinBox.setVisible(this->isPropertyVisible()); }
+    /// Enables or disables the spin box as the property's relevance says.
     void updateSensitivity() override { m_spinBox.setEnabled(this->isPropertySensitive()); }
 
 protected:
+    /// The bound spin box.
     SpinBox& spinBox() const { return m_spinBox; }
 
 private:

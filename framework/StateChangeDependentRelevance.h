@@ -11,9 +11,11 @@ namespace orrery::sdk::ui::propertymanager {
 class ORRERY_FRAMEWORK_EXPORT StateChangeDependentRelevance : public virtual RelevanceInterface
 {
 public:
+    /// Asks \a predicate, and announces a possible change after each state change of the host.
     explicit StateChangeDependentRelevance(const boost::function<bool()>& predicate);
     ~StateChangeDependentRelevance() override;
 
+    /// The predicate's answer now.
     bool isRelevant() const override;
 
 private:

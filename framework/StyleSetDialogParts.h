@@ -21,6 +21,8 @@ namespace prompt {
 template <typename Ui, typename Generated, typename Manager>
 struct StyleSetDialogParts
 {
+    /// Sets up the layout on \a dialog and builds the set, modal when the dialog is, and
+    /// its manager.
     explicit StyleSetDialogParts(QDialog& dialog)
     {
         ui.setupUi(&dialog);
@@ -32,10 +34,15 @@ struct StyleSetDialogParts
             manager.reset(new Manager(*generated));
     }
 
+    /// The dialog's layout.
     Ui ui;
+    /// The style properties the dialog edits.
     boost::shared_ptr<Generated> generated;
+    /// The properties manager on the set.
     std::unique_ptr<Manager> manager;
+    /// The bindings of the dialog's widgets, owned here.
     boost::ptr_vector<sdk::ui::dialogs::propertybindings::BindingInterface> bindings;
+    /// The relevance appliers of the dialog's widgets, owned here.
     boost::ptr_vector<sdk::ui::dialogs::propertybindings::RelevanceApplier> appliers;
 };
 

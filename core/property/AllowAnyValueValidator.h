@@ -8,6 +8,7 @@ template <typename T>
 class AllowAnyValueValidator : public virtual ValidatorInterface<T>
 {
 public:
+    /// Always a valid result.
     ValidationResult validate(const T&) const override { return ValidationResult(); }
 };
 

@@ -9,6 +9,7 @@ namespace orrery {
 class ORRERY_CORE_EXPORT InvalidPropertyValueException : public virtual ExceptionBase
 {
 public:
+    /// \a message is what the user is shown; it may be empty, then nothing is shown.
     explicit InvalidPropertyValueException(const std::string& message);
     ~InvalidPropertyValueException() override;
 };

@@ -10,6 +10,7 @@ template <typename T>
 class PropertyProxy : public PropertyAbstract<T>
 {
 public:
+    /// Forwards to \a target (not null); values set through the proxy must also pass \a validator.
     explicit PropertyProxy(const boost::shared_ptr<PropertyAbstract<T>>& target,
                            const boost::shared_ptr<const ValidatorInterface<T>>& validator =
                                boost::make_shared<AllowAnyValueValidator<T>>())
@@ -49,6 +50,7 @@ public:
             this->emitValueChangedSignal(m_target->retrieveValue());
     }
 
+    /// The property forwarded to now.
     const boost::shared_ptr<PropertyAbstract<T>>& target() const { return m_target; }
 
 private:

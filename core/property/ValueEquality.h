@@ -10,6 +10,7 @@ namespace orrery {
 template <typename T>
 struct ValueEquality
 {
+    /// operator== of T.
     static bool equal(const T& a, const T& b) { return a == b; }
 };
 
@@ -17,6 +18,7 @@ struct ValueEquality
 template <>
 struct ValueEquality<double>
 {
+    /// Equal values; a NaN equals nothing.
     static bool equal(double a, double b) { return !(a < b) && !(a > b) && !std::isnan(a) && !std::isnan(b); }
 };
 
@@ -24,6 +26,7 @@ struct ValueEquality<double>
 template <>
 struct ValueEquality<std::vector<int>>
 {
+    /// Equal sizes and equal elements.
     static bool equal(const std::vector<int>& a, const std::vector<int>& b)
     {
         return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(int)) == 0);

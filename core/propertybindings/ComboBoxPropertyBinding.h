@@ -19,8 +19,12 @@ template <typename T>
 class ORRERY_CORE_EXPORT ComboBoxPropertyBinding : public UIPropertyBindingAbstract<T>
 {
 public:
+    /// The rows offered, shared with whoever changes them.
     typedef boost::shared_ptr<const models::ListModelInterface<T>> ListModelPtr;
 
+    /// Fills \a combo (which must outlive the binding) from \a rows, selects the row of
+    /// the property's value and writes the value of each row the user picks. The current
+    /// row is shown again on idle after the rows change.
     ComboBoxPropertyBinding(QComboBox& combo, const boost::shared_ptr<PropertyAbstract<T>>& property,
                             const ListModelPtr& rows,
                             BindingInterface::ModelUpdateMode mode = BindingInterface::ModelUpdate_Immediate);

@@ -18,6 +18,8 @@ template <typename T>
 class ORRERY_CORE_EXPORT LineEditPropertyBindingAbstract : public UIPropertyBindingAbstract<T>
 {
 public:
+    /// Binds \a field, which must outlive the binding; \a mode says when property
+    /// changes are shown.
     LineEditPropertyBindingAbstract(QLineEdit* field, const boost::shared_ptr<PropertyAbstract<T>>& property,
                                     BindingInterface::WidgetUpdateMode_e mode);
 
@@ -32,12 +34,15 @@ protected:
     class ValidationInstaller
     {
     public:
+        /// Gives \a field a validator of C-locale numbers when T is double or int,
+        /// replacing one an earlier binding installed; a dialog's own stays.
         static void install(QLineEdit& field);
-        // Object name of the validators that bindings install, so that a later
-        // binding replaces them but leaves a dialog's own validator alone.
+        /// Object name of the validators that bindings install, so that a later
+        /// binding replaces them but leaves a dialog's own validator alone.
         static const QString m_installedValidatorMarker;
     };
 
+    /// The bound field.
     QLineEdit* lineEdit() const { return m_field; }
     /// Shows a value; a commit of this very text is no edit.
     void showText(const QString& text);

@@ -29,6 +29,7 @@ template <typename C>
 class ORRERY_CORE_EXPORT ListViewPropertySynchronizer : public WidgetPropertySynchronizerInterface
 {
 public:
+    /// The rows offered, shared with whoever changes them.
     typedef boost::shared_ptr<const models::ListModelInterface<int>> ListModelPtr;
 
     /// mode WidgetUpdateMode_OnIdle: after the rows change, selection and
@@ -39,10 +40,16 @@ public:
 
     void updateWidgetFromProperty() override;
     void updatePropertyFromWidget() override;
+    /// Shows the rows in the view through a fresh Qt model and listens to its selection;
+    /// called by the constructor.
     void setupModel();
     /// Selects exactly the (non-header) rows whose values are in the collection.
     void setSelectionForPropertyValues(const C& values);
+    /// Called when the rows change: selection and property are brought together again
+    /// (on idle in WidgetUpdateMode_OnIdle), so a value whose row remains stays selected.
     void preserveSelectionOnModelChange();
+    /// Selects the rows of the property's values, then drops from the property the values
+    /// whose rows have gone.
     void synchronizePropertyAndSelection();
 
 private:

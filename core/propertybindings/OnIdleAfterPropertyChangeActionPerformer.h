@@ -12,6 +12,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_CORE_EXPORT OnIdleAfterPropertyChangeActionPerformer
 {
 public:
+    /// Runs \a action on idle after changes of \a property, which must outlive this object.
     template <typename T>
     OnIdleAfterPropertyChangeActionPerformer(const PropertyAbstract<T>& property, const boost::function<void()>& action)
         : m_performer(action)
@@ -19,9 +20,11 @@ public:
         m_connections.add(property.connectToValueChangedSignal([this](const T&) { valueChanged(); }));
     }
 
+    /// Schedules the action, unless disabled; the property's changes call it.
     void valueChanged();
     /// Off: changes are ignored (used while the owner writes the property itself).
     void enable(bool enabled) { m_enabled = enabled; }
+    /// Whether changes schedule the action.
     bool isEnabled() const { return m_enabled; }
 
 private:

@@ -13,6 +13,7 @@ template <typename T>
 class QObjectPropertyBinding : public QObject, public virtual BindingInterface
 {
 public:
+    /// Binds a plain property, kept alive by the binding.
     QObjectPropertyBinding(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
         : QObject(nullptr), m_updater(new PropertyBindingUpdater(property, mode, *this))
     {}
@@ -22,12 +23,17 @@ public:
     {}
 
 protected:
+    /// The bound property.
     PropertyAbstract<T>& property() const { return m_updater->boundProperty(); }
+    /// Stores \a candidate as UIPropertyBindingAbstract::writeProperty does.
     bool writeProperty(const T& candidate) { return m_updater->write(candidate); }
     /// For Qt slots, which must not let a refusal escape: see UIPropertyBindingAbstract.
     bool writePropertyReportingRejection(const T& candidate) { return m_updater->writeReporting(candidate); }
+    /// Has the widget refreshed once on idle.
     void updateValueOnIdle() { m_updater->updateValueOnIdle(); }
+    /// Whether the widget is to be shown now.
     bool isPropertyVisible() const { return m_updater->visible(); }
+    /// Whether the widget is to be enabled now.
     bool isPropertySensitive() const { return m_updater->sensitive(); }
 
 private:

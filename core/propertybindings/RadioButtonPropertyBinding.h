@@ -16,6 +16,8 @@ template <typename T>
 class ORRERY_CORE_EXPORT RadioButtonPropertyBinding : public UIPropertyBindingAbstract<T>
 {
 public:
+    /// \a button (which must outlive the binding) is checked while the property holds
+    /// \a buttonValue; checking it stores \a buttonValue.
     RadioButtonPropertyBinding(QAbstractButton* button, const boost::shared_ptr<PropertyAbstract<T>>& property,
                                const T& buttonValue);
     ~RadioButtonPropertyBinding() override;

@@ -9,6 +9,7 @@ namespace orrery::sdk::ui::dialogs::propertybindings {
 class ORRERY_CORE_EXPORT ScopedExitAction
 {
 public:
+    /// \a action runs on destruction; an empty one is allowed and does nothing.
     explicit ScopedExitAction(std::function<void()> action) : m_action(std::move(action)) {}
     ScopedExitAction(const ScopedExitAction&) = delete;
     ScopedExitAction& operator=(const ScopedExitAction&) = delete;
@@ -18,6 +19,7 @@ public:
             m_action();
     }
 
+    /// Assigns \a value to \a object; bound into exit actions that restore a variable.
     template <typename Object, typename Value>
     static void setObjectValue(Object& object, const Value& value)
     {

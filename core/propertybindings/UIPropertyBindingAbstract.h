@@ -19,8 +19,10 @@ template <typename T>
 class UIPropertyBindingAbstract : public virtual PropertyBindingInterface
 {
 public:
+    /// A style property, which also carries a visibility and a sensitivity.
     typedef propertymanager::UIStylePropertyAbstract<T> StyleProperty;
 
+    /// Binds a plain property (not null), kept alive by the binding.
     UIPropertyBindingAbstract(const boost::shared_ptr<PropertyAbstract<T>>& property, WidgetUpdateMode_e mode)
         : m_mode(mode), m_styleProperty(nullptr), m_property(*requireNonNull(property, "The property of a binding")),
           m_propertyKeeper(property), m_valueUpdater([this] { updateWidget(); })
@@ -41,16 +43,21 @@ public:
     /// Has the widget refreshed once on idle, whatever the update mode.
     virtual void updateValueOnIdle() { m_valueUpdater.enableNotification(); }
 
+    /// When property changes reach the widget.
     WidgetUpdateMode_e widgetUpdateMode() const { return m_mode; }
 
 protected:
+    /// The bound property.
     PropertyAbstract<T>& property() const { return m_property; }
 
     /// Relevance of the style property; a plain property is always shown and enabled
     /// (its widget is driven by a RelevanceApplier instead).
     bool isPropertyVisible() const { return !m_styleProperty || m_styleProperty->isVisible(); }
+    /// Whether the widget is to be enabled; always for a plain property.
     bool isPropertySensitive() const { return !m_styleProperty || m_styleProperty->isSensitive(); }
 
+    /// Validates and stores \a candidate; true when the property changed. Throws
+    /// InvalidPropertyValueException when the value is refused.
     bool writeProperty(const T& candidate) { return intern::writeProperty(m_property, candidate); }
 
     /// The write of a widget handler that cannot leave an exception to Qt: a
@@ -67,6 +74,7 @@ protected:
         }
     }
 
+    /// Connections that end with the binding; derived bindings add theirs here.
     SignalConnectionCollection& connections() { return m_connections; }
 
 private:

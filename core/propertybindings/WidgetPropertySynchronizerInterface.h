@@ -8,7 +8,9 @@ class ORRERY_CORE_EXPORT WidgetPropertySynchronizerInterface
 {
 public:
     virtual ~WidgetPropertySynchronizerInterface() = default;
+    /// Makes the widget show the property's value.
     virtual void updateWidgetFromProperty() = 0;
+    /// Stores what the widget shows in the property.
     virtual void updatePropertyFromWidget() = 0;
 };
 

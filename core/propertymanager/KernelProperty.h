@@ -18,6 +18,8 @@ template <typename T>
 class KernelProperty : public KernelPropertyAbstract<T>
 {
 public:
+    /// Stands for the style value at \a styleValue's path, for no collection member
+    /// until setOffsets() is called.
     explicit KernelProperty(const toolbox::StyleValue& styleValue) : m_cached(), m_styleValue(styleValue) {}
     ~KernelProperty() override = default;
 
@@ -44,6 +46,7 @@ public:
         throw InvalidPropertyValueException(message);
     }
 
+    /// Never equal just after a silently refused write, so the same value is tried again.
     bool isEqual(const T& value) const override
     {
         return !m_refusedWrite && ValueEquality<T>::equal(value, retrieveValue());
@@ -63,6 +66,8 @@ public:
         return read;
     }
 
+    /// Starts following the host's state changes; the first listener also refreshes
+    /// the cached value without an announcement.
     void signalValueChangedConnected() const override
     {
         if (this->valueChangedListenerCount() == 1)
@@ -72,6 +77,8 @@ public:
             [this](const integration::StateChangeEventInterface& event) { stateChanged(event); }));
     }
 
+    /// Re-reads the kernel after a state change in the host, announcing a new value;
+    /// stops following once nobody listens.
     void stateChanged(const integration::StateChangeEventInterface&) const
     {
         if (this->valueChangedListenerCount() == 0) {
@@ -81,6 +88,7 @@ public:
         retrieveValue();
     }
 
+    /// Whether the property currently follows the host's state changes.
     bool isFollowingKernel() const { return !m_stateChangeConnections.empty(); }
 
 private:

@@ -11,11 +11,13 @@ template <typename T>
 class KernelPropertyDeferred : public KernelPropertyAbstract<T>
 {
 public:
+    /// Starts from the kernel's value at \a styleValue's path.
     explicit KernelPropertyDeferred(const toolbox::StyleValue& styleValue) : m_kernelProperty(styleValue)
     {
         m_pending = m_kernelProperty.retrieveValue();
     }
 
+    /// Moves to another collection member and takes its kernel value, dropping a pending edit.
     void setOffsets(long first, long second) override
     {
         m_kernelProperty.setOffsets(first, second);
@@ -26,6 +28,8 @@ public:
         }
     }
 
+    /// Writes the pending value to the kernel when it differs; may throw
+    /// InvalidPropertyValueException with the kernel's text.
     void apply() override
     {
         m_kernelProperty.validate(m_pending);
@@ -35,7 +39,9 @@ public:
         m_kernelProperty.emitValueChangedSignal(m_kernelProperty.retrieveValue());
     }
 
+    /// Keeps \a value as the pending edit; the kernel is not touched.
     void storeValue(const T& value) override { m_pending = value; }
+    /// The pending value (the kernel's until edited).
     T retrieveValue() const override { return m_pending; }
 
 private:

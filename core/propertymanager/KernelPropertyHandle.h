@@ -10,6 +10,8 @@ namespace styleproperties {
 class ORRERY_CORE_EXPORT KernelPropertyHandle
 {
 public:
+    /// Points the property at member \a first of the style value's collection (-1 for
+    /// none) and re-reads it. \a second is carried for nested collections and is -1 today.
     virtual void setOffsets(long first, long second) = 0;
     /// Writes pending edits to the kernel; immediate properties have none.
     virtual void apply() {}

@@ -15,6 +15,7 @@ namespace styleproperties {
 template <typename T>
 struct KernelStyleAccess
 {
+    /// Reads into \a value (0 on failure); false when the kernel refused the read.
     static bool read(const toolbox::CheckedStyleValue& style, toolbox::ArgList& args, T& value)
     {
         long raw = 0;
@@ -23,6 +24,7 @@ struct KernelStyleAccess
         value = static_cast<T>(ok ? raw : 0);
         return ok;
     }
+    /// Writes \a value; the kernel's return code.
     static SetValueReturnCode_e write(const toolbox::CheckedStyleValue& style, toolbox::ArgList& args, const T& value)
     {
         args.appendArbParam("IValue", static_cast<long>(value));
@@ -31,9 +33,11 @@ struct KernelStyleAccess
     }
 };
 
+/// Access through the kernel's typed final-value calls, for doubles, bools and strings.
 template <typename T>
 struct KernelFinalValueAccess
 {
+    /// Reads into \a value, left unchanged on failure; false when the kernel refused the read.
     static bool read(const toolbox::CheckedStyleValue& style, toolbox::ArgList& args, T& value)
     {
         T local{};
@@ -42,6 +46,7 @@ struct KernelFinalValueAccess
             value = local;
         return ok;
     }
+    /// Writes \a value; the kernel's return code.
     static SetValueReturnCode_e write(const toolbox::CheckedStyleValue& style, toolbox::ArgList& args, const T& value)
     {
         return style.setFinalValue(value, args);
@@ -66,6 +71,7 @@ inline bool sameKernelValue(const T& a, const T& b)
 {
     return a == b;
 }
+/// Equal values, or both NaN.
 template <>
 inline bool sameKernelValue<double>(const double& a, const double& b)
 {

@@ -12,12 +12,14 @@ template <typename T>
 class PropertyDependentRelevance : public PropertyDependentRelevanceAbstract<T>
 {
 public:
+    /// Relevant while \a property (kept alive here) holds \a relevantValue.
     PropertyDependentRelevance(const boost::shared_ptr<PropertyAbstract<T>>& property, T relevantValue)
         : PropertyDependentRelevanceAbstract<T>(property)
     {
         m_relevantValues.insert(relevantValue);
     }
 
+    /// Whether \a value is the relevant value.
     bool isRelevantValue(const T& value) const override { return m_relevantValues.count(value) != 0; }
 
 private:

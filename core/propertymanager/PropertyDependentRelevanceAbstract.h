@@ -15,13 +15,16 @@ template <typename T>
 class PropertyDependentRelevanceAbstract : public virtual RelevanceInterface
 {
 public:
+    /// Follows \a property (not null), which the relevance keeps alive.
     explicit PropertyDependentRelevanceAbstract(const boost::shared_ptr<const PropertyAbstract<T>>& property)
         : m_property(requireNonNull(property, "The property of a relevance"))
     {
         m_connection = m_property->connectToValueChangedSignal([this](const T&) { emitRelevanceChanged(); });
     }
 
+    /// The answer for the property's current value.
     bool isRelevant() const override { return isRelevantValue(m_property->retrieveValue()); }
+    /// Whether the property holding \a value makes the control relevant.
     virtual bool isRelevantValue(const T& value) const = 0;
 
 private:

@@ -15,10 +15,12 @@ namespace propertymanager {
 class ORRERY_CORE_EXPORT PropertyPredicateDependentRelevance : public virtual RelevanceInterface
 {
 public:
+    /// Asks \a predicate, and announces a possible change whenever \a property changes.
     PropertyPredicateDependentRelevance(const boost::shared_ptr<const PropertyItemInterface>& property,
                                         const boost::function<bool()>& predicate);
     ~PropertyPredicateDependentRelevance() override;
 
+    /// The predicate's answer now.
     bool isRelevant() const override;
 
 private:

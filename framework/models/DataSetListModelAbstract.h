@@ -26,12 +26,14 @@ public:
     std::string getStr(int row) const override;
     int indexOf(const int& number) const override;
 
+    /// Fetches the rows again; announces a change only when they differ.
     void refresh();
 
 protected:
     DataSetListModelAbstract();
     /// Ascending.
     virtual std::vector<int> fetchNumbers() const = 0;
+    /// The text shown for \a number.
     virtual std::string fetchText(int number) const = 0;
     /// Takes over a string returned by the kernel's C interface.
     static std::string takeKernelString(char* text);

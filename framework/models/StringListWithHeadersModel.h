@@ -13,8 +13,11 @@ class ORRERY_FRAMEWORK_EXPORT StringListWithHeadersModel : public ListModelAbstr
 public:
     StringListWithHeadersModel() = default;
 
+    /// Appends a choice showing \a text (UTF-8).
     void appendRow(const std::string& text);
+    /// Appends a header showing \a text (UTF-8).
     void appendHeaderRow(const std::string& text);
+    /// Removes every row.
     void clear();
 
     int size() const override { return static_cast<int>(m_rows.size()); }

@@ -12,8 +12,10 @@ namespace orrery::sdk::ui::dialogs::propertybindings::models {
 class ORRERY_FRAMEWORK_EXPORT ZoneListModel : public DataSetListModelAbstract
 {
 public:
+    /// Gives the zone numbers to list for the frame with the given unique ID.
     typedef boost::function<toolbox::Set(long frameUniqueID)> ZoneSource;
 
+    /// Lists the zones \a zones gives; \a numbered puts each zone's number before its name.
     ZoneListModel(const ZoneSource& zones, bool numbered);
 
 private:

@@ -20,6 +20,7 @@ class ORRERY_PROMPTS_EXPORT AddonsVariableSelectDialog : public common::QtDialog
 {
     Q_OBJECT
 public:
+    /// A property holding a variable number, supplied by the add-on.
     typedef boost::shared_ptr<PropertyAbstract<int>> VarPropertyPtr;
 
     /// A null label is skipped, so the labels after it move up one row; rows
@@ -31,10 +32,14 @@ public:
                                                    const char* label2, const char* label3, VarPropertyPtr var1,
                                                    VarPropertyPtr var2, VarPropertyPtr var3);
 
+    /// Builds the dialog directly, over \a parent; a host uses getInstance(). \a labels
+    /// holds one text per shown row, at most three. Throws std::invalid_argument when
+    /// a property is null.
     AddonsVariableSelectDialog(QWidget& parent, VarPropertyPtr var1, VarPropertyPtr var2, VarPropertyPtr var3,
                                const std::string& instructions, const std::vector<std::string>& labels);
     ~AddonsVariableSelectDialog() override;
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

@@ -23,15 +23,19 @@ public:
     /// Cancel restores is replaced.
     static AnchorAlignmentDialog* getInstance(AnchorAlignment_e initial, QWidget& parent);
 
+    /// Builds the dialog directly, over \a parent, with \a initial checked; a host uses
+    /// getInstance().
     AnchorAlignmentDialog(AnchorAlignment_e initial, QWidget& parent);
     ~AnchorAlignmentDialog() override;
 
     /// Shows the alignment in the buttons without changing the answer; values
     /// outside the table check the top left button.
     void setSelectedAlignmentButton(AnchorAlignment_e alignment);
+    /// The alignment checked last; after Cancel, the one the caller passed.
     AnchorAlignment_e selectedAlignment() const { return m_selectedAlignment; }
 
 public Q_SLOTS:
+    /// Restores the alignment the caller passed, then closes.
     void reject() override;
 
 private Q_SLOTS:

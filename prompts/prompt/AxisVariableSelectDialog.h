@@ -18,6 +18,7 @@ public:
     class AxisVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
+        /// Leaves the properties as they are: they already hold the axes' variables.
         void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
                              PropertyAbstract<int>& var3) const override;
     };

@@ -22,6 +22,7 @@ class ORRERY_PROMPTS_EXPORT ChooseLoaderDialog : public common::QtDialogAbstract
 {
     Q_OBJECT
 public:
+    /// A loader registered with the host.
     typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;
 
     /// Every call rebuilds the list, selection, title and prompt from the
@@ -29,6 +30,7 @@ public:
     static ChooseLoaderDialog* getInstance(QWidget& parent, std::vector<LoaderPtr> const& suggestedLoaders,
                                            std::set<std::string> const& extensions);
 
+    /// Builds an empty dialog over \a parent; getInstance() fills it, and is what a host uses.
     explicit ChooseLoaderDialog(QWidget& parent);
     ~ChooseLoaderDialog() override;
 

@@ -30,13 +30,16 @@ namespace prompt {
 class ORRERY_PROMPTS_EXPORT ChooseLoaderPropertiesManager
 {
 public:
+    /// A loader registered with the host.
     typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;
+    /// The rows of the loader list: loader names under group headers.
     typedef sdk::ui::dialogs::propertybindings::models::StringListWithHeadersModel LoadersListModel;
 
     /// Takes the loaders installed now; loaders installed later need a new manager.
     ChooseLoaderPropertiesManager();
     ~ChooseLoaderPropertiesManager();
 
+    /// The rows offered, for the dialog's list view.
     boost::shared_ptr<LoadersListModel> loadersListModel() const;
     /// The selected rows of the list.
     boost::shared_ptr<PropertyAbstract<std::vector<int>>> loadersListProperty() const;

@@ -13,13 +13,19 @@ class ORRERY_PROMPTS_EXPORT ColorChooserButton : public QToolButton
 {
     Q_OBJECT
 public:
+    /// A swatch of colour \a colorIndex of the colour map, as a child of \a parent.
     ColorChooserButton(QWidget* parent, int colorIndex);
 
+    /// The colour map index the swatch stands for.
     int colorIndex() const { return m_colorIndex; }
+    /// The swatch's red component, 0 to 255, as read when it was made.
     int red() const { return m_color.red(); }
+    /// The swatch's green component, 0 to 255.
     int green() const { return m_color.green(); }
+    /// The swatch's blue component, 0 to 255.
     int blue() const { return m_color.blue(); }
 
+    /// 20 by 20 pixels.
     QSize sizeHint() const override;
 
 protected:

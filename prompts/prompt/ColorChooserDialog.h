@@ -37,6 +37,7 @@ public:
     /// Where the icon of the multi colourings lives among the resources.
     static const QString& multiColorIconPath();
 
+    /// Builds the dialog directly, over \a parent; a host uses getInstance().
     explicit ColorChooserDialog(QWidget& parent);
     ~ColorChooserDialog() override;
 
@@ -44,10 +45,14 @@ public:
     void setEnableVarColoring(bool enable);
     /// Stores the colour as the answer and ends the dialog.
     void colorSelected(int colorIndex);
+    /// The colour index chosen last: a colour map index, or negative for colouring by
+    /// variable (the multi colourings, RGB).
     int selectedColor() const { return m_selectedColor; }
 
 protected:
+    /// Starts watching the keys pressed while the chooser is shown.
     void showEvent(QShowEvent* event) override;
+    /// Stops watching keys.
     void hideEvent(QHideEvent* event) override;
     /// Lets a key's release reach the chooser only when its press did: the release
     /// of the key that opened the chooser from a button must not choose in it.

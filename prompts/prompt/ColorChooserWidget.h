@@ -13,11 +13,15 @@ class ORRERY_PROMPTS_EXPORT ColorChooserWidget : public QWidget
 {
     Q_OBJECT
 public:
+    /// Fires with the colour index of the swatch clicked.
     typedef boost::signals2::signal<void(int)> ColorSelectedSignal;
 
+    /// Builds the grid as a child of \a parent.
     explicit ColorChooserWidget(QWidget* parent);
 
+    /// Calls \a slot with the colour index of each swatch clicked.
     boost::signals2::connection connectToColorSelectedSignal(const ColorSelectedSignal::slot_type& slot);
+    /// Whether anyone listens to the clicks.
     bool signalColorSelectedConnected() const { return !m_colorSelected.empty(); }
 
 private Q_SLOTS:

@@ -23,14 +23,18 @@ public:
     static EnterASCIICharacterDialog* getInstance(QWidget& parent, std::string initialChar, bool useBaseFont,
                                                   Font_e font);
 
+    /// Builds the dialog directly, over \a parent; a host uses getInstance().
     EnterASCIICharacterDialog(QWidget& parent, std::string initialChar, Font_e font);
     ~EnterASCIICharacterDialog() override;
 
+    /// The character entered, never empty.
     std::string selectedChar() const;
     /// Derived from the font: 255 is the single encoding of the base font.
     bool useBaseFont() const;
+    /// The font chosen for the character; 255 for the base font.
     Font_e typeFaceOverride() const;
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

@@ -16,13 +16,16 @@ namespace prompt {
 class ORRERY_PROMPTS_EXPORT EnterASCIICharacterPropertiesManager
 {
 public:
+    /// Starts from \a initialChar in \a font.
     EnterASCIICharacterPropertiesManager(std::string const& initialChar, Font_e font);
     ~EnterASCIICharacterPropertiesManager();
 
     /// Refuses the empty string.
     boost::shared_ptr<PropertyAbstract<std::string>> selectedChar() const;
+    /// The font; 255 for the base font.
     boost::shared_ptr<PropertyAbstract<Font_e>> typeFaceOverride() const;
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

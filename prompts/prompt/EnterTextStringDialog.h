@@ -22,7 +22,9 @@ public:
                           QString const& helpPage, bool);
     ~EnterTextStringDialog() override;
 
+    /// The text in the field now.
     QString text() const;
+    /// Relabels the OK button; \a text is Latin-1.
     void setOkButtonText(std::string const& text);
 
 private Q_SLOTS:

@@ -30,10 +30,14 @@ public:
                               long minimum1, long minimum2, long minimum3);
     ~EnterThreeIntValuesDialog() override;
 
+    /// The first value as the user left it.
     long value1() const;
+    /// The second value as the user left it.
     long value2() const;
+    /// The third value as the user left it.
     long value3() const;
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

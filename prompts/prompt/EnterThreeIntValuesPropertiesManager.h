@@ -13,11 +13,15 @@ namespace prompt {
 class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesPropertiesManager
 {
 public:
+    /// Starts from the three values given.
     EnterThreeIntValuesPropertiesManager(long value1, long value2, long value3);
     ~EnterThreeIntValuesPropertiesManager();
 
+    /// The first value.
     boost::shared_ptr<PropertyAbstract<long>> value1() const;
+    /// The second value.
     boost::shared_ptr<PropertyAbstract<long>> value2() const;
+    /// The third value.
     boost::shared_ptr<PropertyAbstract<long>> value3() const;
 
     /// The values only mean something while there is a data set.

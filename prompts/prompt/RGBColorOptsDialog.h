@@ -19,8 +19,10 @@ class ORRERY_PROMPTS_EXPORT RGBColorOptsDialog : public common::QtDialogAbstract
 public:
     /// The parent counts only for the first call, which builds the dialog.
     static RGBColorOptsDialog* getInstance(QWidget& parent);
+    /// Relevant while the current frame shows a field plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
+    /// Builds the dialog directly, over \a parent; a host uses getInstance().
     explicit RGBColorOptsDialog(QWidget& parent);
     ~RGBColorOptsDialog() override;
 

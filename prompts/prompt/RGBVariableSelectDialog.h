@@ -14,6 +14,7 @@ public:
     class RGBVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
+        /// Sets the red, green and blue candidates the host proposes.
         void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
                              PropertyAbstract<int>& var3) const override;
     };

@@ -19,8 +19,10 @@ class ORRERY_PROMPTS_EXPORT ScatterSizeFontDialog : public common::QtDialogAbstr
 public:
     /// The parent counts only for the first call, which builds the dialog.
     static ScatterSizeFontDialog* getInstance(QWidget& parent);
+    /// Relevant while the current frame shows a field plot or a line plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
+    /// Builds the dialog directly, over \a parent; a host uses getInstance().
     explicit ScatterSizeFontDialog(QWidget& parent);
     ~ScatterSizeFontDialog() override;
 

@@ -23,9 +23,14 @@ namespace prompt {
 class ORRERY_PROMPTS_EXPORT VariableChoiceBindings
 {
 public:
+    /// A property holding a variable number.
     typedef boost::shared_ptr<PropertyAbstract<int>> PropertyPtr;
+    /// The enabled variables, shared by the three lists.
     typedef boost::shared_ptr<sdk::ui::dialogs::propertybindings::models::EnabledVariablesListModel> ModelPtr;
 
+    /// Binds each of \a combos (which must outlive the bindings) to the property at the
+    /// same place in \a properties, over \a variables, and brings every property to a
+    /// listed variable at once.
     VariableChoiceBindings(const ModelPtr& variables, QComboBox* const (&combos)[3],
                            const PropertyPtr (&properties)[3]);
     ~VariableChoiceBindings();

@@ -27,6 +27,8 @@ public:
     {
     public:
         virtual ~DefaultVarAssignmentInterface() = default;
+        /// Sets the variables shown first; each property starts from its style value.
+        /// In a two-variable dialog \a var3 is hidden and never written.
         virtual void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
                                      PropertyAbstract<int>& var3) const = 0;
     };
@@ -41,6 +43,8 @@ public:
                                              const std::string& instructions, const std::vector<std::string>& labels,
                                              const DefaultVarAssignmentInterface& assignment);
 
+    /// Builds an empty dialog over \a parent; getInstance() sets it up, and is what a
+    /// host uses.
     explicit VariableSelectDialog(QWidget& parent);
     ~VariableSelectDialog() override;
 
@@ -51,6 +55,7 @@ public:
     /// Throws std::out_of_range, before showing anything, when labels are missing.
     void launch() override;
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 public Q_SLOTS:

@@ -14,6 +14,7 @@ namespace prompt {
 class ORRERY_PROMPTS_EXPORT VectorVarAssignStrategy
 {
 public:
+    /// The vector dialog, when needed, opens over \a parent, which must outlive the strategy.
     explicit VectorVarAssignStrategy(QWidget& parent) : m_parent(parent) {}
 
     /// False for plots without vectors and when the user cancels the dialog.

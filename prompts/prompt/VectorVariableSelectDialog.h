@@ -18,10 +18,13 @@ public:
     class VectorVarAssignment : public virtual VariableSelectDialog::DefaultVarAssignmentInterface
     {
     public:
+        /// Assigns for the vector components of \a plotType.
         explicit VectorVarAssignment(PlotType_e plotType) : plotType(plotType) {}
+        /// Sets the U, V and W variables shown first.
         void assignVariables(PropertyAbstract<int>& var1, PropertyAbstract<int>& var2,
                              PropertyAbstract<int>& var3) const override;
 
+        /// The plot type whose components are assigned (2D: no W).
         PlotType_e plotType;
     };
 

@@ -27,6 +27,7 @@ public:
     /// The chosen zone number; 0 when none is selected.
     int selectedZone();
 
+    /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
 private:

@@ -19,7 +19,9 @@ public:
     ZoneSelectPropertiesManager();
     virtual ~ZoneSelectPropertiesManager();
 
+    /// The zone numbers selected in the list.
     boost::shared_ptr<PropertyAbstract<std::set<int>>> selectedZones();
+    /// The zones enabled in the current frame, for the list.
     boost::shared_ptr<const sdk::ui::dialogs::propertybindings::models::ListModelInterface<int>>
     enabledZonesModel() const;
 

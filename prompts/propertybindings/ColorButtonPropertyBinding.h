@@ -22,6 +22,8 @@ public:
     /// colourings and RGB colouring may be chosen.
     ColorButtonPropertyBinding(QAbstractButton* button, const boost::shared_ptr<PropertyAbstract<int>>& property,
                                bool enableVarColoring);
+    /// Binds a style property, whose relevance the button follows; the properties
+    /// manager owns it, and it must outlive the binding.
     ColorButtonPropertyBinding(QAbstractButton* button, propertymanager::UIStylePropertyAbstract<int>& property,
                                bool enableVarColoring);
     ~ColorButtonPropertyBinding() override;

@@ -20,7 +20,9 @@ namespace propertymanager {
 template <typename T>
 struct GeneratedStyleEntry
 {
+    /// The property on the kernel's style value.
     boost::shared_ptr<styleproperties::KernelPropertyAbstract<T>> kernel;
+    /// The property handed out; the kernel property unless replaced.
     boost::shared_ptr<PropertyAbstract<T>> property;
 };
 
@@ -29,6 +31,7 @@ struct GeneratedStyleEntry
 class ORRERY_PROMPTS_EXPORT GeneratedStylePropertySet : public virtual UIKernelStylePropertiesAbstract
 {
 public:
+    /// The style path in front of every value's group and name.
     const toolbox::StringList& prefix() const { return m_prefix; }
 
     void submitProperties() override
@@ -50,6 +53,8 @@ protected:
         : UIKernelStylePropertiesAbstract(true), m_prefix(prefix)
     {}
 
+    /// The entry of style value \a group / \a name below the prefix: a deferred kernel
+    /// property in a modal set, an immediate one otherwise.
     template <typename T>
     GeneratedStyleEntry<T> makeEntry(const char* group, const char* name)
     {

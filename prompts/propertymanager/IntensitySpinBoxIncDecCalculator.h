@@ -11,6 +11,7 @@ class RGBColorOptsPropertiesGenerated;
 class ORRERY_PROMPTS_EXPORT IntensitySpinBoxIncDecCalculator : public virtual SpinBoxIncDecCalculatorBase
 {
 public:
+    /// Reads the channel variables of \a generated, which must outlive the calculator.
     explicit IntensitySpinBoxIncDecCalculator(const RGBColorOptsPropertiesGenerated& generated);
     double delta() override;
 

@@ -13,14 +13,19 @@ namespace orrery::sdk::ui::dialogs::propertybindings::intern {
 class ORRERY_CORE_EXPORT StringConverter
 {
 public:
+    /// Converts \a text, which the converter keeps a copy of.
     explicit StringConverter(const std::string& text) : m_text(text) {}
     virtual ~StringConverter() = default;
 
+    /// Reads the text into \a value: numbers in the C locale, a string as it is.
+    /// Throws InvalidArgumentException when the text is no such number.
+    ///@{
     virtual void convert(short& value);
     virtual void convert(int& value);
     virtual void convert(long& value);
     virtual void convert(double& value);
     virtual void convert(std::string& value);
+    ///@}
 
     /// Any other type has no text form here.
     template <typename T>

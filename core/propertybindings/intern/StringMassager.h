@@ -16,6 +16,7 @@ class ORRERY_CORE_EXPORT StringMassager
 public:
     virtual ~StringMassager();
 
+    /// Tidies \a text in place for a property of type T.
     template <typename T>
     void prepareText(const PropertyAbstract<T>&, QString& text) const
     {

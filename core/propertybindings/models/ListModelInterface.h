@@ -12,22 +12,39 @@ template <typename T>
 class ListModelInterface
 {
 public:
+    /// Fires when the whole list may have changed.
     typedef boost::signals2::signal<void()> DataChangedSignal;
+    /// Fires with the row whose text or value changed.
     typedef boost::signals2::signal<void(int)> ItemChangedSignal;
+    /// Fires with the first and last (inclusive) rows inserted or removed.
     typedef boost::signals2::signal<void(int, int)> ItemsRangeSignal;
 
+    /// Number of rows.
     virtual int size() const = 0;
+    /// The value of \a row (0-based, below size()).
     virtual T get(int row) const = 0;
+    /// The text shown for \a row, UTF-8.
     virtual std::string getStr(int row) const = 0;
+    /// The text an editor starts from when the user edits \a row.
     virtual std::string getStrForEdit(int row) const = 0;
+    /// Replaces the value of \a row, where the rows can be edited.
     virtual void set(T value, int row) = 0;
+    /// Takes the text the user typed into \a row, where the rows can be edited.
     virtual void setEditedItem(const std::string& text, int row) const = 0;
+    /// Whether the user may edit the rows in place.
     virtual bool isEditable() const = 0;
+    /// Whether \a row is a header: shown, but not a choice.
     virtual bool isHeader(int row) const = 0;
+    /// The row holding \a value, or -1.
     virtual int indexOf(const T& value) const = 0;
+    /// Called after each connection to the data-changed signal, so a model can
+    /// start watching its source only once someone listens.
     virtual void signalDataChangedConnected() const {}
+    /// Called after each connection to the item-changed signal.
     virtual void signalItemChangedConnected() const {}
+    /// Called after each connection to the items-inserted signal.
     virtual void signalItemsInsertedConnected() const {}
+    /// Called after each connection to the items-removed signal.
     virtual void signalItemsRemovedConnected() const {}
     virtual ~ListModelInterface() = default;
 
@@ -36,6 +53,7 @@ public:
     {
         return connected(m_dataChanged.connect(slot), &ListModelInterface::signalDataChangedConnected);
     }
+    /// One row changed; the row is passed.
     boost::signals2::connection connectToItemChanged(const ItemChangedSignal::slot_type& slot) const
     {
         return connected(m_itemChanged.connect(slot), &ListModelInterface::signalItemChangedConnected);
@@ -61,9 +79,14 @@ public:
     }
 
 protected:
+    /// Announces that the whole list may have changed; models call these emitters
+    /// after changing their rows.
     void emitDataChanged() const { m_dataChanged(); }
+    /// Announces a change of \a row.
     void emitItemChanged(int row) const { m_itemChanged(row); }
+    /// Announces rows \a first..\a last (inclusive), already inserted.
     void emitItemsInserted(int first, int last) const { m_itemsInserted(first, last); }
+    /// Announces rows \a first..\a last (inclusive), already removed.
     void emitItemsRemoved(int first, int last) const { m_itemsRemoved(first, last); }
 
 private:

@@ -2,11 +2,12 @@
 #include "core/CoreExport.h"
 #include "core/propertybindings/models/OptionRow.h"
 
-// The option rows offered for the host's enumerated style settings, in the
-// order a combo box shows them (not sorted by value). Values of host
-// enumerations are held as int.
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
+/// The option rows offered for the host's enumerated style settings, in the
+/// order a combo box shows them (not sorted by value). Values of host
+/// enumerations are held as int. Shown through a PremappedListModel.
+///@{
 ORRERY_CORE_EXPORT extern const OptionRow<int> isoSurfaceSelections[4];
 ORRERY_CORE_EXPORT extern const OptionRow<int> valueBlankCellModes[3];
 ORRERY_CORE_EXPORT extern const OptionRow<int> valueBlankRelOp[6];
@@ -56,5 +57,6 @@ ORRERY_CORE_EXPORT extern const OptionRow<int> ijkLines[3];
 ORRERY_CORE_EXPORT extern const OptionRow<int> fillMode[4];
 ORRERY_CORE_EXPORT extern const OptionRow<int> streamtracePlacementMethod[5];
 ORRERY_CORE_EXPORT extern const OptionRow<int> angleUnits[2];
+///@}
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

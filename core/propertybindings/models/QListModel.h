@@ -16,6 +16,7 @@ public:
     /// Role under which a row's value is offered.
     static constexpr int ValueRole = 1808;
 
+    /// Shows \a model and turns its change signals into Qt's model notifications.
     explicit QListModel(const ListModelInterface<T>& model) : m_model(model)
     {
         m_connections.add(model.connectToDataChanged([this] {
@@ -36,11 +37,14 @@ public:
         }));
     }
 
+    /// The model's rows; none below a row.
     int rowCount(const QModelIndex& parent = QModelIndex()) const override
     {
         return parent.isValid() ? 0 : m_model.size();
     }
 
+    /// The row's text for display and tool tip, its edit text when editable, its value
+    /// under ValueRole.
     QVariant data(const QModelIndex& index, int role) const override
     {
         if (!index.isValid() || index.row() >= m_model.size())
@@ -56,6 +60,7 @@ public:
         }
     }
 
+    /// Header rows are disabled; other rows are editable when the model is.
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
         Qt::ItemFlags f = QAbstractListModel::flags(index);
@@ -69,6 +74,7 @@ public:
         return f;
     }
 
+    /// Passes an edited text to the model; false when the model is not editable.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override
     {
         if (!index.isValid() || role != Qt::EditRole || !m_model.isEditable())
