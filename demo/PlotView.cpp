@@ -211,11 +211,7 @@ void PlotView::mouseReleaseEvent(QMouseEvent*)
 
 void PlotView::wheelEvent(QWheelEvent* event)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     const QPointF at = event->position();
-#else
-    const QPointF at = event->posF();
-#endif
     // One notch of a wheel (120) zooms by a quarter.
     zoomAt(at, std::pow(1.25, event->angleDelta().y() / 120.0));
     event->accept();
