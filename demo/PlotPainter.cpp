@@ -278,7 +278,7 @@ void PlotPainter::paintAxes2D(QPainter& painter, const QRectF& plot, const PlotS
                          Qt::AlignRight | Qt::AlignVCenter, elide(tick.label, yLabelRoom));
     }
     // Offsets and powers of ten once, at the axis ends; the titles take the room left.
-    const double titleRow = plot.bottom() + 6 + em;
+    const double titleRow = plot.bottom() + 10 + em;
     const double xNote = x.note.isEmpty() ? 0.0 : width(x.note) + em;
     painter.drawText(QRectF(plot.right() - xNote, titleRow, xNote, em), Qt::AlignRight, x.note);
     if (!y.note.isEmpty())
