@@ -57,6 +57,17 @@ StyleRule withinRange(const std::string& what, long lowest, long highest)
     };
 }
 
+StyleRule atLeast(const std::string& what, long lowest)
+{
+    return [=](const StyleDatum& value, const RuleContext&) {
+        const long v = std::get<long>(value);
+        if (v < lowest)
+            return WriteVerdict::refuse(
+                (boost::format("The %1% must be at least %2%, not %3%.") % what % lowest % v).str());
+        return WriteVerdict::accept();
+    };
+}
+
 StyleRule greaterThanZero(const std::string& what)
 {
     return [=](const StyleDatum& value, const RuleContext&) {

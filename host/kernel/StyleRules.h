@@ -13,6 +13,8 @@ StyleRule variableNumber();
 // 0 (no zone) or a zone of the data set.
 StyleRule zoneNumber();
 StyleRule withinRange(const std::string& what, long lowest, long highest);
+// A long of at least lowest.
+StyleRule atLeast(const std::string& what, long lowest);
 StyleRule greaterThanZero(const std::string& what);
 StyleRule percentage(const std::string& what);
 StyleRule notEmpty(const std::string& what);

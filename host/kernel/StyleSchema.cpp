@@ -1,5 +1,4 @@
 #include "host/kernel/StyleSchema.h"
-#include <climits>
 #include <stdexcept>
 #include "host/kernel/StyleRules.h"
 #include "host/kernel/StyleState.h"
@@ -69,9 +68,9 @@ void StyleSchema::addPlotAnnotations()
     add("FrameLayout/ActiveZone", {StyleType::Long, long(0), rules::zoneNumber()}); // 0: none
     addVariable("GlobalContour/Var", 0); // 0: the first variable not on an axis
     add("GlobalContour/ColorMap", {StyleType::Long, long(0), rules::withinRange("Colour map", 0, 2)});
-    add("IndexRange/Begin", {StyleType::Long, long(1), rules::withinRange("First index", 1, LONG_MAX)});
-    add("IndexRange/End", {StyleType::Long, long(0), rules::withinRange("Last index", 0, LONG_MAX)}); // 0: the last
-    add("IndexRange/Skip", {StyleType::Long, long(1), rules::withinRange("Index skip", 1, LONG_MAX)});
+    add("IndexRange/Begin", {StyleType::Long, long(1), rules::atLeast("first index", 1)});
+    add("IndexRange/End", {StyleType::Long, long(0), rules::atLeast("last index", 0)}); // 0: the last
+    add("IndexRange/Skip", {StyleType::Long, long(1), rules::atLeast("index skip", 1)});
     add("GlobalScatter/Symbol", {StyleType::String, std::string(), {}}); // empty: a disc
     for (const char* axis : {"XDetail", "YDetail"})
         add(std::string("TwoDAxis/") + axis + "/IsLog", {StyleType::Bool, false, {}});
