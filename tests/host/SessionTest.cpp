@@ -45,6 +45,14 @@ protected:
     QTemporaryDir folder;
 };
 
+std::string undoName()
+{
+    char* name = OrrUtilUndoGetStepName();
+    const std::string text = name ? name : "";
+    OrrUtilStringDealloc(&name);
+    return text;
+}
+
 TEST_F(Session, ASavedSessionReplaysToTheSameStateDataSetIncluded)
 {
     ASSERT_TRUE(QDir(folder.path()).mkdir("data"));
@@ -121,6 +129,36 @@ TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLineAndNothingIsApplie
     std::ofstream(session) << std::string(text).replace(text.find("CSV table"), 9, "Gone") << "\n";
     result = JournalReplayer::replayFile(session);
     EXPECT_NE(result.message.find(", line 2: the loader \"Gone\" for "), std::string::npos) << result.message;
+}
+
+TEST_F(Session, ANewDataSetKeepsTheChoicesItCanAndFillsTheOthersWithNoUndoLeft)
+{
+    Kernel::setPlotType(PlotType_ThreeD);
+    Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 5L);
+    Kernel::setStyle({"GlobalThreeDVector", "WVar"}, 4L);
+    ASSERT_TRUE(load(file("two.csv", "x,y\n1,2\n3,4\n")));
+    EXPECT_EQ(undoName(), "") << "no step may apply to another data set";
+    ASSERT_TRUE(load(file("four.csv", "x,y,u,v\n1,2,3,4\n5,6,7,9\n2,2,2,1\n")));
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "XDetail", "VarNum"}), 1);
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "YDetail", "VarNum"}), 2);
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "ZDetail", "VarNum"}), 3) << "an axis the small file doubled";
+    for (const std::string& key : orrery::kernel::Kernel::instance().schema().variableKeys()) {
+        const long var = std::get<long>(orrery::kernel::Kernel::instance().currentStyle(key));
+        EXPECT_TRUE(var >= 0 && var <= 4) << key << " " << var;
+    }
+
+    Kernel::setStyle({"ThreeDAxis", "XDetail", "VarNum"}, 4L);
+    Kernel::setStyle({"ThreeDAxis", "ZDetail", "VarNum"}, 2L);
+    Kernel::setStyle({"ThreeDAxis", "YDetail", "VarNum"}, 1L);
+    ASSERT_TRUE(load(file("five.csv", "a,b,c,d,e\n1,2,3,4,5\n2,3,4,5,6\n")));
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "XDetail", "VarNum"}), 4) << "a valid choice stays";
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "YDetail", "VarNum"}), 1);
+    EXPECT_EQ(styleValue<long>({"ThreeDAxis", "ZDetail", "VarNum"}), 2);
+    // A vector the data set cannot give is replaced whole, by names where it can.
+    Kernel::setStyle({"GlobalTwoDVector", "UVar"}, 5L);
+    ASSERT_TRUE(load(file("uv.csv", "x,y,V,U\n1,2,3,4\n2,3,5,7\n")));
+    EXPECT_EQ(styleValue<long>({"GlobalTwoDVector", "UVar"}), 4);
+    EXPECT_EQ(styleValue<long>({"GlobalTwoDVector", "VVar"}), 3);
 }
 
 } // namespace
