@@ -1,11 +1,60 @@
 #include <cstdio>
+#include <memory>
 #include <QApplication>
 #include <QCommandLineParser>
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
+#include "demo/SessionAutosave.h"
+#include "demo/StdinJournal.h"
 #include "demo/Tour.h"
 #include "demo/Translations.h"
-#include "host/kernel/KernelDriver.h"
+#include "demo/WindowLayout.h"
+#include "host/kernel/FileLoad.h"
+#include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
+
+namespace {
+
+// Starts the autosave, restoring a session a dead run left behind when asked to
+// (or, in a window, when the user agrees). Null when the session is not
+// autosaved; problems are reported, never fatal.
+std::unique_ptr<SessionAutosave> startAutosave(MainWindow& window, bool recover, bool headless, bool& restoreFailed)
+{
+    auto autosave = std::make_unique<SessionAutosave>();
+    QString message;
+    const auto tell = [&](const QString& text, bool problem) {
+        std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
+        if (problem && !headless)
+            window.complain(text);
+        else
+            window.report(text);
+    };
+    if (!autosave->lock(message)) {
+        tell(message, true);
+        return nullptr;
+    }
+    if (autosave->leftOver()) {
+        if (!recover && headless) {
+            tell(QString("An autosaved session is waiting in %1; --recover restores it.").arg(autosave->path()), false);
+            return nullptr;
+        }
+        const QString question =
+            MainWindow::tr("The demo did not end normally last time. Restore the session it was working on?");
+        if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
+            restoreFailed = !autosave->restore(window.replayOptions(), message);
+            tell(message, restoreFailed);
+            return autosave;
+        }
+        tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);
+    }
+    if (!autosave->start(message)) {
+        tell(message, true);
+        return nullptr;
+    }
+    return autosave;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -20,7 +69,14 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("file", "Data file to load instead of the built-in sample data set.", "[FILE]");
-    const QCommandLineOption replay("replay", "Play the journal back after loading.", "journal");
+    const QCommandLineOption replay("replay", "Play the session (a journal) back after loading.", "session");
+    const QCommandLineOption replayChanged("replay-changed",
+                                           "Load the data files a session names even where their content has changed.");
+    const QCommandLineOption saveSession(
+        "save-session", "Save the session as it stands after the file and the replay to <out>, then exit.", "out");
+    const QCommandLineOption recover(
+        "recover", "Restore the session autosaved by a run that did not end normally, without asking.");
+    const QCommandLineOption commands("stdin", "Play journal lines read from standard input as they arrive.");
     const QCommandLineOption tour("tour",
                                   "Open, drive and photograph every dialog and the plot after it, saving the "
                                   "pictures in <dir>, then exit.",
@@ -30,7 +86,7 @@ int main(int argc, char** argv)
                                       "Show the texts in <language> (for example de); the default follows the "
                                       "system locale, en shows the original English texts.",
                                       "language");
-    parser.addOptions({replay, tour, plotType, language});
+    parser.addOptions({replay, replayChanged, saveSession, recover, commands, tour, plotType, language});
     parser.process(app);
     for (const QString& problem : Translations::install(app, parser.value(language)))
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
@@ -51,12 +107,28 @@ int main(int argc, char** argv)
     }
 
     MainWindow window;
-    orrery::kernel::KernelDriver::loadSampleDataSet(
-        "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
     const bool touring = parser.isSet(tour);
+    // A run without anyone at the keyboard never waits for an answer.
+    const bool headless = touring || parser.isSet(saveSession);
+    if (parser.isSet(saveSession))
+        orrery::kernel::Kernel::instance().messageBoxes().setHandler([](const std::string& text, int) {
+            std::fprintf(stderr, "orrery-demo: %s\n", text.c_str());
+            return 0;
+        });
+    if (parser.isSet(replayChanged))
+        window.setChangedFiles(MainWindow::ChangedFiles::Load);
+    else if (headless)
+        window.setChangedFiles(MainWindow::ChangedFiles::Refuse);
+    orrery::kernel::FileLoad::loadSample(
+        "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
+    // A tour is a demonstration, not a session worth keeping.
+    bool restoreFailed = false;
+    const std::unique_ptr<SessionAutosave> autosave =
+        touring ? nullptr : startAutosave(window, parser.isSet(recover), headless, restoreFailed);
     // Without a window to show them in, failures end the run.
-    if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))
-        && touring)
+    const bool fileLoaded =
+        files.isEmpty() || (touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()));
+    if (!fileLoaded && touring)
         return 1;
     std::string error;
     if (type && !HostStyle::setInteger("FrameLayout/PlotType", type, &error)) {
@@ -64,10 +136,25 @@ int main(int argc, char** argv)
         if (touring)
             return 1;
     }
+    if (parser.isSet(saveSession)) {
+        if (restoreFailed || !fileLoaded || (parser.isSet(replay) && !window.replayJournal(parser.value(replay)))
+            || !window.saveJournal(parser.value(saveSession)))
+            return 1;
+        if (autosave)
+            autosave->finish();
+        return 0;
+    }
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;
     if (touring)
         return Tour::run(window, parser.value(tour));
+    if (parser.isSet(commands))
+        new StdinJournal(&window);
+    WindowLayout::restore(window);
     window.show();
-    return app.exec();
+    const int code = app.exec();
+    WindowLayout::save(window);
+    if (autosave)
+        autosave->finish();
+    return code;
 }
