@@ -138,6 +138,14 @@ bool SessionAutosave::restore(const JournalReplayer::Options& options, QString& 
     }
     const QString kept = QString(taken).replace(".restoring-", ".broken-");
     QFile::rename(taken, kept);
+    // The line being written when the program died is all that is missing.
+    if (result.cutOff) {
+        message = QObject::tr("Restored the autosaved session (%n command(s)) up to where it was cut off.\n%1\n"
+                              "The autosaved session is kept as %2.",
+                              nullptr, result.played)
+                      .arg(QString::fromStdString(result.message), QFileInfo::exists(kept) ? kept : taken);
+        return true;
+    }
     message = QObject::tr("The autosaved session could not be restored whole; the %n command(s) before the bad "
                           "line were kept.\n%1\nThe autosaved session is kept as %2.",
                           nullptr, result.played)

@@ -31,7 +31,8 @@ public:
     bool start(QString& error);
     // Plays the left-over autosave back and starts a new one. A file that cannot be
     // played back whole is kept as autosave.orrery-journal.broken-<time>; message
-    // then says why (file and line) and where it is. Changed data files are
+    // then says why (file and line) and where it is. A file cut off where its
+    // writer died counts as restored up to the cut. Changed data files are
     // handled as options say.
     bool restore(const orrery::kernel::JournalReplayer::Options& options, QString& message);
     // Keeps the left-over autosave as autosave.orrery-journal.<reason>-<time>

@@ -137,12 +137,13 @@ int main(int argc, char** argv)
             return 1;
     }
     if (parser.isSet(saveSession)) {
-        if (restoreFailed || !fileLoaded || (parser.isSet(replay) && !window.replayJournal(parser.value(replay)))
-            || !window.saveJournal(parser.value(saveSession)))
-            return 1;
-        if (autosave)
+        const bool saved = !restoreFailed && fileLoaded
+                           && (!parser.isSet(replay) || window.replayJournal(parser.value(replay)))
+                           && window.saveJournal(parser.value(saveSession));
+        // The autosave stays only while it holds a restored session saved nowhere else.
+        if (autosave && (saved || restoreFailed || !parser.isSet(recover)))
             autosave->finish();
-        return 0;
+        return saved ? 0 : 1;
     }
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;

@@ -1548,6 +1548,19 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
 Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Restored the autosaved session (%n command(s)) up to where it was cut off.
+%1
+The autosaved session is kept as %2.</source>
+        <translation>
+            <numerusform>Die automatisch gesicherte Sitzung wurde bis zur abgeschnittenen Stelle wiederhergestellt (%n Befehl).
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+            <numerusform>Die automatisch gesicherte Sitzung wurde bis zur abgeschnittenen Stelle wiederhergestellt (%n Befehle).
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RGBColorOpts</name>

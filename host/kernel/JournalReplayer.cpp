@@ -161,11 +161,12 @@ public:
     Result replay(std::istream& in)
     {
         std::string fault; // why the line after the last one read cannot be played
+        bool cutOff = false;
         std::string line;
         for (Read read; (read = readLine(in, line, m_options.lastLineNeedsEnd)) != Read::End;) {
             if (read == Read::TooLong)
                 fault = "the line is longer than " + std::to_string(MaxLineLength) + " characters.";
-            else if (read == Read::CutOff)
+            else if ((cutOff = read == Read::CutOff))
                 fault = "the line was cut off while it was written; it was not played.";
             else if (!isPrintable(line))
                 fault = "the line holds control characters; this is not a journal.";
@@ -191,10 +192,14 @@ public:
             else
                 ++m_result.played;
         }
-        if (m_result.ok && !fault.empty())
+        if (m_result.ok && !fault.empty()) {
             fail(int(m_lines.size() + 1), fault);
-        if (m_result.ok && m_openBrackets > 0 && m_options.lastLineNeedsEnd)
+            m_result.cutOff = cutOff;
+        }
+        if (m_result.ok && m_openBrackets > 0 && m_options.lastLineNeedsEnd) {
             fail(m_stepLine, "the step begun here has no end; it was taken back.");
+            m_result.cutOff = true;
+        }
         // A step the replay stopped inside is taken back whole; one a complete
         // journal leaves open is closed as a step.
         if (!m_result.ok && m_openBrackets > 0)

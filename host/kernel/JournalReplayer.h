@@ -23,6 +23,9 @@ public:
         int line = 0;        // the line that stopped the replay (1-based), 0 when ok
         int played = 0;      // commands carried out
         std::string message; // why it stopped, naming the source and the line
+        // It stopped where the journal's writer died (see lastLineNeedsEnd):
+        // everything complete before that was played.
+        bool cutOff = false;
     };
 
     struct Options

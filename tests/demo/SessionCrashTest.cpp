@@ -128,7 +128,7 @@ TEST_F(SessionCrash, AKilledDemoIsRestoredWithItsStyleAndDataSetUpToItsLastLine)
     EXPECT_EQ(replayed(at("out.orrery-journal")), expected);
 }
 
-TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndKeptAside)
+TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndABrokenOneIsKeptAside)
 {
     ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
     const QByteArray cut = "sample \"Sample\"\nstyle FrameLayout/PlotType 3\nstyle GlobalScatter/RelativeSize 2";
@@ -138,16 +138,26 @@ TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndKeptAside)
     file.close();
 
     std::string said;
-    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1);
+    ASSERT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 0) << said;
     EXPECT_NE(said.find(autosave().toStdString() + ", line 3: the line was cut off"), std::string::npos) << said;
     ASSERT_EQ(keptAside().size(), 1) << said;
     QFile aside(at("data/orrery-demo/" + keptAside().front()));
     ASSERT_TRUE(aside.open(QIODevice::ReadOnly));
     EXPECT_EQ(aside.readAll(), cut);
-    // What was restored is autosaved anew, the cut line left out.
-    QFile restored(autosave());
-    ASSERT_TRUE(restored.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(restored.readAll().endsWith("style FrameLayout/PlotType 3\n"));
+    EXPECT_FALSE(QFile::exists(autosave()));
+    replayed(at("out.orrery-journal"));
+    EXPECT_EQ(testsupport::styleValue<long>({"FrameLayout", "PlotType"}), 3);
+    EXPECT_EQ(testsupport::styleValue<double>({"GlobalScatter", "RelativeSize"}), 1.0) << "the cut line is left out";
+
+    // Not a journal at all: nothing is applied and the file is kept.
+    file.open(QIODevice::WriteOnly);
+    file.write("\x7f"
+               "ELF\x02\x01 binary\n");
+    file.close();
+    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1);
+    EXPECT_NE(said.find(autosave().toStdString() + ", line 1: the line holds control characters"), std::string::npos)
+        << said;
+    EXPECT_EQ(keptAside().size(), 2) << said;
 }
 
 } // namespace
