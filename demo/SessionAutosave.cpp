@@ -8,7 +8,9 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include "demo/MainWindow.h"
 #include "host/kernel/Kernel.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/AppLock.h"
 
 using orrery::kernel::JournalReplayer;
@@ -161,4 +163,41 @@ void SessionAutosave::finish()
         m_file.close();
         m_file.remove();
     }
+}
+
+std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, bool recover, bool headless,
+                                                           bool& restoreFailed)
+{
+    auto autosave = std::make_unique<SessionAutosave>();
+    QString message;
+    const auto tell = [&](const QString& text, bool problem) {
+        std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
+        if (problem && !headless)
+            window.complain(text);
+        else
+            window.report(text);
+    };
+    if (!autosave->lock(message)) {
+        tell(message, true);
+        return nullptr;
+    }
+    if (autosave->leftOver()) {
+        if (!recover && headless) {
+            tell(QString("An autosaved session is waiting in %1; --recover restores it.").arg(autosave->path()), false);
+            return nullptr;
+        }
+        const QString question =
+            MainWindow::tr("The demo did not end normally last time. Restore the session it was working on?");
+        if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
+            restoreFailed = !autosave->restore(window.replayOptions(), message);
+            tell(message, restoreFailed);
+            return autosave;
+        }
+        tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);
+    }
+    if (!autosave->start(message)) {
+        tell(message, true);
+        return nullptr;
+    }
+    return autosave;
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <string>
 #include <QFile>
 #include <QLockFile>
@@ -12,9 +13,18 @@
 // thousands of lines does not sync each one). A normal end removes the file; a
 // start that finds one left over can restore the session from it. A lock beside
 // the file keeps a second running instance out of it.
+class MainWindow;
+
 class SessionAutosave
 {
 public:
+    // Starts the autosave of window's session, first restoring one a dead run
+    // left behind when recover is set or, with someone at the keyboard, the user
+    // agrees. Null when the session is not autosaved; problems are reported
+    // (on stderr too), never fatal. headless: nobody is asked anything.
+    static std::unique_ptr<SessionAutosave> startFor(MainWindow& window, bool recover, bool headless,
+                                                     bool& restoreFailed);
+
     // The file is autosave.orrery-journal in folder; empty: the application's
     // local data folder.
     explicit SessionAutosave(const QString& folder = QString());

@@ -11,50 +11,6 @@
 #include "demo/WindowLayout.h"
 #include "host/kernel/FileLoad.h"
 #include "host/kernel/Kernel.h"
-#include "host/kernel/OrrUtilHost.h"
-
-namespace {
-
-// Starts the autosave, restoring a session a dead run left behind when asked to
-// (or, in a window, when the user agrees). Null when the session is not
-// autosaved; problems are reported, never fatal.
-std::unique_ptr<SessionAutosave> startAutosave(MainWindow& window, bool recover, bool headless, bool& restoreFailed)
-{
-    auto autosave = std::make_unique<SessionAutosave>();
-    QString message;
-    const auto tell = [&](const QString& text, bool problem) {
-        std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
-        if (problem && !headless)
-            window.complain(text);
-        else
-            window.report(text);
-    };
-    if (!autosave->lock(message)) {
-        tell(message, true);
-        return nullptr;
-    }
-    if (autosave->leftOver()) {
-        if (!recover && headless) {
-            tell(QString("An autosaved session is waiting in %1; --recover restores it.").arg(autosave->path()), false);
-            return nullptr;
-        }
-        const QString question =
-            MainWindow::tr("The demo did not end normally last time. Restore the session it was working on?");
-        if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
-            restoreFailed = !autosave->restore(window.replayOptions(), message);
-            tell(message, restoreFailed);
-            return autosave;
-        }
-        tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);
-    }
-    if (!autosave->start(message)) {
-        tell(message, true);
-        return nullptr;
-    }
-    return autosave;
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -124,7 +80,7 @@ int main(int argc, char** argv)
     // A tour is a demonstration, not a session worth keeping.
     bool restoreFailed = false;
     const std::unique_ptr<SessionAutosave> autosave =
-        touring ? nullptr : startAutosave(window, parser.isSet(recover), headless, restoreFailed);
+        touring ? nullptr : SessionAutosave::startFor(window, parser.isSet(recover), headless, restoreFailed);
     // Without a window to show them in, failures end the run.
     const bool fileLoaded =
         files.isEmpty() || (touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()));
