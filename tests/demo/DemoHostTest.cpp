@@ -1,6 +1,8 @@
+#include <memory>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QImage>
 #include <QMenu>
@@ -9,6 +11,7 @@
 #include "demo/MainWindow.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
+#include "demo/WindowLayout.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
@@ -288,6 +291,21 @@ TEST_F(DemoHost, TheTitleNamesTheFileAndItsChangesAndRecentFilesListWhatWasOpene
     EXPECT_FALSE(recent->actions()[1]->isEnabled()) << "a file that is gone is greyed";
     EXPECT_TRUE(recent->actions()[2]->isEnabled());
     EXPECT_EQ(recent->actions()[1]->toolTip(), QDir::toNativeSeparators(dir.filePath("second.csv")));
+}
+
+TEST_F(DemoHost, TheWindowsSizeAndDocksAreKeptForTheNextRun)
+{
+    EXPECT_FALSE(WindowLayout::restore(*std::make_unique<MainWindow>())) << "nothing kept yet";
+    {
+        MainWindow window;
+        window.resize(700, 500);
+        window.findChild<QDockWidget*>("journalDock")->setFloating(true);
+        WindowLayout::save(window);
+    }
+    MainWindow window;
+    EXPECT_TRUE(WindowLayout::restore(window));
+    EXPECT_EQ(window.size(), QSize(700, 500));
+    EXPECT_TRUE(window.findChild<QDockWidget*>("journalDock")->isFloating());
 }
 
 } // namespace
