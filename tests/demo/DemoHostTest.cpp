@@ -3,11 +3,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QFile>
 #include <QImage>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QUrl>
 #include "demo/MainWindow.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
@@ -275,7 +278,15 @@ TEST_F(DemoHost, TheTitleNamesTheFileAndItsChangesAndRecentFilesListWhatWasOpene
     const QString session = dir.filePath("s.orrery-journal");
     ASSERT_TRUE(window.saveJournal(session));
     EXPECT_FALSE(window.isWindowModified());
-    ASSERT_TRUE(window.open(dir.filePath("second.csv")));
+    // Dropped on the window, a file opens as with File > Open.
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(dir.filePath("second.csv"))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QApplication::processEvents();
     EXPECT_TRUE(window.windowTitle().startsWith("second.csv"));
 
     ASSERT_TRUE(window.open(session)) << "a session is replayed";
