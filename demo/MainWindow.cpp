@@ -17,13 +17,16 @@
 #include <QProgressDialog>
 #include <QStatusBar>
 #include <QTimer>
+#include "demo/FileDrops.h"
 #include "demo/HostStyle.h"
 #include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
+#include "demo/RecentFiles.h"
 #include "demo/StateView.h"
+#include "demo/WindowTitle.h"
+#include "host/kernel/FileLoad.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/Kernel.h"
-#include "host/kernel/KernelDriver.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "host/loaders/LoadProgress.h"
@@ -34,6 +37,7 @@
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
 using orrery::dialogs::prompt::ChooseLoaderDialog;
+using orrery::kernel::FileLoad;
 using orrery::kernel::JournalReplayer;
 using orrery::kernel::Kernel;
 using orrery::sdk::AppLock;
@@ -126,12 +130,15 @@ MainWindow::MainWindow()
 
     QMenu* file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open..."), this, &MainWindow::openFile)->setShortcut(QKeySequence::Open);
+    QMenu* recent = file->addMenu(tr("Open &Recent"));
+    recent->setObjectName("fileOpenRecent");
+    RecentFiles::attach(*recent, [this](const QString& path) { open(path); });
     buildSampleMenu(*file->addMenu(tr("Open Sa&mple")));
     file->addSeparator();
-    QAction* save = file->addAction(tr("&Save Journal..."), this, &MainWindow::saveJournalAs);
-    save->setObjectName("fileSaveJournal");
+    file->addAction(tr("Open S&ession..."), this, &MainWindow::replayJournalFrom)->setObjectName("fileOpenSession");
+    QAction* save = file->addAction(tr("&Save Session..."), this, &MainWindow::saveJournalAs);
+    save->setObjectName("fileSaveSession");
     save->setShortcut(QKeySequence::Save);
-    file->addAction(tr("&Replay Journal..."), this, &MainWindow::replayJournalFrom)->setObjectName("fileReplayJournal");
     file->addSeparator();
     QAction* quit = new QAction(tr("&Quit"), this);
     quit->setShortcut(QKeySequence::Quit);
@@ -202,7 +209,7 @@ MainWindow::MainWindow()
         }
     });
     // A replay adds thousands of lines: they are shown once per idle moment, and
-    // the view keeps the newest (Save Journal writes them all).
+    // the view keeps the newest (Save Session writes them all).
     const int shownLines = 5000;
     m_journal->setMaximumBlockCount(shownLines);
     auto* journalLines = new IdleBatch(
@@ -213,6 +220,8 @@ MainWindow::MainWindow()
         [this](const auto&) { refreshActionsWhenIdle(); });
     refreshUndoActions();
     refreshViewActions();
+    m_title = new WindowTitle(*this);
+    new FileDrops(*this, [this](const QString& path) { open(path); });
     resize(1180, 760);
     resizeDocks({stateDock}, {400}, Qt::Horizontal);
     resizeDocks({answersDock}, {120}, Qt::Vertical);
@@ -358,7 +367,7 @@ bool MainWindow::loadFile(const QString& path)
         ProgressWhileLoading progress(*this, path);
         try {
             // The native name: a file name that is not UTF-8 must still open.
-            loaded = loader->load(QFile::encodeName(path).toStdString(), error);
+            loaded = FileLoad::load(*loader, QFile::encodeName(path).toStdString(), error);
         } catch (const std::exception& e) {
             error = e.what();
         }
@@ -372,6 +381,7 @@ bool MainWindow::loadFile(const QString& path)
     if (!summary.empty())
         line += ": " + QString::fromStdString(summary);
     report(line);
+    RecentFiles::add(path);
     return true;
 }
 
@@ -379,7 +389,7 @@ bool MainWindow::replayJournal(const QString& path)
 {
     JournalReplayer::Result result;
     try {
-        result = JournalReplayer::replayFile(QFile::encodeName(path).toStdString());
+        result = JournalReplayer::replayFile(QFile::encodeName(path).toStdString(), replayOptions(path));
     } catch (const std::exception& e) {
         result.ok = false;
         result.message = path.toStdString() + ": " + e.what();
@@ -391,7 +401,35 @@ bool MainWindow::replayJournal(const QString& path)
         return false;
     }
     report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));
+    RecentFiles::add(path);
+    m_title->markSaved();
     return true;
+}
+
+JournalReplayer::Options MainWindow::replayOptions(const QString& journal) const
+{
+    JournalReplayer::Options options;
+    if (!journal.isEmpty())
+        options.folder = QFile::encodeName(QFileInfo(journal).absolutePath()).toStdString();
+    if (m_changedFiles == ChangedFiles::Load)
+        options.acceptChangedFile = [](const std::string&) { return true; };
+    else if (m_changedFiles == ChangedFiles::Ask)
+        options.acceptChangedFile = [](const std::string& message) {
+            const QString question = tr("%1\n\nLoad it as it is now?").arg(QString::fromStdString(message));
+            return OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1;
+        };
+    return options;
+}
+
+bool MainWindow::isSession(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == "orrery-journal" || suffix == "orj";
+}
+
+bool MainWindow::open(const QString& path)
+{
+    return isSession(path) ? replayJournal(path) : loadFile(path);
 }
 
 bool MainWindow::saveJournal(const QString& path)
@@ -401,30 +439,33 @@ bool MainWindow::saveJournal(const QString& path)
         complain(QString::fromStdString(error));
         return false;
     }
-    report(tr("Saved the journal to %1").arg(path));
+    report(tr("Saved the session to %1").arg(path));
+    RecentFiles::add(path);
+    m_title->markSaved();
     return true;
 }
 
 void MainWindow::openFile()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open Data File"), QString(),
-                                                      tr("Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(
+        this, tr("Open Data File"), QString(),
+        tr("Data files and sessions (*.csv *.txt *.dat *.zbk *.vtk *.orrery-journal *.orj);;All files (*)"));
     if (!path.isEmpty())
-        loadFile(path);
+        open(path);
 }
 
 void MainWindow::saveJournalAs()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save Journal"), "journal.orj", tr("Journals (*.orj);;All files (*)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save Session"), "session.orrery-journal",
+                                                      tr("Sessions (*.orrery-journal);;All files (*)"));
     if (!path.isEmpty())
         saveJournal(path);
 }
 
 void MainWindow::replayJournalFrom()
 {
-    const QString path =
-        QFileDialog::getOpenFileName(this, tr("Replay Journal"), QString(), tr("Journals (*.orj);;All files (*)"));
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open Session"), QString(),
+                                                      tr("Sessions (*.orrery-journal *.orj);;All files (*)"));
     if (!path.isEmpty())
         replayJournal(path);
 }
@@ -439,8 +480,8 @@ QStringList MainWindow::sampleFolders()
 void MainWindow::buildSampleMenu(QMenu& menu)
 {
     menu.addAction(tr("Built-in: Heated Plate"), this, [this] {
-        orrery::kernel::KernelDriver::loadSampleDataSet(
-            "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
+        FileLoad::loadSample("Sample",
+                             Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
         report(tr("Loaded the built-in sample data set"));
     });
     QStringList seen;

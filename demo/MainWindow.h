@@ -2,6 +2,7 @@
 #include <boost/signals2/connection.hpp>
 #include <QMainWindow>
 #include "demo/DialogCatalog.h"
+#include "host/kernel/JournalReplayer.h"
 
 class QAction;
 class QActionGroup;
@@ -9,6 +10,7 @@ class QPlainTextEdit;
 class PlotMenus;
 class PlotView;
 class StateView;
+class WindowTitle;
 
 // The demo host: a live plot of the current frame, a menu of every dialog, the
 // host's state and journal beside them, undo and redo of the kernel's steps.
@@ -23,10 +25,25 @@ public:
     // extension does not name exactly one. False, with a message, on failure;
     // the data set is then unchanged.
     bool loadFile(const QString& path);
-    // Plays a journal back; a bad line is reported with its number and stops
-    // the replay, keeping what was played before it.
+    // Plays a journal (a session) back; a bad line is reported with its number
+    // and stops the replay, keeping what was played before it.
     bool replayJournal(const QString& path);
     bool saveJournal(const QString& path);
+    // A data file is loaded, a session (.orrery-journal, .orj) replayed.
+    bool open(const QString& path);
+    static bool isSession(const QString& path);
+
+    // What a replay does with a data file whose content is not what the session
+    // recorded: asks the user (the default), refuses it or loads it.
+    enum class ChangedFiles
+    {
+        Ask,
+        Refuse,
+        Load
+    };
+    void setChangedFiles(ChangedFiles policy) { m_changedFiles = policy; }
+    // How a replay of journal (a file, or empty) runs in this window.
+    orrery::kernel::JournalReplayer::Options replayOptions(const QString& journal = QString()) const;
     // Opens the dialog and runs it; returns the line that reports its answers.
     QString runDialog(const DialogCatalog::Entry& entry,
                       const std::function<void(DialogCatalog::Dialog&)>& whileOpen = nullptr);
@@ -53,6 +70,8 @@ private:
     QPlainTextEdit* m_answers;
     QPlainTextEdit* m_journal;
     StateView* m_state;
+    WindowTitle* m_title;
+    ChangedFiles m_changedFiles = ChangedFiles::Ask;
     QAction* m_undo;
     QAction* m_redo;
     QActionGroup* m_plotTypes;

@@ -1,14 +1,19 @@
 #include <cstdio>
 #include <cstring>
+#include <memory>
 #include <QApplication>
 #include <QCommandLineParser>
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
 #include "demo/PlotView.h"
+#include "demo/SessionAutosave.h"
+#include "demo/StdinJournal.h"
 #include "demo/Tour.h"
 #include "demo/Translations.h"
-#include "host/kernel/KernelDriver.h"
+#include "demo/WindowLayout.h"
+#include "host/kernel/FileLoad.h"
+#include "host/kernel/Kernel.h"
 
 namespace {
 
@@ -40,7 +45,14 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("file", "Data file to load instead of the built-in sample data set.", "[FILE]");
-    const QCommandLineOption replay("replay", "Play the journal back after loading.", "journal");
+    const QCommandLineOption replay("replay", "Play the session (a journal) back after loading.", "session");
+    const QCommandLineOption replayChanged("replay-changed",
+                                           "Load the data files a session names even where their content has changed.");
+    const QCommandLineOption saveSession(
+        "save-session", "Save the session as it stands after the file and the replay to <out>, then exit.", "out");
+    const QCommandLineOption recover(
+        "recover", "Restore the session autosaved by a run that did not end normally, without asking.");
+    const QCommandLineOption commands("stdin", "Play journal lines read from standard input as they arrive.");
     const QCommandLineOption tour("tour",
                                   "Open, drive and photograph every dialog and the plot after it, saving the "
                                   "pictures in <dir>, then exit.",
@@ -56,7 +68,8 @@ int main(int argc, char** argv)
                                         "file");
     const QCommandLineOption dpi("dpi", "With --export to a PNG: <n> dots per inch (96 is one pixel a screen pixel).",
                                  "n", "96");
-    parser.addOptions({replay, tour, plotType, language, exportPlot, dpi});
+    parser.addOptions(
+        {replay, replayChanged, saveSession, recover, commands, tour, plotType, language, exportPlot, dpi});
     parser.process(app);
     for (const QString& problem : Translations::install(app, parser.value(language)))
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(problem));
@@ -77,12 +90,29 @@ int main(int argc, char** argv)
     }
 
     MainWindow window;
-    orrery::kernel::KernelDriver::loadSampleDataSet(
+    const bool exporting = parser.isSet(exportPlot);
+    const bool touring = parser.isSet(tour) || exporting;
+    // A run without anyone at the keyboard never waits for an answer.
+    const bool headless = touring || parser.isSet(saveSession);
+    if (parser.isSet(saveSession) || exporting)
+        orrery::kernel::Kernel::instance().messageBoxes().setHandler([](const std::string& text, int) {
+            std::fprintf(stderr, "orrery-demo: %s\n", text.c_str());
+            return 0;
+        });
+    if (parser.isSet(replayChanged))
+        window.setChangedFiles(MainWindow::ChangedFiles::Load);
+    else if (headless)
+        window.setChangedFiles(MainWindow::ChangedFiles::Refuse);
+    orrery::kernel::FileLoad::loadSample(
         "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
-    const bool touring = parser.isSet(tour) || parser.isSet(exportPlot);
+    // A tour or an export is a demonstration, not a session worth keeping.
+    bool restoreFailed = false;
+    const std::unique_ptr<SessionAutosave> autosave =
+        touring ? nullptr : SessionAutosave::startFor(window, parser.isSet(recover), headless, restoreFailed);
     // Without a window to show them in, failures end the run.
-    if (!files.isEmpty() && !(touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()))
-        && touring)
+    const bool fileLoaded =
+        files.isEmpty() || (touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()));
+    if (!fileLoaded && touring)
         return 1;
     std::string error;
     if (type && !HostStyle::setInteger("FrameLayout/PlotType", type, &error)) {
@@ -90,9 +120,18 @@ int main(int argc, char** argv)
         if (touring)
             return 1;
     }
+    if (parser.isSet(saveSession)) {
+        const bool saved = !restoreFailed && fileLoaded
+                           && (!parser.isSet(replay) || window.replayJournal(parser.value(replay)))
+                           && window.saveJournal(parser.value(saveSession));
+        // The autosave stays only while it holds a restored session saved nowhere else.
+        if (autosave && (saved || restoreFailed || !parser.isSet(recover)))
+            autosave->finish();
+        return saved ? 0 : 1;
+    }
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;
-    if (parser.isSet(exportPlot)) {
+    if (exporting) {
         bool number = false;
         const double dotsPerInch = parser.value(dpi).toDouble(&number);
         if (!number || !(dotsPerInch >= 24 && dotsPerInch <= 2400)) {
@@ -109,6 +148,13 @@ int main(int argc, char** argv)
     }
     if (touring)
         return Tour::run(window, parser.value(tour));
+    if (parser.isSet(commands))
+        new StdinJournal(&window);
+    WindowLayout::restore(window);
     window.show();
-    return app.exec();
+    const int code = app.exec();
+    WindowLayout::save(window);
+    if (autosave)
+        autosave->finish();
+    return code;
 }

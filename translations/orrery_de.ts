@@ -585,14 +585,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <translation>&amp;Beispiel öffnen</translation>
     </message>
     <message>
-        <source>&amp;Save Journal...</source>
-        <translation>Journal &amp;speichern...</translation>
-    </message>
-    <message>
-        <source>&amp;Replay Journal...</source>
-        <translation>Journal &amp;abspielen...</translation>
-    </message>
-    <message>
         <source>&amp;Quit</source>
         <translation>B&amp;eenden</translation>
     </message>
@@ -677,28 +669,8 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <translation>%1 Befehle aus %2 wiedergegeben</translation>
     </message>
     <message>
-        <source>Saved the journal to %1</source>
-        <translation>Journal in %1 gespeichert</translation>
-    </message>
-    <message>
         <source>Open Data File</source>
         <translation>Datendatei öffnen</translation>
-    </message>
-    <message>
-        <source>Data files (*.csv *.txt *.dat *.zbk *.vtk);;All files (*)</source>
-        <translation>Datendateien (*.csv *.txt *.dat *.zbk *.vtk);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Save Journal</source>
-        <translation>Journal speichern</translation>
-    </message>
-    <message>
-        <source>Journals (*.orj);;All files (*)</source>
-        <translation>Journale (*.orj);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Replay Journal</source>
-        <translation>Journal abspielen</translation>
     </message>
     <message>
         <source>Built-in: Heated Plate</source>
@@ -721,6 +693,58 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>closed</source>
         <translation>geschlossen</translation>
+    </message>
+    <message>
+        <source>The demo did not end normally last time. Restore the session it was working on?</source>
+        <translation>Die Demo wurde beim letzten Mal nicht regulär beendet. Die Sitzung wiederherstellen, an der sie arbeitete?</translation>
+    </message>
+    <message>
+        <source>The autosaved session was kept as %1.</source>
+        <translation>Die automatisch gesicherte Sitzung wurde als %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open S&amp;ession...</source>
+        <translation>S&amp;itzung öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Save Session...</source>
+        <translation>Sitzung &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>%1
+
+Load it as it is now?</source>
+        <translation>%1
+
+Die Datei so laden, wie sie jetzt ist?</translation>
+    </message>
+    <message>
+        <source>Saved the session to %1</source>
+        <translation>Sitzung in %1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Data files and sessions (*.csv *.txt *.dat *.zbk *.vtk *.orrery-journal *.orj);;All files (*)</source>
+        <translation>Datendateien und Sitzungen (*.csv *.txt *.dat *.zbk *.vtk *.orrery-journal *.orj);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Session</source>
+        <translation>Sitzung speichern</translation>
+    </message>
+    <message>
+        <source>Sessions (*.orrery-journal);;All files (*)</source>
+        <translation>Sitzungen (*.orrery-journal);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open Session</source>
+        <translation>Sitzung öffnen</translation>
+    </message>
+    <message>
+        <source>Sessions (*.orrery-journal *.orj);;All files (*)</source>
+        <translation>Sitzungen (*.orrery-journal *.orj);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -1658,6 +1682,59 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Cannot make the folder %1 for the autosaved session.</source>
+        <translation>Der Ordner %1 für die automatisch gesicherte Sitzung kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Another running demo keeps its session in %1; this one keeps none.</source>
+        <translation>Eine andere laufende Demo sichert ihre Sitzung in %1; diese sichert keine.</translation>
+    </message>
+    <message>
+        <source>Cannot lock %1; the session is not autosaved.</source>
+        <translation>%1 kann nicht gesperrt werden; die Sitzung wird nicht automatisch gesichert.</translation>
+    </message>
+    <message>
+        <source>Cannot write the autosaved session %1: %2</source>
+        <translation>Die automatisch gesicherte Sitzung %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Cannot move the autosaved session %1 aside to restore it.</source>
+        <translation>Die automatisch gesicherte Sitzung %1 kann zum Wiederherstellen nicht beiseitegelegt werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored the autosaved session (%n command(s)).</source>
+        <translation>
+            <numerusform>Die automatisch gesicherte Sitzung wurde wiederhergestellt (%n Befehl).</numerusform>
+            <numerusform>Die automatisch gesicherte Sitzung wurde wiederhergestellt (%n Befehle).</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The autosaved session could not be restored whole; the %n command(s) before the bad line were kept.
+%1
+The autosaved session is kept as %2.</source>
+        <translation>
+            <numerusform>Die automatisch gesicherte Sitzung konnte nicht vollständig wiederhergestellt werden; der %n Befehl vor der fehlerhaften Zeile wurde behalten.
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+            <numerusform>Die automatisch gesicherte Sitzung konnte nicht vollständig wiederhergestellt werden; die %n Befehle vor der fehlerhaften Zeile wurden behalten.
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored the autosaved session (%n command(s)) up to where it was cut off.
+%1
+The autosaved session is kept as %2.</source>
+        <translation>
+            <numerusform>Die automatisch gesicherte Sitzung wurde bis zur abgeschnittenen Stelle wiederhergestellt (%n Befehl).
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+            <numerusform>Die automatisch gesicherte Sitzung wurde bis zur abgeschnittenen Stelle wiederhergestellt (%n Befehle).
+%1
+Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RGBColorOpts</name>
@@ -1712,6 +1789,13 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Ma&amp;ximum intensity:</source>
         <translation>Ma&amp;ximale Intensität:</translation>
+    </message>
+</context>
+<context>
+    <name>RecentFiles</name>
+    <message>
+        <source>(none)</source>
+        <translation>(keine)</translation>
     </message>
 </context>
 <context>
@@ -1856,6 +1940,17 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Choose the vector variables.</source>
         <translation>Wählen Sie die Vektorvariablen.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowTitle</name>
+    <message>
+        <source>Orrery Prompts demo[*]</source>
+        <translation>Orrery-Prompts-Demo[*]</translation>
+    </message>
+    <message>
+        <source>%1[*] - Orrery Prompts demo</source>
+        <translation>%1[*] – Orrery-Prompts-Demo</translation>
     </message>
 </context>
 <context>

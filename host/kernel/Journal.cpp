@@ -1,8 +1,10 @@
 #include "host/kernel/Journal.h"
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <system_error>
 #include "platform/sdk/AppLock.h"
@@ -41,6 +43,42 @@ std::optional<T> number(const std::string& text)
     return value;
 }
 
+// Splits off the first blank-separated word of text.
+std::string nextWord(std::string& text)
+{
+    text = trimmed(text);
+    const size_t end = std::min(text.find_first_of(" \t"), text.size());
+    std::string word = text.substr(0, end);
+    text.erase(0, end);
+    return word;
+}
+
+// A quoted text at the start of text, taken off it.
+std::optional<std::string> nextQuoted(std::string& text)
+{
+    text = trimmed(text);
+    std::string rest;
+    std::optional<std::string> value = Journal::unquote(text, &rest);
+    if (value)
+        text = rest;
+    return value;
+}
+
+// A load line as it reads from a journal saved at folder: a file in that
+// folder or below it is named relative to it.
+std::string relativeLoad(const std::string& line, const std::filesystem::path& folder)
+{
+    Journal::FileRecord file;
+    std::string error;
+    if (line.compare(0, 5, "load ") != 0 || !Journal::parseLoad(line.substr(5), file, error))
+        return line;
+    const std::filesystem::path relative = std::filesystem::path(file.path).lexically_relative(folder);
+    if (relative.empty() || *relative.begin() == "..")
+        return line;
+    file.path = relative.generic_string();
+    return "load " + Journal::formatLoad(file);
+}
+
 } // namespace
 
 void Journal::clear()
@@ -74,6 +112,18 @@ void Journal::recordStyle(const toolbox::StringList& prefix, const toolbox::Stri
     if (member > 0)
         target += "[" + std::to_string(member) + "]";
     add("style " + target + " " + format(value));
+}
+
+void Journal::recordLoad(const FileRecord& file)
+{
+    if (recording())
+        add("load " + formatLoad(file));
+}
+
+void Journal::recordSample(const std::string& name)
+{
+    if (recording())
+        add("sample " + quote(name));
 }
 
 void Journal::recordUndo()
@@ -113,10 +163,12 @@ void Journal::endBracket(bool revert, bool record)
 
 bool Journal::save(const std::string& path, std::string& error) const
 {
+    std::error_code failed;
+    const std::filesystem::path folder = std::filesystem::absolute(path, failed).lexically_normal().parent_path();
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     if (out)
         for (const std::string& line : m_lines)
-            out << line << '\n';
+            out << relativeLoad(line, folder) << '\n';
     out.flush();
     if (!out) {
         error = "Cannot write the journal to " + path + ": " + std::strerror(errno);
@@ -192,6 +244,31 @@ std::string Journal::quote(const std::string& text)
         }
     }
     return quoted + "\"";
+}
+
+std::string Journal::formatLoad(const FileRecord& file)
+{
+    return quote(file.path) + " loader " + quote(file.loader) + " size " + std::to_string(file.size) + " sha256 "
+           + file.sha256;
+}
+
+bool Journal::parseLoad(const std::string& arguments, FileRecord& file, std::string& error)
+{
+    std::string rest = arguments;
+    const std::optional<std::string> path = nextQuoted(rest);
+    const bool loaderNamed = nextWord(rest) == "loader";
+    const std::optional<std::string> loader = loaderNamed ? nextQuoted(rest) : std::nullopt;
+    const bool sized = nextWord(rest) == "size";
+    const std::optional<std::uint64_t> size = number<std::uint64_t>(nextWord(rest));
+    const bool hashed = nextWord(rest) == "sha256";
+    const std::string sha256 = nextWord(rest);
+    const bool hex = sha256.size() == 64 && sha256.find_first_not_of("0123456789abcdef") == std::string::npos;
+    if (!path || path->empty() || !loader || !sized || !size || !hashed || !hex || !trimmed(rest).empty()) {
+        error = "load takes \"FILE\" loader \"LOADER\" size BYTES sha256 HEX.";
+        return false;
+    }
+    file = {*path, *loader, *size, sha256};
+    return true;
 }
 
 std::optional<std::string> Journal::unquote(const std::string& text, std::string* rest)

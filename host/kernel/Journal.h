@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ namespace kernel {
 //   end                                      step ("end unrecorded": no step)
 //   undo
 //   redo
+//   load "data/iris.csv" loader "CSV table" size 177 sha256 9f86...
+//                                            a data file read by a loader
+//   sample "Sample"                          a built-in data set
 //   # a comment
 //
 // Changes are recorded unless an AppLock that suppresses implicit recording is
@@ -35,12 +39,24 @@ public:
     // "2"), empty for the current frame. member 0: not a collection.
     void recordStyle(const toolbox::StringList& prefix, const toolbox::StringList& path, long member,
                      const StyleDatum& value);
+    // A data file read by a loader: where, by which loader, and what it held.
+    struct FileRecord
+    {
+        std::string path; // absolute while recorded; relative to the journal's folder when saved inside it
+        std::string loader;
+        std::uint64_t size = 0;
+        std::string sha256; // lower-case hex
+    };
+    void recordLoad(const FileRecord& file);
+    void recordSample(const std::string& name);
     void recordUndo();
     void recordRedo();
     void beginBracket(const std::string& name);
     void endBracket(bool revert, bool record);
 
-    // Writes every line to path. False, with error naming the file, on failure.
+    // Writes every line to path, naming the data files that lie in its folder
+    // (or below) relative to it, so that a session moves with its data. False,
+    // with error naming the file, on failure.
     bool save(const std::string& path, std::string& error) const;
 
     // Fired for each line as it joins the journal.
@@ -51,6 +67,9 @@ public:
     static std::string format(const StyleDatum& value);
     static std::optional<StyleDatum> parse(const std::string& text, const StyleDatum& like);
     static std::string quote(const std::string& text);
+    static std::string formatLoad(const FileRecord& file);
+    // Reads the arguments of a load line; false with error when they are not one.
+    static bool parseLoad(const std::string& arguments, FileRecord& file, std::string& error);
     // Reads a quoted text at the start of text; nullopt when it is not one.
     // rest receives what follows the closing quote.
     static std::optional<std::string> unquote(const std::string& text, std::string* rest = nullptr);

@@ -3,10 +3,14 @@
 #include <cerrno>
 #include <charconv>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
+#include <stdexcept>
+#include "host/kernel/FileLoad.h"
 #include "host/kernel/Journal.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
+#include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
 
 namespace orrery {
@@ -68,124 +72,7 @@ bool parseTarget(const std::string& text, toolbox::StringList& names, long& memb
     return true;
 }
 
-} // namespace
-
-JournalReplayer::Result JournalReplayer::replayFile(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        Result result;
-        result.ok = false;
-        result.message = "Cannot open the journal " + path + ": " + std::strerror(errno);
-        return result;
-    }
-    return replay(in, path);
-}
-
-JournalReplayer::Result JournalReplayer::replay(std::istream& in, const std::string& source)
-{
-    Result result;
-    sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-    int openBrackets = 0;
-    std::string line;
-    int number = 0;
-    auto fail = [&](const std::string& why) {
-        result.ok = false;
-        result.line = number;
-        result.message = source + ", line " + std::to_string(number) + ": " + why;
-    };
-    while (result.ok) {
-        line.clear();
-        bool ended = false;
-        bool tooLong = false;
-        for (int c; (c = in.get()) != std::char_traits<char>::eof();) {
-            if (c == '\n') {
-                ended = true;
-                break;
-            }
-            if (line.size() == MaxLineLength) {
-                tooLong = true;
-                break;
-            }
-            line += static_cast<char>(c);
-        }
-        if (!ended && !tooLong && line.empty())
-            break;
-        ++number;
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        std::string error;
-        if (tooLong)
-            fail("the line is longer than " + std::to_string(MaxLineLength) + " characters.");
-        else if (!isPrintable(line))
-            fail("the line holds control characters; this is not a journal.");
-        else if (!play(line, openBrackets, error))
-            fail(error);
-        else if (line.find_first_not_of(" \t") != std::string::npos && line[line.find_first_not_of(" \t")] != '#')
-            ++result.played;
-    }
-    // What was played stays, as undo steps; an open bracket becomes one.
-    while (openBrackets-- > 0)
-        OrrUtilUndoStateEnd(false, true);
-    return result;
-}
-
-bool JournalReplayer::play(const std::string& rawLine, int& openBrackets, std::string& error)
-{
-    const size_t first = rawLine.find_first_not_of(" \t");
-    if (first == std::string::npos || rawLine[first] == '#')
-        return true;
-    std::string command, arguments;
-    splitWord(rawLine.substr(first), command, arguments);
-    while (!arguments.empty() && (arguments.back() == ' ' || arguments.back() == '\t'))
-        arguments.pop_back();
-
-    if (command == "style")
-        return playStyle(arguments, error);
-    if (command == "begin") {
-        std::string rest;
-        std::optional<std::string> name;
-        if (!arguments.empty() && (!(name = Journal::unquote(arguments, &rest)) || !rest.empty())) {
-            error = "begin takes a quoted step name or nothing.";
-            return false;
-        }
-        OrrUtilUndoStateBeginNamed(0, name ? name->c_str() : nullptr);
-        ++openBrackets;
-        return true;
-    }
-    if (command == "end") {
-        if (openBrackets == 0) {
-            error = "end without a begin.";
-            return false;
-        }
-        if (!arguments.empty() && arguments != "unrecorded") {
-            error = "end takes nothing or \"unrecorded\".";
-            return false;
-        }
-        --openBrackets;
-        OrrUtilUndoStateEnd(false, arguments.empty());
-        return true;
-    }
-    if (command == "undo" || command == "redo") {
-        if (!arguments.empty()) {
-            error = command + " takes no arguments.";
-            return false;
-        }
-        if (openBrackets > 0) {
-            error = command + " inside a begin/end step.";
-            return false;
-        }
-        if (!(command == "undo" ? OrrUtilUndoPerform() : OrrUtilRedoPerform())) {
-            error = "there is nothing to " + command + ".";
-            return false;
-        }
-        return true;
-    }
-    error = "unknown command \"" + command.substr(0, 40) + "\" (expected style, begin, end, undo or redo).";
-    return false;
-}
-
-bool JournalReplayer::playStyle(const std::string& arguments, std::string& error)
+bool playStyle(const std::string& arguments, std::string& error)
 {
     std::string target, valueText;
     splitWord(arguments, target, valueText);
@@ -221,6 +108,268 @@ bool JournalReplayer::playStyle(const std::string& arguments, std::string& error
         return false;
     }
     return true;
+}
+
+enum class Read
+{
+    Line,
+    End,
+    TooLong,
+    CutOff
+};
+
+Read readLine(std::istream& in, std::string& line, bool lastLineNeedsEnd)
+{
+    line.clear();
+    for (int c; (c = in.get()) != std::char_traits<char>::eof();) {
+        if (c == '\n') {
+            if (!line.empty() && line.back() == '\r')
+                line.pop_back();
+            return Read::Line;
+        }
+        if (line.size() == JournalReplayer::MaxLineLength)
+            return Read::TooLong;
+        line += static_cast<char>(c);
+    }
+    if (line.empty())
+        return Read::End;
+    return lastLineNeedsEnd ? Read::CutOff : Read::Line;
+}
+
+// The command word of a line and its arguments; an empty command for a blank
+// line or a comment.
+void commandOf(const std::string& line, std::string& command, std::string& arguments)
+{
+    command.clear();
+    arguments.clear();
+    const size_t first = line.find_first_not_of(" \t");
+    if (first == std::string::npos || line[first] == '#')
+        return;
+    splitWord(line.substr(first), command, arguments);
+    while (!arguments.empty() && (arguments.back() == ' ' || arguments.back() == '\t'))
+        arguments.pop_back();
+}
+
+} // namespace
+
+// One replay: the lines read, the brackets it opened, the files it checked.
+class JournalReplayer::Run
+{
+public:
+    Run(const std::string& source, const Options& options) : m_source(source), m_options(options) {}
+
+    Result replay(std::istream& in)
+    {
+        std::string fault; // why the line after the last one read cannot be played
+        bool cutOff = false;
+        std::string line;
+        for (Read read; (read = readLine(in, line, m_options.lastLineNeedsEnd)) != Read::End;) {
+            if (read == Read::TooLong)
+                fault = "the line is longer than " + std::to_string(MaxLineLength) + " characters.";
+            else if ((cutOff = read == Read::CutOff))
+                fault = "the line was cut off while it was written; it was not played.";
+            else if (!isPrintable(line))
+                fault = "the line holds control characters; this is not a journal.";
+            if (!fault.empty())
+                break;
+            m_lines.push_back(line);
+        }
+        // The data files first, so that a session whose data cannot be read applies nothing.
+        std::string command, arguments, error;
+        for (size_t i = 0; i < m_lines.size(); ++i) {
+            commandOf(m_lines[i], command, arguments);
+            if (command == "load" && !checkLoad(int(i + 1), arguments, error))
+                return fail(int(i + 1), error);
+        }
+
+        sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
+        for (size_t i = 0; i < m_lines.size() && m_result.ok; ++i) {
+            commandOf(m_lines[i], command, arguments);
+            if (command.empty())
+                continue;
+            if (!play(int(i + 1), command, arguments, error))
+                fail(int(i + 1), error);
+            else
+                ++m_result.played;
+        }
+        if (m_result.ok && !fault.empty()) {
+            fail(int(m_lines.size() + 1), fault);
+            m_result.cutOff = cutOff;
+        }
+        if (m_result.ok && m_openBrackets > 0 && m_options.lastLineNeedsEnd) {
+            fail(m_stepLine, "the step begun here has no end; it was taken back.");
+            m_result.cutOff = true;
+        }
+        // A step the replay stopped inside is taken back whole; one a complete
+        // journal leaves open is closed as a step.
+        if (!m_result.ok && m_openBrackets > 0)
+            m_result.played = m_playedBeforeStep;
+        for (; m_openBrackets > 0; --m_openBrackets)
+            OrrUtilUndoStateEnd(!m_result.ok, m_result.ok);
+        return m_result;
+    }
+
+private:
+    Result fail(int line, const std::string& why)
+    {
+        m_result.ok = false;
+        m_result.line = line;
+        m_result.message = m_source + ", line " + std::to_string(line) + ": " + why;
+        return m_result;
+    }
+
+    // The file a load line names, and its loader; false with error when either is gone.
+    bool resolve(const std::string& arguments, Journal::FileRecord& file, std::string& path,
+                 sdk::DataLoaderRepository::LoaderPtr& loader, std::string& error)
+    {
+        if (!Journal::parseLoad(arguments, file, error))
+            return false;
+        std::filesystem::path named(file.path);
+        if (named.is_relative() && !m_options.folder.empty())
+            named = std::filesystem::path(m_options.folder) / named;
+        path = named.string();
+        if (!(loader = sdk::DataLoaderRepository::getInstance().loaderNamed(file.loader))) {
+            error = "the loader \"" + file.loader + "\" for " + path + " is not installed.";
+            return false;
+        }
+        std::error_code failed;
+        if (!std::filesystem::is_regular_file(named, failed)) {
+            error = "the data file " + path + " is missing.";
+            return false;
+        }
+        return true;
+    }
+
+    bool checkLoad(int line, const std::string& arguments, std::string& error)
+    {
+        Journal::FileRecord recorded, now;
+        std::string path;
+        sdk::DataLoaderRepository::LoaderPtr loader;
+        if (!resolve(arguments, recorded, path, loader, error) || !FileLoad::fingerprint(path, now, error))
+            return false;
+        if (now.size == recorded.size && now.sha256 == recorded.sha256)
+            return true;
+        error = "the data file " + path + " has changed since the session was recorded ("
+                + std::to_string(recorded.size) + " bytes then, " + std::to_string(now.size) + " now).";
+        return m_options.acceptChangedFile
+               && m_options.acceptChangedFile(m_source + ", line " + std::to_string(line) + ": " + error);
+    }
+
+    bool play(int line, const std::string& command, const std::string& arguments, std::string& error)
+    {
+        if (command == "style")
+            return playStyle(arguments, error);
+        if (command == "begin") {
+            std::string rest;
+            std::optional<std::string> name;
+            if (!arguments.empty() && (!(name = Journal::unquote(arguments, &rest)) || !rest.empty())) {
+                error = "begin takes a quoted step name or nothing.";
+                return false;
+            }
+            if (m_openBrackets++ == 0) {
+                m_stepLine = line;
+                m_playedBeforeStep = m_result.played;
+            }
+            OrrUtilUndoStateBeginNamed(0, name ? name->c_str() : nullptr);
+            return true;
+        }
+        if (command == "end") {
+            if (m_openBrackets == 0) {
+                error = "end without a begin.";
+                return false;
+            }
+            if (!arguments.empty() && arguments != "unrecorded") {
+                error = "end takes nothing or \"unrecorded\".";
+                return false;
+            }
+            --m_openBrackets;
+            OrrUtilUndoStateEnd(false, arguments.empty());
+            return true;
+        }
+        if (m_openBrackets > 0 && command != "style") {
+            error = command + " inside a begin/end step.";
+            return false;
+        }
+        if (command == "undo" || command == "redo") {
+            if (!arguments.empty()) {
+                error = command + " takes no arguments.";
+                return false;
+            }
+            if (!(command == "undo" ? OrrUtilUndoPerform() : OrrUtilRedoPerform())) {
+                error = "there is nothing to " + command + ".";
+                return false;
+            }
+            return true;
+        }
+        if (command == "load") {
+            Journal::FileRecord file;
+            std::string path;
+            sdk::DataLoaderRepository::LoaderPtr loader;
+            if (!resolve(arguments, file, path, loader, error))
+                return false;
+            std::string why;
+            if (!FileLoad::load(*loader, path, why)) {
+                error = "cannot load " + path + ": " + why;
+                return false;
+            }
+            return true;
+        }
+        if (command == "sample") {
+            std::string rest;
+            const std::optional<std::string> name = Journal::unquote(arguments, &rest);
+            try {
+                if (name && rest.empty()) {
+                    FileLoad::loadSample(*name);
+                    return true;
+                }
+            } catch (const std::invalid_argument&) {
+                error = "there is no built-in data set " + arguments + ".";
+                return false;
+            }
+            error = "sample takes the quoted name of a built-in data set.";
+            return false;
+        }
+        error = "unknown command \"" + command.substr(0, 40)
+                + "\" (expected style, begin, end, undo, redo, load or sample).";
+        return false;
+    }
+
+    std::string m_source;
+    const Options& m_options;
+    std::vector<std::string> m_lines;
+    Result m_result;
+    int m_openBrackets = 0;
+    int m_stepLine = 0;         // where the outermost open step began
+    int m_playedBeforeStep = 0; // commands played before it
+};
+
+JournalReplayer::Result JournalReplayer::replayFile(const std::string& path)
+{
+    return replayFile(path, Options());
+}
+
+JournalReplayer::Result JournalReplayer::replayFile(const std::string& path, Options options)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        Result result;
+        result.ok = false;
+        result.message = "Cannot open the journal " + path + ": " + std::strerror(errno);
+        return result;
+    }
+    if (options.folder.empty())
+        options.folder = std::filesystem::path(path).parent_path().string();
+    return replay(in, path, options);
+}
+
+JournalReplayer::Result JournalReplayer::replay(std::istream& in, const std::string& source)
+{
+    return replay(in, source, Options());
+}
+
+JournalReplayer::Result JournalReplayer::replay(std::istream& in, const std::string& source, const Options& options)
+{
+    return Run(source, options).replay(in);
 }
 
 } // namespace kernel

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <utility>
 #include <charconv>
+#include "host/kernel/VariableFit.h"
 #include "host/loaders/BuiltInLoaders.h"
 #include "host/settings/SettingsFile.h"
 #include "platform/sdk/StateChangeEvent.h"
@@ -73,11 +74,18 @@ void Kernel::reset()
 void Kernel::setDataSet(DataSet dataSet)
 {
     m_dataSet = std::move(dataSet);
-    for (Frame& frame : m_frames) {
+    const size_t current = m_current;
+    for (size_t i = 0; i < m_frames.size(); ++i) {
+        Frame& frame = m_frames[i];
         useWholeDataSet(frame);
         frame.style().dropMembersAfter(m_dataSet.numZones());
-        clearLostVariables(frame);
+        m_current = i; // the default rules read the current frame
+        VariableFit::apply(frame.style(), m_schema, m_dataSet.numVars(),
+                           static_cast<PlotType_e>(std::get<long>(m_schema.valueIn(frame.style(), PlotTypeKey, 0))));
     }
+    m_current = current;
+    // An undo step names variables and zones of the data set it was made on.
+    m_undo.clear();
     announce(StateChange_DataSetReset);
 }
 
@@ -231,13 +239,6 @@ void Kernel::useWholeDataSet(Frame& frame) const
 {
     frame.enabledZones = m_dataSet.allZones();
     frame.enabledVars = m_dataSet.allVars();
-}
-
-void Kernel::clearLostVariables(Frame& frame)
-{
-    for (const std::string& key : m_schema.variableKeys())
-        if (std::get<long>(m_schema.valueIn(frame.style(), key, 0)) > m_dataSet.numVars())
-            frame.style().store(key, 0, 0L);
 }
 
 } // namespace kernel

@@ -27,8 +27,8 @@ public:
     void reset();
 
     const DataSet& dataSet() const { return m_dataSet; }
-    // Every frame then uses all zones and variables; style variables that no
-    // longer exist are cleared.
+    // Every frame then uses all zones and variables, its variable choices are
+    // fitted to the new data set (VariableFit) and the undo history starts afresh.
     void setDataSet(DataSet dataSet);
 
     int pageCount() const { return m_pageCount; }
@@ -71,7 +71,6 @@ private:
     Kernel();
     void addFrame();
     void useWholeDataSet(Frame& frame) const;
-    void clearLostVariables(Frame& frame);
     // Enables those of the wanted zones or variables that exist in the current
     // frame; announces the change only when the enabled set changed.
     void setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,

@@ -1,13 +1,21 @@
+#include <memory>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QDockWidget>
+#include <QDropEvent>
 #include <QFile>
 #include <QImage>
+#include <QMenu>
+#include <QMimeData>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QUrl>
 #include "demo/MainWindow.h"
 #include "demo/PlotView.h"
+#include "demo/RecentFiles.h"
+#include "demo/WindowLayout.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
@@ -262,6 +270,62 @@ TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
     EXPECT_NE(testsupport::messageTexts().front().find("broken.vtk, line "), std::string::npos)
         << testsupport::messageTexts().front();
     EXPECT_EQ(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate");
+}
+
+TEST_F(DemoHost, TheTitleNamesTheFileAndItsChangesAndRecentFilesListWhatWasOpened)
+{
+    QTemporaryDir folder;
+    const QDir dir(folder.path());
+    writeFile(dir.filePath("first.csv"), "x,y\n1,2\n");
+    writeFile(dir.filePath("second.csv"), "p,q,r\n1,2,3\n");
+    MainWindow window;
+    ASSERT_TRUE(window.open(dir.filePath("first.csv")));
+    EXPECT_EQ(window.windowTitle(), "first.csv[*] - Orrery Prompts demo");
+    EXPECT_FALSE(window.isWindowModified());
+    action(window, "viewPlotType3").trigger();
+    EXPECT_TRUE(window.isWindowModified());
+    const QString session = dir.filePath("s.orrery-journal");
+    ASSERT_TRUE(window.saveJournal(session));
+    EXPECT_FALSE(window.isWindowModified());
+    // Dropped on the window, a file opens as with File > Open.
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(dir.filePath("second.csv"))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QApplication::processEvents();
+    EXPECT_TRUE(window.windowTitle().startsWith("second.csv"));
+
+    ASSERT_TRUE(window.open(session)) << "a session is replayed";
+    EXPECT_TRUE(window.windowTitle().startsWith("first.csv"));
+    EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_XYLine);
+    EXPECT_EQ(RecentFiles::paths().join(" "),
+              (QStringList{session, dir.filePath("second.csv"), dir.filePath("first.csv")}).join(" "));
+    QFile::remove(dir.filePath("second.csv"));
+    QMenu* recent = window.findChild<QMenu*>("fileOpenRecent");
+    ASSERT_NE(recent, nullptr);
+    QMetaObject::invokeMethod(recent, "aboutToShow");
+    ASSERT_EQ(recent->actions().size(), 3);
+    EXPECT_FALSE(recent->actions()[1]->isEnabled()) << "a file that is gone is greyed";
+    EXPECT_TRUE(recent->actions()[2]->isEnabled());
+    EXPECT_EQ(recent->actions()[1]->toolTip(), QDir::toNativeSeparators(dir.filePath("second.csv")));
+}
+
+TEST_F(DemoHost, TheWindowsSizeAndDocksAreKeptForTheNextRun)
+{
+    EXPECT_FALSE(WindowLayout::restore(*std::make_unique<MainWindow>())) << "nothing kept yet";
+    {
+        MainWindow window;
+        window.resize(700, 500);
+        window.findChild<QDockWidget*>("journalDock")->setFloating(true);
+        WindowLayout::save(window);
+    }
+    MainWindow window;
+    EXPECT_TRUE(WindowLayout::restore(window));
+    EXPECT_EQ(window.size(), QSize(700, 500));
+    EXPECT_TRUE(window.findChild<QDockWidget*>("journalDock")->isFloating());
 }
 
 } // namespace

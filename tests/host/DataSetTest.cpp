@@ -198,7 +198,7 @@ TEST_F(KernelDataSet, VectorLayerAndRGBChannelsNeedEnabledVariables)
     EXPECT_FALSE(checkRGBChannelVars(3, 4, 5));
 }
 
-TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusableAndLeavingVariablesAreCleared)
+TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusableAndLeavingVariablesAreReplaced)
 {
     const StringList path{"GlobalScatter", "Var"};
     autoAssignScatterVariable();
@@ -213,11 +213,11 @@ TEST_F(KernelDataSet, ScatterVariableIsAssignedOnlyWhenMissingOrUnusableAndLeavi
     autoAssignScatterVariable();
     EXPECT_EQ(4, readLong(path));
 
-    // Variables leaving the data set are cleared.
+    // An axis whose variable left takes one the data set has; a kept one stays.
     writeLong({"ThreeDAxis", "ZDetail", "VarNum"}, 5);
     writeLong({"GlobalRGB", "RedChannelVar"}, 2);
     Kernel::loadSampleDataSet("Small"); // X and Y only
-    EXPECT_EQ((std::vector<std::optional<long>>{0, 2, 1}),
+    EXPECT_EQ((std::vector<std::optional<long>>{2, 2, 1}),
               (std::vector<std::optional<long>>{readLong({"ThreeDAxis", "ZDetail", "VarNum"}),
                                                 readLong({"GlobalRGB", "RedChannelVar"}),
                                                 readLong({"TwoDAxis", "XDetail", "VarNum"})}));

@@ -144,7 +144,7 @@ TEST_F(JournalRecording, SavedJournalReplayedOnTheSameDataSetGivesTheSameStyle)
     EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 0);
 }
 
-TEST_F(JournalRecording, ABadLineStopsTheReplayWithItsNumberKeepingWhatCameBeforeUndoable)
+TEST_F(JournalRecording, ABadLineStopsTheReplayWithItsNumberKeepingTheStepsBeforeItUndoable)
 {
     const JournalReplayer::Result result = replay("# made by hand\n"
                                                   "style GlobalRGB/RedChannelVar 4\n"
@@ -156,17 +156,22 @@ TEST_F(JournalRecording, ABadLineStopsTheReplayWithItsNumberKeepingWhatCameBefor
                                                   "style GlobalRGB/BlueChannelVar 3\n");
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.line, 6);
-    EXPECT_EQ(result.played, 3);
+    EXPECT_EQ(result.played, 1);
     EXPECT_EQ(result.message, "session.orj, line 6: unknown style path GlobalRGB/Colour.");
-    EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 5);
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 0) << "the step it stopped in is taken back whole";
     EXPECT_EQ(styleValue<long>({"GlobalRGB", "BlueChannelVar"}), 0);
-    // The open bracket was closed as a step of its own.
-    EXPECT_EQ(undoName(), "Two");
-    OrrUtilUndoPerform();
-    EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 0);
-    EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 4);
+    EXPECT_EQ(journal().back(), "style GlobalRGB/RedChannelVar 4");
     OrrUtilUndoPerform();
     EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 0);
+
+    // In a journal whose writer died, a step whose end never came is taken back too.
+    std::istringstream autosaved("style GlobalRGB/RedChannelVar 2\nbegin\nstyle GlobalRGB/GreenChannelVar 5\n");
+    JournalReplayer::Options options;
+    options.lastLineNeedsEnd = true;
+    const JournalReplayer::Result open = JournalReplayer::replay(autosaved, "session.orj", options);
+    EXPECT_EQ(open.message, "session.orj, line 2: the step begun here has no end; it was taken back.");
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "GreenChannelVar"}), 0);
+    EXPECT_EQ(styleValue<long>({"GlobalRGB", "RedChannelVar"}), 2);
 }
 
 TEST_F(JournalRecording, EveryKindOfBadLineIsRefusedWithAReasonAndChangesNothing)
@@ -191,6 +196,9 @@ TEST_F(JournalRecording, EveryKindOfBadLineIsRefusedWithAReasonAndChangesNothing
         {"undo", "there is nothing to undo."},
         {"redo now", "redo takes no arguments."},
         {"begin \"a\" extra", "begin takes a quoted step name or nothing."},
+        {"load \"a.csv\" loader \"CSV table\" size 9", "load takes \"FILE\" loader"},
+        {"load \"a.csv\" loader \"CSV table\" size 9 sha256 " + std::string(64, 'A'), "load takes"},
+        {"sample \"Moon\"", "there is no built-in data set \"Moon\"."},
         {std::string("style GlobalRGB/RedChannelVar 1") + '\x01' + '\x02', "control characters"},
         {"style X/" + std::string(JournalReplayer::MaxLineLength, 'x'), "longer than"},
     };
