@@ -71,6 +71,19 @@ void Kernel::reset()
     announce(StateChange_NewLayout);
 }
 
+// A zone picked out that the new data set lacks, or an index range that starts
+// past its points, would leave the plot pale or empty.
+void Kernel::fitZoneChoices(Frame& frame) const
+{
+    if (std::get<long>(m_schema.valueIn(frame.style(), "FrameLayout/ActiveZone", 0)) > m_dataSet.numZones())
+        frame.style().store("FrameLayout/ActiveZone", 0, 0L);
+    size_t most = 0;
+    for (int zone = 1; zone <= m_dataSet.numZones(); ++zone)
+        most = std::max(most, m_dataSet.pointCount(zone));
+    if (std::get<long>(m_schema.valueIn(frame.style(), "IndexRange/Begin", 0)) > long(most))
+        frame.style().store("IndexRange/Begin", 0, 1L);
+}
+
 void Kernel::setDataSet(DataSet dataSet)
 {
     m_dataSet = std::move(dataSet);
@@ -82,6 +95,7 @@ void Kernel::setDataSet(DataSet dataSet)
         m_current = i; // the default rules read the current frame
         VariableFit::apply(frame.style(), m_schema, m_dataSet.numVars(),
                            static_cast<PlotType_e>(std::get<long>(m_schema.valueIn(frame.style(), PlotTypeKey, 0))));
+        fitZoneChoices(frame);
     }
     m_current = current;
     // An undo step names variables and zones of the data set it was made on.

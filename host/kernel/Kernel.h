@@ -71,6 +71,7 @@ private:
     Kernel();
     void addFrame();
     void useWholeDataSet(Frame& frame) const;
+    void fitZoneChoices(Frame& frame) const;
     // Enables those of the wanted zones or variables that exist in the current
     // frame; announces the change only when the enabled set changed.
     void setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,

@@ -126,7 +126,11 @@ TEST_F(Session, ANewDataSetKeepsTheChoicesItCanAndFillsTheOthersWithNoUndoLeft)
     Kernel::setPlotType(PlotType_ThreeD);
     Kernel::setStyle({"GlobalRGB", "RedChannelVar"}, 5L);
     Kernel::setStyle({"GlobalThreeDVector", "WVar"}, 4L);
+    Kernel::setStyle({"FrameLayout", "ActiveZone"}, 3L);
+    Kernel::setStyle({"IndexRange", "Begin"}, 5L);
     ASSERT_TRUE(load(file("two.csv", "x,y\n1,2\n3,4\n")));
+    EXPECT_EQ(styleValue<long>({"FrameLayout", "ActiveZone"}), 0) << "the file has one zone: none is picked out";
+    EXPECT_EQ(styleValue<long>({"IndexRange", "Begin"}), 1) << "two points: the range starts at the first";
     EXPECT_EQ(orrery::kernel::Kernel::instance().undoStack().undoName(), "") << "no step may apply to another data set";
     ASSERT_TRUE(load(file("four.csv", "x,y,u,v\n1,2,3,4\n5,6,7,9\n2,2,2,1\n")));
     EXPECT_EQ(styleValue<long>({"ThreeDAxis", "XDetail", "VarNum"}), 1);
