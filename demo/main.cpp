@@ -24,9 +24,11 @@ void drawOffscreenWithoutDisplay(int argc, char** argv)
         || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
         return;
     for (int i = 1; i < argc; ++i)
-        if (!std::strcmp(argv[i], "--export") || !std::strcmp(argv[i], "--tour")
-            || !std::strncmp(argv[i], "--export=", 9) || !std::strncmp(argv[i], "--tour=", 7))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
+        for (const char* option : {"--export", "--tour", "--save-session"}) {
+            const size_t length = std::strlen(option);
+            if (!std::strncmp(argv[i], option, length) && (argv[i][length] == '\0' || argv[i][length] == '='))
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
 }
 
 } // namespace
