@@ -78,15 +78,9 @@ void SessionAutosave::write(const std::string& line)
         return;
     // A step's lines arrive together once it is complete; they are written in
     // one go, so that a crash leaves a step whole or cuts one line of it.
-    m_step += line + '\n';
-    if (line.compare(0, 5, "begin") == 0)
-        ++m_depth;
-    else if (line.compare(0, 3, "end") == 0 && m_depth > 0)
-        --m_depth;
-    if (m_depth > 0)
+    if (!m_step.add(line))
         return;
-    const std::string step = std::move(m_step);
-    m_step.clear();
+    const std::string step = m_step.take();
     if (m_file.write(step.data(), qint64(step.size())) != qint64(step.size()))
         return fail(m_file.errorString());
     m_unsynced = true;

@@ -5,6 +5,7 @@
 #include <QLockFile>
 #include <QString>
 #include <boost/signals2/connection.hpp>
+#include "demo/JournalStep.h"
 #include "host/kernel/JournalReplayer.h"
 
 // Keeps the session safe from a crash: every journal line is appended to an
@@ -59,8 +60,7 @@ private:
     QString m_folder;
     QLockFile* m_lock = nullptr;
     QFile m_file;
-    std::string m_step;      // the lines of a step not yet complete
-    int m_depth = 0;         // begin lines without their end yet
+    JournalStep m_step;      // the lines of a step not yet complete
     bool m_unsynced = false; // complete steps written but not yet synced
     boost::signals2::scoped_connection m_lines;
     boost::signals2::scoped_connection m_idle;

@@ -34,15 +34,9 @@ void StdinJournal::take(const std::string& line)
     if (m_step.empty())
         m_stepStart = m_lineNumber + 1;
     ++m_lineNumber;
-    m_step += line + '\n';
-    if (line.compare(0, 5, "begin") == 0)
-        ++m_depth;
-    else if (line.compare(0, 3, "end") == 0 && m_depth > 0)
-        --m_depth;
-    if (m_depth > 0)
+    if (!m_step.add(line))
         return;
-    std::istringstream in(m_step);
-    m_step.clear();
+    std::istringstream in(m_step.take());
     const JournalReplayer::Result result =
         JournalReplayer::replay(in, "standard input (the step from line " + std::to_string(m_stepStart) + ")");
     if (!result.ok)

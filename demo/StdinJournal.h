@@ -1,6 +1,7 @@
 #pragma once
 #include <string>
 #include <QObject>
+#include "demo/JournalStep.h"
 
 class QSocketNotifier;
 
@@ -18,8 +19,7 @@ private:
 
     QSocketNotifier* m_notifier;
     std::string m_partial; // a line not yet ended
-    std::string m_step;    // the lines of an open step
-    int m_depth = 0;
+    JournalStep m_step;    // the lines of an open step
     int m_lineNumber = 0;
     int m_stepStart = 0;
 };
