@@ -309,7 +309,17 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
                 painter.drawLine(corner(i), corner(i | bit));
     const QPointF middle(p.centre[0], p.centre[1]);
     for (int a = 0; a < 3; ++a) {
-        const QPointF from = corner(0), to = corner(1 << a);
+        // Of the four edges along the axis: X and Y on the lowest, Z on the leftmost, outside the points.
+        int start = -1;
+        for (int i = 0; i < 8; ++i) {
+            if (i & (1 << a))
+                continue;
+            const QPointF mid = (corner(i) + corner(i | (1 << a))) / 2;
+            const QPointF best = start < 0 ? mid : (corner(start) + corner(start | (1 << a))) / 2;
+            if (start < 0 || (a < 2 ? mid.y() > best.y() : mid.x() < best.x()))
+                start = i;
+        }
+        const QPointF from = corner(start), to = corner(start | (1 << a));
         const QPointF along = to - from;
         const double length = std::hypot(along.x(), along.y());
         painter.setPen(Qt::black);
@@ -325,18 +335,23 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
             return std::abs(unit.x()) * metrics.horizontalAdvance(t) + std::abs(unit.y()) * em;
         };
         const AxisTicks::Scale scale = AxisTicks::fit(p.lo[a], p.lo[a] + p.span[a], length, extent, em);
+        // How far a label's centre stands off the edge for it to clear the edge.
+        const auto offset = [&](double w) { return 6 + std::abs(out.x()) * w / 2 + std::abs(out.y()) * em / 2; };
+        double widest = 0.0;
         for (const AxisTicks::Tick& tick : scale.ticks) {
             const QPointF at = from + along * ((tick.value - p.lo[a]) / p.span[a]);
             painter.drawLine(at, at + out * 4);
             const double w = metrics.horizontalAdvance(tick.label);
-            const QPointF centre = at + out * (6 + std::abs(out.x()) * w / 2 + std::abs(out.y()) * em / 2);
+            widest = std::max(widest, w);
+            const QPointF centre = at + out * offset(w);
             painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter,
                              tick.label);
         }
+        // The name beside the middle of the edge, beyond its tick labels.
         const QString name = scale.note.isEmpty() ? scene.axes[a].name : scene.axes[a].name + " " + scale.note;
         const double w = metrics.horizontalAdvance(name);
-        const QPointF beyond = to + (length > 0 ? along / length : QPointF(1, 0)) * (em + w / 2);
-        painter.drawText(QRectF(beyond.x() - w / 2, beyond.y() - em / 2, w + 2, em), Qt::AlignCenter, name);
+        const QPointF centre = (from + to) / 2 + out * (2 * offset(widest) - 6 + offset(w) - offset(0) + 4);
+        painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter, name);
     }
     painter.restore();
 }
