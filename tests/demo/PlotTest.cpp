@@ -81,7 +81,8 @@ TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
     EXPECT_GE(drawn(view).shapes, pointsInRange(1, 250, 5)) << "a symbol for every point drawn";
 
     run(window, "Anchor Alignment...");
-    const Drawn::Text* title = drawn(view).textStarting("Pressure over time");
+    const Drawn anchored = drawn(view);
+    const Drawn::Text* title = anchored.textStarting("Pressure over time");
     ASSERT_NE(title, nullptr);
     EXPECT_LT(title->at.x(), Size.width() / 4.0) << "the title goes to the top left";
 
