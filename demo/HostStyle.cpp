@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/kernel/OrrUtil.h"
+#include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/CheckedStyleValue.h"
@@ -128,4 +128,25 @@ bool HostStyle::setFlag(const std::string& slashed, bool on, std::string* error,
 bool HostStyle::setText(const std::string& slashed, const std::string& text, std::string* error)
 {
     return setFinal(slashed, text, error, -1);
+}
+
+bool HostStyle::setFlagInEveryZone(const std::string& slashed, bool on, std::string* error)
+{
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        if (!setFlag(slashed, on, error, zone))
+            return false;
+    return true;
+}
+
+bool HostStyle::inOneStep(const char* stepName, const std::function<bool(std::string& error)>& writes,
+                          std::string* error)
+{
+    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+    OrrUtilUndoStateBeginNamed(0, stepName);
+    std::string refusal;
+    const bool ok = writes(refusal);
+    OrrUtilUndoStateEnd(!ok, true);
+    if (!ok && error)
+        *error = refusal;
+    return ok;
 }

@@ -1,4 +1,5 @@
 #include "demo/MainWindow.h"
+#include "demo/HostText.h"
 #include "demo/Translations.h"
 #include "demo/IdleBatch.h"
 
@@ -45,13 +46,6 @@ using orrery::sdk::DataLoaderRepository;
 using orrery::sdk::LoadProgress;
 
 namespace {
-
-QString takeString(char* text)
-{
-    const QString result = text ? QString::fromUtf8(text) : QString();
-    OrrUtilStringDealloc(&text);
-    return result;
-}
 
 // Shows a cancellable progress dialog for a load that takes longer than a
 // moment; the previous handler is put back when the load ends.
@@ -252,8 +246,8 @@ void MainWindow::refreshActionsWhenIdle()
 
 void MainWindow::refreshUndoActions()
 {
-    const QString undo = takeString(OrrUtilUndoGetStepName());
-    const QString redo = takeString(OrrUtilRedoGetStepName());
+    const QString undo = takeHostText(OrrUtilUndoGetStepName());
+    const QString redo = takeHostText(OrrUtilRedoGetStepName());
     m_undo->setText(undo.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undo));
     m_undo->setEnabled(!undo.isEmpty());
     m_redo->setText(redo.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redo));
@@ -283,14 +277,18 @@ void MainWindow::setShowVectors(bool on)
         refreshViewActions();
         return;
     }
-    OrrUtilUndoStateBeginNamed(0, on ? "Show Vectors" : "Hide Vectors");
-    std::string error;
     const std::string root = plotType == PlotType_ThreeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
-    bool ok = !u
-              || (HostStyle::setInteger(root + "UVar", u, &error) && HostStyle::setInteger(root + "VVar", v, &error)
-                  && (!w || HostStyle::setInteger(root + "WVar", w, &error)));
-    ok = ok && HostStyle::setFlag("FieldLayers/ShowVector", on, &error);
-    OrrUtilUndoStateEnd(!ok, true);
+    std::string error;
+    const bool ok = HostStyle::inOneStep(
+        on ? "Show Vectors" : "Hide Vectors",
+        [&](std::string& refusal) {
+            return (!u
+                    || (HostStyle::setInteger(root + "UVar", u, &refusal)
+                        && HostStyle::setInteger(root + "VVar", v, &refusal)
+                        && (!w || HostStyle::setInteger(root + "WVar", w, &refusal))))
+                   && HostStyle::setFlag("FieldLayers/ShowVector", on, &refusal);
+        },
+        &error);
     if (!ok)
         complain(QString::fromStdString(error));
     refreshViewActions();
@@ -299,14 +297,11 @@ void MainWindow::setShowVectors(bool on)
 // One undo step for all zones.
 void MainWindow::setShowScatter(bool on)
 {
-    AppLock lock(AppLock::ImplicitMacroRecording_Allow);
-    OrrUtilUndoStateBeginNamed(0, on ? "Show Scatter" : "Hide Scatter");
     std::string error;
-    bool ok = true;
-    for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
-        ok = HostStyle::setFlag("FieldMap/Scatter/Show", on, &error, zone);
-    OrrUtilUndoStateEnd(!ok, true);
-    if (!ok)
+    if (!HostStyle::inOneStep(
+            on ? "Show Scatter" : "Hide Scatter",
+            [on](std::string& refusal) { return HostStyle::setFlagInEveryZone("FieldMap/Scatter/Show", on, &refusal); },
+            &error))
         complain(QString::fromStdString(error));
     refreshViewActions();
 }

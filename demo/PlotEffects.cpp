@@ -2,6 +2,7 @@
 
 #include <functional>
 #include "demo/HostStyle.h"
+#include "demo/PointColours.h"
 #include "demo/Translations.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
@@ -13,23 +14,19 @@
 
 namespace {
 
-const int RGBColoring = -6;
-
 QString text(const char* english)
 {
     return Translations::text(english);
 }
 
-// The writes as one undo step; a refused write takes back the others and its refusal is the line.
+// The writes as one undo step; a refusal is the line.
 QString inOneStep(const char* stepName, const std::function<bool(std::string& error)>& writes, const QString& done)
 {
-    OrrUtilUndoStateBeginNamed(0, stepName);
     std::string error;
-    const bool ok = writes(error);
-    OrrUtilUndoStateEnd(!ok, true);
-    return ok ? done
-              : text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot is unchanged: %1"))
-                    .arg(QString::fromStdString(error));
+    return HostStyle::inOneStep(stepName, writes, &error)
+               ? done
+               : text(QT_TRANSLATE_NOOP("DialogCatalog", "the plot is unchanged: %1"))
+                     .arg(QString::fromStdString(error));
 }
 
 bool anyZone(const std::function<bool(int zone)>& test)
@@ -44,9 +41,9 @@ bool anyRGB()
 {
     return anyZone([](int zone) {
         return (HostStyle::flag("FieldMap/Mesh/Show", zone, true)
-                && HostStyle::integer("FieldMap/Mesh/Color", zone) == RGBColoring)
+                && HostStyle::integer("FieldMap/Mesh/Color", zone) == PointColours::RGBColoring)
                || (HostStyle::flag("FieldMap/Scatter/Show", zone)
-                   && HostStyle::integer("FieldMap/Scatter/Color", zone) == RGBColoring);
+                   && HostStyle::integer("FieldMap/Scatter/Color", zone) == PointColours::RGBColoring);
     });
 }
 

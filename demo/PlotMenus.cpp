@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QMenu>
+#include "demo/HostText.h"
 #include "demo/ColourRamp.h"
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
@@ -13,13 +14,6 @@
 #include "host/kernel/OrrUtilHost.h"
 
 namespace {
-
-QString takeString(char* text)
-{
-    const QString result = text ? QString::fromUtf8(text) : QString();
-    OrrUtilStringDealloc(&text);
-    return result;
-}
 
 const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLog"};
 
@@ -77,7 +71,7 @@ void PlotMenus::fillColourBy(QMenu& menu)
         if (var > 0 && !OrrUtilVarIsEnabled(var))
             continue;
         QAction* action = menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)")
-                                                  : takeString(OrrUtilVarGetName(var)),
+                                                  : takeHostText(OrrUtilVarGetName(var)),
                                          this, [this, var] { colourBy(var); });
         action->setCheckable(true);
         action->setChecked(var == chosen);
@@ -105,13 +99,17 @@ void PlotMenus::fillColourMap(QMenu& menu)
 // plain colour are given the first map colouring in the same step.
 void PlotMenus::colourBy(int var)
 {
-    OrrUtilUndoStateBeginNamed(0, "Color By Variable");
     std::string error;
-    bool ok = HostStyle::setInteger("GlobalContour/Var", var, &error);
-    for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
-        if (HostStyle::integer("FieldMap/Mesh/Color", zone) >= 0)
-            ok = HostStyle::setInteger("FieldMap/Mesh/Color", -1, &error, zone);
-    OrrUtilUndoStateEnd(!ok, true);
+    const bool ok = HostStyle::inOneStep(
+        "Color By Variable",
+        [var](std::string& refusal) {
+            bool written = HostStyle::setInteger("GlobalContour/Var", var, &refusal);
+            for (int zone = 1; written && zone <= OrrUtilDataSetGetNumZones(); ++zone)
+                if (HostStyle::integer("FieldMap/Mesh/Color", zone) >= 0)
+                    written = HostStyle::setInteger("FieldMap/Mesh/Color", -1, &refusal, zone);
+            return written;
+        },
+        &error);
     if (!ok)
         m_window.complain(QString::fromStdString(error));
 }

@@ -5,6 +5,7 @@
 #include <map>
 #include <tuple>
 #include <QCoreApplication>
+#include "demo/HostText.h"
 #include "demo/AxisTicks.h"
 #include "demo/HostStyle.h"
 #include "host/kernel/Kernel.h"
@@ -13,18 +14,9 @@
 
 namespace {
 
-const int RGBColoring = -6;
-
 QString tr(const char* text)
 {
     return QCoreApplication::translate("PlotScene", text);
-}
-
-QString takeString(char* text)
-{
-    const QString result = text ? QString::fromUtf8(text) : QString();
-    OrrUtilStringDealloc(&text);
-    return result;
 }
 
 std::vector<std::string> namedCategories(int var)
@@ -128,7 +120,7 @@ bool PlotScene::anyScatter() const
 
 bool PlotScene::anyRamp() const
 {
-    auto ramped = [](int index) { return index < 0 && index != RGBColoring; };
+    auto ramped = [](int index) { return index < 0 && index != PointColours::RGBColoring; };
     return std::any_of(zones.begin(), zones.end(), [&](const Zone& z) {
         return (z.mesh && ramped(z.meshColour)) || (z.scatter && ramped(z.scatterColour));
     });
@@ -147,7 +139,7 @@ PlotScene PlotScene::fromHost()
     scene.dims = scene.threeD ? 3 : 2;
     scene.title = QString::fromStdString(HostStyle::text("FrameLayout/Title"));
     if (scene.title.isEmpty())
-        scene.title = takeString(OrrUtilDataSetGetTitle());
+        scene.title = takeHostText(OrrUtilDataSetGetTitle());
     scene.anchor = int(HostStyle::integer("FrameLayout/TitleAnchor", -1, 1));
     scene.begin = HostStyle::integer("IndexRange/Begin", -1, 1);
     scene.end = HostStyle::integer("IndexRange/End", -1, 0);
@@ -159,7 +151,7 @@ PlotScene PlotScene::fromHost()
             continue;
         Zone z;
         z.zone = zone;
-        z.name = takeString(OrrUtilZoneGetName(zone));
+        z.name = takeHostText(OrrUtilZoneGetName(zone));
         z.points = OrrUtilZoneGetNumPoints(zone);
         z.meshColour = int(HostStyle::integer("FieldMap/Mesh/Color", zone));
         z.scatterColour = int(HostStyle::integer("FieldMap/Scatter/Color", zone));
@@ -180,7 +172,7 @@ PlotScene PlotScene::fromHost()
     for (int a = 0; a < scene.dims; ++a) {
         Axis& axis = scene.axes[a];
         axis.var = int(HostStyle::integer(root + names[a] + "/VarNum"));
-        axis.name = takeString(OrrUtilVarGetName(axis.var));
+        axis.name = takeHostText(OrrUtilVarGetName(axis.var));
         if (axis.name.isEmpty()) {
             scene.problem = tr("Choose the axis variables (Dialogs > Axis Variables).");
             return scene;
@@ -207,7 +199,7 @@ PlotScene PlotScene::fromHost()
     const int chosen = int(HostStyle::integer("GlobalContour/Var"));
     scene.contour.var = chosen ? chosen : automaticContourVar(scene);
     scene.contour.map = int(HostStyle::integer("GlobalContour/ColorMap"));
-    scene.contourName = takeString(OrrUtilVarGetName(scene.contour.var));
+    scene.contourName = takeHostText(OrrUtilVarGetName(scene.contour.var));
     scene.contourCategories = namedCategories(scene.contour.var);
     if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max))
         scene.contour.min = scene.contour.max = 0.0;
@@ -218,7 +210,7 @@ PlotScene PlotScene::fromHost()
     for (int c = 0; c < scene.dims; ++c)
         scene.vectorVars[c] = int(HostStyle::integer(vectorRoot + components[c]));
     scene.sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
-    scene.sizeName = takeString(OrrUtilVarGetName(scene.sizeVar));
+    scene.sizeName = takeHostText(OrrUtilVarGetName(scene.sizeVar));
     scene.relativeSize = HostStyle::number("GlobalScatter/RelativeSize", -1, 1.0);
     scene.sizeInCm = !HostStyle::flag("GlobalScatter/RelativeSizeInGridUnits", -1, true);
     scene.mediumPercent = HostStyle::number("BasicSize/SymbolSizes/Medium", -1, 2.5);

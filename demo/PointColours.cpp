@@ -8,8 +8,6 @@
 
 namespace {
 
-const int RGBColoring = -6; // the colour chooser's "RGB" entry
-
 QColor basicColor(int index)
 {
     unsigned char r = 0, g = 0, b = 0;

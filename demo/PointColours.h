@@ -8,6 +8,9 @@
 class PointColours
 {
 public:
+    // The colour chooser's "RGB" entry: red, green and blue from three variables.
+    static constexpr int RGBColoring = -6;
+
     // The variable a colour map follows and the range it spreads over.
     struct Contour
     {

@@ -1,4 +1,5 @@
 #include "demo/StateView.h"
+#include "demo/HostText.h"
 #include "demo/IdleBatch.h"
 
 #include <QListWidget>
@@ -67,13 +68,6 @@ QString toText(const orrery::kernel::StyleDatum& datum)
         datum);
 }
 
-QString takeString(char* text)
-{
-    const QString result = text ? QString::fromUtf8(text) : QString();
-    OrrUtilStringDealloc(&text);
-    return result;
-}
-
 void setRow(QTreeWidgetItem& parent, int row, const QString& name, const QString& value)
 {
     while (parent.childCount() <= row)
@@ -135,12 +129,12 @@ void StateView::stateChanged(const StateChangeEventInterface& event)
 void StateView::refreshDataSet()
 {
     const bool available = OrrUtilDataSetIsAvailable();
-    setRow(*m_dataSet, 0, tr("Title"), available ? takeString(OrrUtilDataSetGetTitle()) : tr("(none)"));
+    setRow(*m_dataSet, 0, tr("Title"), available ? takeHostText(OrrUtilDataSetGetTitle()) : tr("(none)"));
     setRow(*m_dataSet, 1, tr("Zones"), QString::number(available ? OrrUtilDataSetGetNumZones() : 0));
     QStringList variables;
     const orrery::kernel::DataSet& data = orrery::kernel::Kernel::instance().dataSet();
     for (int var = 1; available && var <= OrrUtilDataSetGetNumVars(); ++var) {
-        QString name = takeString(OrrUtilVarGetName(var));
+        QString name = takeHostText(OrrUtilVarGetName(var));
         // A text column: show its categories, the first few by name.
         if (data.hasVar(var) && !data.categories(var).empty()) {
             const std::vector<std::string>& categories = data.categories(var);
