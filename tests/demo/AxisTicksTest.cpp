@@ -30,9 +30,7 @@ void expectReadable(double min, double max)
         EXPECT_GE(tick.value, min);
         EXPECT_LE(tick.value, max);
         EXPECT_TRUE(std::isfinite(tick.value));
-        EXPECT_TRUE(isRoundStep(std::abs(tick.value))
-                    || std::abs(tick.value / step - std::round(tick.value / step)) < 1e-6)
-            << tick.value;
+        EXPECT_NEAR(tick.value / step, std::round(tick.value / step), 1e-6) << "a multiple of the step";
         distinct.insert(tick.label);
     }
     EXPECT_EQ(scale.ticks.size(), distinct.size());
