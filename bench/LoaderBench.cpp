@@ -1,5 +1,7 @@
 // Loading a generated CSV file (with one thread, and as the host does, two on
-// long files) beside a plain read of the same file into
+// long files; and as the demo does, through FileLoad with the file's size and
+// SHA-256 taken and journalled, and as a replay does, checked against them)
+// beside a plain read of the same file into
 // memory and beside a naive line-splitting loader, with the peak of allocated memory during the load as a multiple of
 // the data held as doubles. Sizes in MB come from ORRERY_LOADER_BENCH_MB
 // (comma-separated, default "1,10"); for example
@@ -24,6 +26,7 @@
 #include <csv.h>
 #endif
 
+#include "host/kernel/FileLoad.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/KernelDriver.h"
 #include "host/loaders/CsvDataLoader.h"
@@ -203,23 +206,61 @@ void BaselineLibcsv(benchmark::State& state)
 }
 #endif
 
-// The CSV loader as the host has it (two threads on long files), or held to one thread.
-void CsvLoad(benchmark::State& state, bool oneThread)
+enum class Path
+{
+    LoaderOneThread, // the loader held to one thread
+    Loader,          // the loader alone, as the host has it (two threads on long files)
+    FileLoad,        // as the demo loads a file: opened once, hashed beside the load, journalled
+    Replay           // as a replay loads it: checked against the size and digest a session recorded
+};
+
+bool loadBy(Path path, orrery::sdk::CsvDataLoader& loader, const std::string& file,
+            const orrery::kernel::FileLoad::Expected& expected, std::string& error)
+{
+    using orrery::kernel::FileLoad;
+    switch (path) {
+    case Path::LoaderOneThread:
+    case Path::Loader: return loader.load(file, error);
+    case Path::FileLoad: return FileLoad::load(loader, file, error);
+    case Path::Replay: return FileLoad::load(loader, file, error, &expected);
+    }
+    return false;
+}
+
+// What the journal recorded of path when FileLoad read it.
+orrery::kernel::FileLoad::Expected recorded(orrery::sdk::CsvDataLoader& loader, const std::string& path)
+{
+    orrery::kernel::FileLoad::Expected expected;
+    std::string error;
+    orrery::kernel::Journal::FileRecord file;
+    auto& journal = orrery::kernel::Kernel::instance().journal();
+    if (orrery::kernel::FileLoad::load(loader, path, error) && !journal.lines().empty()
+        && orrery::kernel::Journal::parseLoad(journal.lines().back().substr(5), file, error)) {
+        expected.size = file.size;
+        expected.sha256 = file.sha256;
+    }
+    journal.clear();
+    return expected;
+}
+
+void CsvLoad(benchmark::State& state, Path by)
 {
     std::size_t rows = 0;
     const std::string path = csvFile(state.range(0), rows);
     orrery::sdk::CsvDataLoader loader;
-    if (oneThread)
+    if (by == Path::LoaderOneThread)
         loader.readInTwoPartsFrom(std::numeric_limits<long long>::max());
+    const orrery::kernel::FileLoad::Expected expected = recorded(loader, path);
     double peakRatio = 0;
     for (auto _ : state) {
         state.PauseTiming();
         orrery::kernel::KernelDriver::clearDataSet();
+        orrery::kernel::Kernel::instance().journal().clear();
         const long long before = g_current;
         g_peak = before;
         state.ResumeTiming();
         std::string error;
-        if (!loader.load(path, error))
+        if (!loadBy(by, loader, path, expected, error))
             state.SkipWithError(error.c_str());
         state.PauseTiming();
         const double data = static_cast<double>(rows) * Columns * sizeof(double);
@@ -244,11 +285,12 @@ void registerAll()
 #ifdef ORRERY_BENCH_LIBCSV
         benchmark::RegisterBenchmark("BaselineLibcsv", BaselineLibcsv)->Arg(mb)->Unit(benchmark::kMillisecond);
 #endif
-        benchmark::RegisterBenchmark("CsvLoadOneThread", CsvLoad, true)
-            ->Arg(mb)
-            ->Unit(benchmark::kMillisecond)
-            ->UseRealTime();
-        benchmark::RegisterBenchmark("CsvLoad", CsvLoad, false)->Arg(mb)->Unit(benchmark::kMillisecond)->UseRealTime();
+        const std::pair<const char*, Path> paths[] = {{"CsvLoadOneThread", Path::LoaderOneThread},
+                                                      {"CsvLoad", Path::Loader},
+                                                      {"CsvLoadAsTheDemoDoes", Path::FileLoad},
+                                                      {"CsvLoadAsAReplayDoes", Path::Replay}};
+        for (const auto& [name, by] : paths)
+            benchmark::RegisterBenchmark(name, CsvLoad, by)->Arg(mb)->Unit(benchmark::kMillisecond)->UseRealTime();
     }
 }
 

@@ -25,7 +25,7 @@ else()
   set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt6widgets6 (>= 6.4), libqt6gui6 (>= 6.4), libqt6core6 (>= 6.4)")
   set(qt_dev qt6-base-dev)
 endif()
-string(APPEND CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS ", libc6, libstdc++6")
+string(APPEND CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS ", libssl3, libc6, libstdc++6")
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
     "${runtime_package} (= ${PROJECT_VERSION}), ${qt_dev}, libboost-dev (>= 1.74)")
 include(CPack)

@@ -1,4 +1,5 @@
 #include "demo/StdinJournal.h"
+#include <algorithm>
 #include <cstdio>
 #include <sstream>
 #include <unistd.h>
@@ -15,18 +16,45 @@ StdinJournal::StdinJournal(QObject* parent)
 
 void StdinJournal::readAvailable()
 {
-    char buffer[4096];
+    char buffer[1 << 16];
     const ssize_t got = ::read(STDIN_FILENO, buffer, sizeof buffer);
     if (got <= 0) {
         m_notifier->setEnabled(false); // the end of the input: nothing more will come
         return;
     }
-    m_partial.append(buffer, size_t(got));
-    for (size_t end; (end = m_partial.find('\n')) != std::string::npos;) {
-        const std::string line = m_partial.substr(0, end);
-        m_partial.erase(0, end + 1);
-        take(line);
+    // Only the bytes just read are searched for a line end, and a line is kept
+    // no longer than a replay would take it.
+    const char* const end = buffer + got;
+    for (const char* at = buffer; at < end;) {
+        const char* const lineEnd = std::find(at, end, '\n');
+        if (!m_overlong) {
+            const size_t length = static_cast<size_t>(lineEnd - at);
+            m_overlong = length > JournalReplayer::MaxLineLength - m_partial.size();
+            if (m_overlong)
+                m_partial.clear();
+            else
+                m_partial.append(at, length);
+        }
+        if (lineEnd == end)
+            break;
+        if (m_overlong)
+            skipOverlong();
+        else
+            take(m_partial);
+        m_partial.clear();
+        at = lineEnd + 1;
     }
+}
+
+void StdinJournal::skipOverlong()
+{
+    m_overlong = false;
+    ++m_lineNumber;
+    const bool inStep = !m_step.empty();
+    m_step.take();
+    std::fprintf(stderr, "orrery-demo: standard input, line %d: the line is longer than %zu characters; %s\n",
+                 m_lineNumber, JournalReplayer::MaxLineLength,
+                 inStep ? "it and the step it was in were not played." : "it was not played.");
 }
 
 void StdinJournal::take(const std::string& line)

@@ -16,10 +16,12 @@ public:
 private:
     void readAvailable();
     void take(const std::string& line);
+    void skipOverlong();
 
     QSocketNotifier* m_notifier;
-    std::string m_partial; // a line not yet ended
-    JournalStep m_step;    // the lines of an open step
+    std::string m_partial;   // a line not yet ended
+    bool m_overlong = false; // the line being read is too long to keep
+    JournalStep m_step;      // the lines of an open step
     int m_lineNumber = 0;
     int m_stepStart = 0;
 };

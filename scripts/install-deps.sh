@@ -5,7 +5,7 @@
 # clang-format; default 6)
 set -euo pipefail
 majors=("$@"); [ ${#majors[@]} -gt 0 ] || majors=(6)
-pkgs=(cmake g++ make ccache pkg-config libboost-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
+pkgs=(cmake g++ make ccache pkg-config libboost-dev libssl-dev googletest libgtest-dev libgmock-dev libbenchmark-dev libgl-dev fonts-dejavu-core locales)
 for m in "${majors[@]}"; do
   case "$m" in
     6) pkgs+=(qt6-base-dev qt6-base-dev-tools qt6-qpa-plugins qt6-l10n-tools qt6-tools-dev qt6-translations-l10n qt6-svg-dev) ;;

@@ -5,11 +5,14 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <set>
+#include <sys/stat.h>
 #include <stdexcept>
 #include "host/kernel/FileLoad.h"
 #include "host/kernel/Journal.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
+#include "host/loaders/FileBlockReader.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
 
@@ -152,49 +155,41 @@ void commandOf(const std::string& line, std::string& command, std::string& argum
 
 } // namespace
 
-// One replay: the lines read, the brackets it opened, the files it checked.
+// One replay: the brackets it opened, the files it checked.
 class JournalReplayer::Run
 {
 public:
     Run(const std::string& source, const Options& options) : m_source(source), m_options(options) {}
 
+    // Lines are played as they are read, so that a journal of any length
+    // takes no more memory than its longest line.
     Result replay(std::istream& in)
     {
-        std::string fault; // why the line after the last one read cannot be played
-        bool cutOff = false;
-        std::string line;
-        for (Read read; (read = readLine(in, line, m_options.lastLineNeedsEnd)) != Read::End;) {
-            if (read == Read::TooLong)
-                fault = "the line is longer than " + std::to_string(MaxLineLength) + " characters.";
-            else if ((cutOff = read == Read::CutOff))
-                fault = "the line was cut off while it was written; it was not played.";
-            else if (!isPrintable(line))
-                fault = "the line holds control characters; this is not a journal.";
-            if (!fault.empty())
-                break;
-            m_lines.push_back(line);
+        const std::istream::pos_type start = in.tellg();
+        if (start != std::istream::pos_type(-1)) {
+            if (!checkLoads(in))
+                return m_result;
+            in.clear();
+            in.seekg(start);
         }
-        // The data files first, so that a session whose data cannot be read applies nothing.
-        std::string command, arguments, error;
-        for (size_t i = 0; i < m_lines.size(); ++i) {
-            commandOf(m_lines[i], command, arguments);
-            if (command == "load" && !checkLoad(int(i + 1), arguments, error))
-                return fail(int(i + 1), error);
-        }
-
         sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-        for (size_t i = 0; i < m_lines.size() && m_result.ok; ++i) {
-            commandOf(m_lines[i], command, arguments);
+        std::string line, command, arguments, error;
+        int number = 0;
+        for (Read read; m_result.ok && (read = readLine(in, line, m_options.lastLineNeedsEnd)) != Read::End;) {
+            ++number;
+            const std::string fault = faultOf(read, line);
+            if (!fault.empty()) {
+                fail(number, fault);
+                m_result.cutOff = read == Read::CutOff;
+                break;
+            }
+            commandOf(line, command, arguments);
             if (command.empty())
                 continue;
-            if (!play(int(i + 1), command, arguments, error))
-                fail(int(i + 1), error);
+            if (!play(number, command, arguments, error))
+                fail(number, error);
             else
                 ++m_result.played;
-        }
-        if (m_result.ok && !fault.empty()) {
-            fail(int(m_lines.size() + 1), fault);
-            m_result.cutOff = cutOff;
         }
         if (m_result.ok && m_openBrackets > 0 && m_options.lastLineNeedsEnd) {
             fail(m_stepLine, "the step begun here has no end; it was taken back.");
@@ -210,6 +205,17 @@ public:
     }
 
 private:
+    static std::string faultOf(Read read, const std::string& line)
+    {
+        if (read == Read::TooLong)
+            return "the line is longer than " + std::to_string(MaxLineLength) + " characters.";
+        if (read == Read::CutOff)
+            return "the line was cut off while it was written; it was not played.";
+        if (!isPrintable(line))
+            return "the line holds control characters; this is not a journal.";
+        return std::string();
+    }
+
     Result fail(int line, const std::string& why)
     {
         m_result.ok = false;
@@ -218,7 +224,13 @@ private:
         return m_result;
     }
 
-    // The file a load line names, and its loader; false with error when either is gone.
+    bool acceptChanged(int line, const std::string& why) const
+    {
+        return m_options.acceptChangedFile
+               && m_options.acceptChangedFile(m_source + ", line " + std::to_string(line) + ": " + why);
+    }
+
+    // The file a load line names, and its loader; false with error when the loader is gone.
     bool resolve(const std::string& arguments, Journal::FileRecord& file, std::string& path,
                  sdk::DataLoaderRepository::LoaderPtr& loader, std::string& error)
     {
@@ -232,27 +244,72 @@ private:
             error = "the loader \"" + file.loader + "\" for " + path + " is not installed.";
             return false;
         }
-        std::error_code failed;
-        if (!std::filesystem::is_regular_file(named, failed)) {
-            error = "the data file " + path + " is missing.";
-            return false;
+        return true;
+    }
+
+    // Before anything is played, every load line's file is checked as far as
+    // it can be without reading it: its loader, its kind and its size. Its
+    // content is checked as it is loaded.
+    bool checkLoads(std::istream& in)
+    {
+        std::string line, command, arguments, error;
+        int number = 0;
+        for (Read read; (read = readLine(in, line, m_options.lastLineNeedsEnd)) != Read::End;) {
+            ++number;
+            if (!faultOf(read, line).empty())
+                return true; // the replay stops there, after the lines before it
+            commandOf(line, command, arguments);
+            if (command == "load" && !checkLoad(number, arguments, error)) {
+                fail(number, error);
+                return false;
+            }
         }
         return true;
     }
 
     bool checkLoad(int line, const std::string& arguments, std::string& error)
     {
-        Journal::FileRecord recorded, now;
+        Journal::FileRecord recorded;
         std::string path;
         sdk::DataLoaderRepository::LoaderPtr loader;
-        if (!resolve(arguments, recorded, path, loader, error) || !FileLoad::fingerprint(path, now, error))
+        if (!resolve(arguments, recorded, path, loader, error))
             return false;
-        if (now.size == recorded.size && now.sha256 == recorded.sha256)
+        sdk::FileBlockReader file;
+        std::string why;
+        if (!file.open(path, why)) {
+            error = file.missing() ? "the data file " + path + " is missing." : why;
+            return false;
+        }
+        const std::uint64_t size = static_cast<std::uint64_t>(file.size());
+        if (size == recorded.size)
             return true;
-        error = "the data file " + path + " has changed since the session was recorded ("
-                + std::to_string(recorded.size) + " bytes then, " + std::to_string(now.size) + " now).";
-        return m_options.acceptChangedFile
-               && m_options.acceptChangedFile(m_source + ", line " + std::to_string(line) + ": " + error);
+        error = FileLoad::changedText(path, recorded.size, size);
+        if (!acceptChanged(line, error))
+            return false;
+        m_acceptedLines.insert(line);
+        return true;
+    }
+
+    bool playLoad(int line, const std::string& arguments, std::string& error)
+    {
+        Journal::FileRecord recorded;
+        std::string path;
+        sdk::DataLoaderRepository::LoaderPtr loader;
+        if (!resolve(arguments, recorded, path, loader, error))
+            return false;
+        bool changed = false;
+        FileLoad::Expected expected;
+        expected.size = recorded.size;
+        expected.sha256 = recorded.sha256;
+        expected.acceptChanged = [&](const std::string& why) {
+            changed = true;
+            return acceptChanged(line, why);
+        };
+        std::string why;
+        if (FileLoad::load(*loader, path, why, m_acceptedLines.count(line) ? nullptr : &expected))
+            return true;
+        error = changed ? why : "cannot load " + path + ": " + why;
+        return false;
     }
 
     bool play(int line, const std::string& command, const std::string& arguments, std::string& error)
@@ -301,19 +358,8 @@ private:
             }
             return true;
         }
-        if (command == "load") {
-            Journal::FileRecord file;
-            std::string path;
-            sdk::DataLoaderRepository::LoaderPtr loader;
-            if (!resolve(arguments, file, path, loader, error))
-                return false;
-            std::string why;
-            if (!FileLoad::load(*loader, path, why)) {
-                error = "cannot load " + path + ": " + why;
-                return false;
-            }
-            return true;
-        }
+        if (command == "load")
+            return playLoad(line, arguments, error);
         if (command == "sample") {
             std::string rest;
             const std::optional<std::string> name = Journal::unquote(arguments, &rest);
@@ -336,7 +382,7 @@ private:
 
     std::string m_source;
     const Options& m_options;
-    std::vector<std::string> m_lines;
+    std::set<int> m_acceptedLines; // load lines whose changed file the user accepted before the replay
     Result m_result;
     int m_openBrackets = 0;
     int m_stepLine = 0;         // where the outermost open step began
@@ -350,10 +396,18 @@ JournalReplayer::Result JournalReplayer::replayFile(const std::string& path)
 
 JournalReplayer::Result JournalReplayer::replayFile(const std::string& path, Options options)
 {
+    Result result;
+    result.ok = false;
+    // A pipe or device in a journal's place would block the open or never end.
+    struct stat status
+    {};
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        result.message = "Cannot open the journal " + path + ": it is "
+                         + (S_ISDIR(status.st_mode) ? "a folder" : "not a regular file") + ".";
+        return result;
+    }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        Result result;
-        result.ok = false;
         result.message = "Cannot open the journal " + path + ": " + std::strerror(errno);
         return result;
     }

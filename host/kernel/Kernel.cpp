@@ -1,7 +1,6 @@
 #include "host/kernel/Kernel.h"
 #include <algorithm>
 #include <utility>
-#include <charconv>
 #include "host/kernel/VariableFit.h"
 #include "host/loaders/BuiltInLoaders.h"
 #include "host/settings/SettingsFile.h"
@@ -39,12 +38,14 @@ Kernel& Kernel::instance()
 namespace {
 
 // How many steps Undo can take back: the host's setting "UndoStepLimit".
-size_t undoStepLimit()
+size_t undoStepLimit(std::vector<std::string>& problems)
 {
     const std::string text = host::SettingsFile::instance().getStringValue("UndoStepLimit");
-    size_t steps = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), steps);
-    return error == std::errc() && end == text.data() + text.size() && steps > 0 ? steps : UndoStack::DefaultLimit;
+    std::string problem;
+    const size_t steps = text.empty() ? UndoStack::DefaultLimit : UndoStack::limitFromSetting(text, problem);
+    if (!problem.empty())
+        problems.push_back(problem);
+    return steps;
 }
 
 } // namespace
@@ -52,7 +53,7 @@ size_t undoStepLimit()
 Kernel::Kernel() : m_style(*this)
 {
     host::installBuiltInLoaders();
-    m_undo.setLimit(undoStepLimit());
+    m_undo.setLimit(undoStepLimit(m_settingsProblems));
     m_pageCount = 1;
     addFrame();
 }
@@ -84,8 +85,16 @@ void Kernel::fitZoneChoices(Frame& frame) const
         frame.style().store("IndexRange/Begin", 0, 1L);
 }
 
+Kernel::DataSetGate Kernel::setDataSetGate(DataSetGate gate)
+{
+    std::swap(gate, m_dataSetGate);
+    return gate;
+}
+
 void Kernel::setDataSet(DataSet dataSet)
 {
+    if (m_dataSetGate && !m_dataSetGate())
+        return;
     m_dataSet = std::move(dataSet);
     const size_t current = m_current;
     for (size_t i = 0; i < m_frames.size(); ++i) {

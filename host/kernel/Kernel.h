@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,7 +30,16 @@ public:
     const DataSet& dataSet() const { return m_dataSet; }
     // Every frame then uses all zones and variables, its variable choices are
     // fitted to the new data set (VariableFit) and the undo history starts afresh.
+    // A gate, when one is set, is asked first; false keeps the current data set.
     void setDataSet(DataSet dataSet);
+    // Set while a load checks the file it reads (see FileLoad); returns the
+    // gate it replaces.
+    typedef std::function<bool()> DataSetGate;
+    DataSetGate setDataSetGate(DataSetGate gate);
+
+    // What was wrong with the host's settings when the kernel was made, one
+    // message each, for the host to show.
+    const std::vector<std::string>& settingsProblems() const { return m_settingsProblems; }
 
     int pageCount() const { return m_pageCount; }
     // Without pages there are no frames.
@@ -89,6 +99,8 @@ private:
     size_t m_current = 0;
     long m_nextFrameID = 1;
     std::optional<std::string> m_lastError;
+    DataSetGate m_dataSetGate;
+    std::vector<std::string> m_settingsProblems;
 };
 
 } // namespace kernel

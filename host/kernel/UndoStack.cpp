@@ -1,6 +1,8 @@
 #include "host/kernel/UndoStack.h"
 #include <algorithm>
 #include <cctype>
+#include <charconv>
+#include "host/loaders/TextExcerpt.h"
 
 namespace orrery {
 namespace kernel {
@@ -78,6 +80,18 @@ std::string UndoStack::undoName() const
 std::string UndoStack::redoName() const
 {
     return m_undone.empty() ? std::string() : m_undone.back().name;
+}
+
+size_t UndoStack::limitFromSetting(const std::string& text, std::string& problem)
+{
+    size_t steps = 0;
+    const auto [end, failed] = std::from_chars(text.data(), text.data() + text.size(), steps);
+    if (failed == std::errc() && end == text.data() + text.size() && steps >= 1 && steps <= MostSteps)
+        return steps;
+    problem = "The setting UndoStepLimit = \"" + sdk::TextExcerpt::printable(text.substr(0, 40))
+              + "\" is not a whole number from 1 to " + std::to_string(MostSteps) + "; Undo keeps "
+              + std::to_string(DefaultLimit) + " steps.";
+    return DefaultLimit;
 }
 
 void UndoStack::setLimit(size_t steps)

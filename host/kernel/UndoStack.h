@@ -27,6 +27,11 @@ class UndoStack
 public:
     typedef std::vector<UndoRecord> Step;
     static constexpr size_t DefaultLimit = 1000;
+    // More steps than a setting may ask for: each keeps the values it changed.
+    static constexpr size_t MostSteps = 1000000;
+    // The limit a setting's text asks for: a whole number from 1 to MostSteps;
+    // otherwise DefaultLimit, with problem saying why.
+    static size_t limitFromSetting(const std::string& text, std::string& problem);
 
     void add(const UndoRecord& record);
     // name: what the step is called in an Edit menu ("Assign Variables"); an

@@ -5,6 +5,7 @@
 #include <memory>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -13,6 +14,52 @@
 
 namespace orrery {
 namespace sdk {
+
+namespace {
+
+thread_local const FileBlockReader::Claim* t_claim = nullptr;
+
+// What a file that is not a regular file on a disk is, for the message that refuses it.
+const char* oddKind(const struct stat& status)
+{
+    if (S_ISDIR(status.st_mode))
+        return "a folder";
+    if (S_ISFIFO(status.st_mode))
+        return "a named pipe";
+    if (S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode))
+        return "a device";
+    if (S_ISSOCK(status.st_mode))
+        return "a socket";
+    return "something other than a regular file";
+}
+
+// The kernel's own file systems: their files claim a size of 0 or 4096 and may
+// hand out bytes without end (/proc/self/pagemap), so they are never data.
+bool onSystemFileSystem(int fd)
+{
+    struct statfs info
+    {};
+    if (::fstatfs(fd, &info) != 0)
+        return false;
+    constexpr long proc = 0x9fa0, sysfs = 0x62656572, debugfs = 0x64626720, tracefs = 0x74726163,
+                   securityfs = 0x73636673, cgroup = 0x27e0eb, cgroup2 = 0x63677270;
+    const long type = static_cast<long>(info.f_type);
+    return type == proc || type == sysfs || type == debugfs || type == tracefs || type == securityfs || type == cgroup
+           || type == cgroup2;
+}
+
+} // namespace
+
+FileBlockReader::Claim::Claim(const FileBlockReader& file, const std::string& path)
+    : m_file(file), m_path(path), m_outer(t_claim)
+{
+    t_claim = this;
+}
+
+FileBlockReader::Claim::~Claim()
+{
+    t_claim = m_outer;
+}
 
 namespace {
 
@@ -77,33 +124,43 @@ std::string FileBlockReader::displayName(const std::string& path)
     return TextExcerpt::printable(path.substr(path.find_last_of('/') + 1));
 }
 
+bool FileBlockReader::refuse(const std::string& why, std::string& error)
+{
+    error = "Cannot read " + m_displayName + ": " + why;
+    if (m_fd >= 0)
+        ::close(m_fd);
+    m_fd = -1;
+    return false;
+}
+
 bool FileBlockReader::open(const std::string& path, std::string& error)
 {
     m_displayName = displayName(path);
+    m_missing = false;
+    if (path.find('\0') != std::string::npos)
+        return refuse("its name holds a NUL byte.", error);
+    for (const Claim* claim = t_claim; claim; claim = claim->m_outer)
+        if (claim->m_path == path)
+            return share(claim->m_file, 0, ToEnd, error);
     struct stat status
     {};
     if (::stat(path.c_str(), &status) != 0) {
+        m_missing = errno == ENOENT;
         error = failure("Cannot open", errno);
         return false;
     }
-    if (S_ISDIR(status.st_mode)) {
-        error = "Cannot read " + m_displayName + ": it is a folder, not a file.";
-        return false;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        error = "Cannot read " + m_displayName + ": it is not a regular file.";
-        return false;
-    }
+    if (!S_ISREG(status.st_mode))
+        return refuse(std::string("it is ") + oddKind(status) + ", not a file of data.", error);
     // O_NONBLOCK: should the name be swapped for a pipe after the check, open does not wait for a writer.
     m_fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (m_fd < 0) {
         error = failure("Cannot open", errno);
         return false;
     }
-    if (::fstat(m_fd, &status) != 0 || !S_ISREG(status.st_mode)) {
-        error = "Cannot read " + m_displayName + ": it is not a regular file.";
-        return false;
-    }
+    if (::fstat(m_fd, &status) != 0 || !S_ISREG(status.st_mode))
+        return refuse(std::string("it is ") + oddKind(status) + ", not a file of data.", error);
+    if (onSystemFileSystem(m_fd))
+        return refuse("it is a file of the operating system, not a file of data.", error);
     m_size = status.st_size;
     return true;
 }
@@ -124,6 +181,12 @@ bool FileBlockReader::share(const FileBlockReader& other, long long begin, long 
 
 bool FileBlockReader::readAt(long long at, char* buffer, size_t capacity, size_t& got, std::string& error) const
 {
+    // Bytes appended after the file was opened are not part of this load.
+    capacity = static_cast<size_t>(std::max(0LL, std::min<long long>(static_cast<long long>(capacity), m_size - at)));
+    if (capacity == 0) {
+        got = 0;
+        return true;
+    }
     for (;;) {
         const ssize_t n = ::pread(m_fd, buffer, capacity, at);
         if (n >= 0) {

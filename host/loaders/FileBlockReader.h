@@ -7,21 +7,43 @@ namespace orrery {
 namespace sdk {
 
 // Reads a regular file in blocks, by its native (byte) name, so that a name
-// that is not valid UTF-8 still opens. Folders, pipes and devices are refused
-// before anything is read from them, so that a load never blocks. Readers
-// that share a file each read their own part of it.
+// that is not valid UTF-8 still opens. Folders, pipes, devices and the
+// kernel's own files (/proc, /sys) are refused before anything is read from
+// them, so that a load never blocks, and no read goes past the size the file
+// had when it was opened. Readers that share a file each read their own part of it.
 class FileBlockReader
 {
 public:
     static constexpr long long ToEnd = -1;
+
+    // While a claim lives, opening its path on the same thread reads the file
+    // the claim holds open instead of opening the name again: a caller that
+    // checks and hashes a file before a loader reads it knows the loader reads
+    // the very same bytes.
+    class Claim
+    {
+    public:
+        Claim(const FileBlockReader& file, const std::string& path);
+        ~Claim();
+        Claim(const Claim&) = delete;
+        Claim& operator=(const Claim&) = delete;
+
+    private:
+        friend class FileBlockReader;
+        const FileBlockReader& m_file;
+        const std::string m_path;
+        const Claim* m_outer;
+    };
 
     FileBlockReader() = default;
     ~FileBlockReader();
     FileBlockReader(const FileBlockReader&) = delete;
     FileBlockReader& operator=(const FileBlockReader&) = delete;
 
-    // False with error set when the path is not a readable regular file.
+    // False with error set when the path is not a readable regular file;
+    // missing() then tells whether nothing of that name exists.
     bool open(const std::string& path, std::string& error);
+    bool missing() const { return m_missing; }
     // Reads the bytes [begin, end) of the file other has open.
     bool share(const FileBlockReader& other, long long begin, long long end, std::string& error);
     // Called with the offset reached after each block read() hands out;
@@ -55,7 +77,10 @@ private:
     bool readAt(long long at, char* buffer, size_t capacity, size_t& got, std::string& error) const;
     std::string failure(const char* what, int code) const;
 
+    bool refuse(const std::string& why, std::string& error);
+
     int m_fd = -1;
+    bool m_missing = false;
     long long m_size = 0;
     long long m_begin = 0;
     long long m_offset = 0;

@@ -1,5 +1,6 @@
 // The stand-in kernel's rules: refused writes and their texts, collection
 // members, undo and redo, and the state changes it announces.
+#include "host/kernel/UndoStack.h"
 #include "tests/host/StyleCalls.h"
 
 using namespace stylecalls;
@@ -210,6 +211,21 @@ TEST_F(Undo, LoneWritesAreStepsANewWriteDropsRedoAndARevertTakesBackOnlyItsClose
 }
 
 typedef SampleKernelTest StateChange;
+
+TEST(UndoLimit, ASettingIsAWholeNumberInRangeOrIsRefusedInWords)
+{
+    using orrery::kernel::UndoStack;
+    std::string problem;
+    EXPECT_EQ(UndoStack::limitFromSetting("25", problem), 25u);
+    EXPECT_EQ(UndoStack::limitFromSetting("1000000", problem), 1000000u);
+    EXPECT_EQ(problem, "");
+    for (const char* bad : {"0", "-1", "1e12", "1000001", "18446744073709551616", " 3", "abc", "3 "}) {
+        problem.clear();
+        EXPECT_EQ(UndoStack::limitFromSetting(bad, problem), UndoStack::DefaultLimit) << bad;
+        EXPECT_EQ(problem, std::string("The setting UndoStepLimit = \"") + bad
+                               + "\" is not a whole number from 1 to 1000000; Undo keeps 1000 steps.");
+    }
+}
 
 TEST_F(StateChange, StyleDataSetFrameAndPageChangesAreAnnouncedWithTheirCodes)
 {

@@ -1,4 +1,9 @@
 #include <fstream>
+#include <sstream>
+#include <streambuf>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QTemporaryDir>
 #include "host/kernel/FileLoad.h"
@@ -17,6 +22,11 @@ using testsupport::kernelSnapshot;
 using testsupport::styleValue;
 
 namespace {
+
+std::string digestOf(const std::string& bytes)
+{
+    return QCryptographicHash::hash(QByteArray::fromStdString(bytes), QCryptographicHash::Sha256).toHex().toStdString();
+}
 
 class Session : public testsupport::SampleKernelTest
 {
@@ -76,7 +86,7 @@ TEST_F(Session, ASavedSessionReplaysToTheSameStateDataSetIncluded)
     EXPECT_EQ(kernelSnapshot(), expected);
 }
 
-TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLineAndNothingIsApplied)
+TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLine)
 {
     const std::string data = file("a.csv", "x,y,z\n1,2,3\n4,5,6\n");
     {
@@ -88,15 +98,28 @@ TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLineAndNothingIsApplie
     Kernel::resetKernel();
     Kernel::loadSampleDataSet();
     const std::string untouched = kernelSnapshot();
+    const int sampleVars = orrery::kernel::Kernel::instance().dataSet().numVars();
 
-    file("a.csv", "x,y,z\n1,2,3\n4,5,7\n");
+    // Another size is seen before anything is played or read.
+    file("a.csv", "x,y,z\n1,2,3\n4,5,67\n");
     JournalReplayer::Result result = JournalReplayer::replayFile(session);
     EXPECT_FALSE(result.ok);
     EXPECT_EQ(result.line, 2);
     EXPECT_NE(result.message.find(session + ", line 2: the data file "), std::string::npos) << result.message;
-    EXPECT_NE(result.message.find("a.csv has changed since the session was recorded"), std::string::npos)
+    EXPECT_NE(result.message.find("a.csv has changed since the session was recorded (18 bytes then, 19 now)"),
+              std::string::npos)
         << result.message;
     EXPECT_EQ(kernelSnapshot(), untouched) << "not even the plot type of line 1";
+
+    // Other bytes of the same size are found as the file loads: the data set stays the one before.
+    file("a.csv", "x,y,z\n1,2,3\n4,5,7\n");
+    result = JournalReplayer::replayFile(session);
+    EXPECT_EQ(result.line, 2);
+    EXPECT_NE(result.message.find("a.csv has changed since the session was recorded (18 bytes then and now, other "
+                                  "content)"),
+              std::string::npos)
+        << result.message;
+    EXPECT_EQ(orrery::kernel::Kernel::instance().dataSet().numVars(), sampleVars) << "still the sample";
 
     // Confirmed, the file is read as it is now and journalled as such.
     std::string asked;
@@ -105,10 +128,14 @@ TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLineAndNothingIsApplie
         asked = message;
         return true;
     };
+    orrery::kernel::Kernel::instance().journal().clear();
     result = JournalReplayer::replayFile(session, options);
     ASSERT_TRUE(result.ok) << result.message;
     EXPECT_EQ(asked.rfind(session + ", line 2: ", 0), 0u) << asked;
     EXPECT_EQ(orrery::kernel::Kernel::instance().dataSet().values(1, 3).back(), 7);
+    const std::vector<std::string> lines = orrery::kernel::Kernel::instance().journal().lines();
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NE(lines.back().find("sha256 " + digestOf("x,y,z\n1,2,3\n4,5,7\n")), std::string::npos) << lines.back();
 
     QFile::remove(QString::fromStdString(data));
     result = JournalReplayer::replayFile(session, options);
@@ -119,6 +146,121 @@ TEST_F(Session, AFileThatChangedOrWentAwayIsRefusedWithItsLineAndNothingIsApplie
     std::ofstream(session) << std::string(text).replace(text.find("CSV table"), 9, "Gone") << "\n";
     result = JournalReplayer::replayFile(session);
     EXPECT_NE(result.message.find(", line 2: the loader \"Gone\" for "), std::string::npos) << result.message;
+}
+
+TEST_F(Session, ALoadJournalsTheSizeAndDigestOfTheBytesItRead)
+{
+    const std::string text = "x,y\n1,2\n3,4\n5,9\n";
+    {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        ASSERT_TRUE(load(file("d.csv", text)));
+    }
+    const std::vector<std::string> lines = orrery::kernel::Kernel::instance().journal().lines();
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NE(lines.back().find("size 16 sha256 d88ff803c8b72a5a388b094504990b68a581d309327fca28928a6e91ddf6d5f9"),
+              std::string::npos)
+        << lines.back();
+    // A file of several blocks, hashed beside a load that reads it in two parts at once.
+    std::string big = "a,b\n";
+    for (int i = 0; big.size() < 9 * 1024 * 1024; ++i)
+        big += std::to_string(i) + "," + std::to_string(i % 97) + "\n";
+    {
+        AppLock lock(AppLock::ImplicitMacroRecording_Allow);
+        ASSERT_TRUE(load(file("big.csv", big)));
+    }
+    EXPECT_NE(orrery::kernel::Kernel::instance().journal().lines().back().find("size " + std::to_string(big.size())
+                                                                               + " sha256 " + digestOf(big)),
+              std::string::npos);
+}
+
+// Each of these would block, read without end or read the wrong file.
+TEST_F(Session, LoadLinesNamingWhatIsNotAFileOfDataAreRefusedByWhatTheyNameBeforeAnythingIsPlayed)
+{
+    const QString base = folder.path();
+    ASSERT_EQ(::mkfifo(QDir(base).filePath("fifo.csv").toLocal8Bit().constData(), 0600), 0);
+    ASSERT_TRUE(QDir(base).mkdir("folder.csv"));
+    file("d.csv", "x,y\n1,2\n3,4\n5,9\n");
+    const std::string untouched = kernelSnapshot();
+    const struct
+    {
+        std::string path, says;
+    } cases[] = {
+        {"fifo.csv", "it is a named pipe"},
+        {"folder.csv", "it is a folder"},
+        {"/dev/zero", "it is a device"},
+        {"/proc/self/pagemap", "a file of the operating system"},
+        {"d.csv\\x00.txt", "its name holds a NUL byte"},
+    };
+    for (const auto& odd : cases) {
+        std::istringstream journal("style GlobalScatter/RelativeSize 2.5\nload \"" + odd.path
+                                   + "\" loader \"CSV table\" size 16 sha256 "
+                                     "d88ff803c8b72a5a388b094504990b68a581d309327fca28928a6e91ddf6d5f9\n");
+        JournalReplayer::Options options;
+        options.folder = base.toStdString();
+        const JournalReplayer::Result result = JournalReplayer::replay(journal, "s", options);
+        EXPECT_EQ(result.line, 2) << odd.path;
+        EXPECT_NE(result.message.find(odd.says), std::string::npos) << result.message;
+        EXPECT_EQ(kernelSnapshot(), untouched) << odd.path;
+    }
+    // The same refusals reach File > Open.
+    std::string error;
+    auto csv = orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("CSV table");
+    EXPECT_FALSE(FileLoad::load(*csv, QDir(base).filePath("fifo.csv").toStdString(), error));
+    EXPECT_NE(error.find("named pipe"), std::string::npos) << error;
+}
+
+TEST_F(Session, ADeclaredSizeIsComparedBeforeAnyByteIsRead)
+{
+    // Hashing these whole would take a minute; the size alone tells they changed.
+    const std::string sparse = file("sparse.csv", "");
+    ASSERT_EQ(::truncate(sparse.c_str(), 2LL << 30), 0);
+    std::string journal;
+    for (int i = 0; i < 3; ++i)
+        journal += "load \"sparse.csv\" loader \"CSV table\" size 16 sha256 "
+                   "d88ff803c8b72a5a388b094504990b68a581d309327fca28928a6e91ddf6d5f9\n";
+    std::istringstream in(journal);
+    JournalReplayer::Options options;
+    options.folder = folder.path().toStdString();
+    int asked = 0;
+    options.acceptChangedFile = [&](const std::string&) { return ++asked < 3; };
+    const JournalReplayer::Result result = JournalReplayer::replay(in, "s", options);
+    EXPECT_EQ(result.line, 3);
+    EXPECT_NE(result.message.find("(16 bytes then, 2147483648 now)"), std::string::npos) << result.message;
+}
+
+// A stream that hands out a line at a time and, before each further line,
+// checks that the line before it was played already.
+class LineByLine : public std::streambuf
+{
+public:
+    explicit LineByLine(int lines) : m_lines(lines) {}
+    int playedLate = 0;
+
+private:
+    int_type underflow() override
+    {
+        if (m_next == m_lines)
+            return traits_type::eof();
+        if (m_next > 0 && styleValue<double>({"GlobalScatter", "RelativeSize"}) != m_next)
+            ++playedLate;
+        ++m_next;
+        m_line = "style GlobalScatter/RelativeSize " + std::to_string(m_next) + "\n";
+        setg(&m_line[0], &m_line[0], &m_line[0] + m_line.size());
+        return traits_type::to_int_type(m_line[0]);
+    }
+    int m_lines;
+    int m_next = 0;
+    std::string m_line;
+};
+
+TEST_F(Session, LinesArePlayedAsTheyAreReadNotKeptUntilTheEnd)
+{
+    LineByLine lines(200);
+    std::istream in(&lines);
+    const JournalReplayer::Result result = JournalReplayer::replay(in, "stream");
+    ASSERT_TRUE(result.ok) << result.message;
+    EXPECT_EQ(result.played, 200);
+    EXPECT_EQ(lines.playedLate, 0);
 }
 
 TEST_F(Session, ANewDataSetKeepsTheChoicesItCanAndFillsTheOthersWithNoUndoLeft)
