@@ -8,8 +8,8 @@
 
 using orrery::kernel::JournalReplayer;
 
-StdinJournal::StdinJournal(QObject* parent)
-    : QObject(parent), m_notifier(new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this))
+StdinJournal::StdinJournal(QObject* parent, int fd)
+    : QObject(parent), m_fd(fd), m_notifier(new QSocketNotifier(fd, QSocketNotifier::Read, this))
 {
     connect(m_notifier, &QSocketNotifier::activated, this, [this] { readAvailable(); });
 }
@@ -17,7 +17,7 @@ StdinJournal::StdinJournal(QObject* parent)
 void StdinJournal::readAvailable()
 {
     char buffer[1 << 16];
-    const ssize_t got = ::read(STDIN_FILENO, buffer, sizeof buffer);
+    const ssize_t got = ::read(m_fd, buffer, sizeof buffer);
     if (got <= 0) {
         m_notifier->setEnabled(false); // the end of the input: nothing more will come
         return;
@@ -50,11 +50,10 @@ void StdinJournal::skipOverlong()
 {
     m_overlong = false;
     ++m_lineNumber;
-    const bool inStep = !m_step.empty();
-    m_step.take();
-    std::fprintf(stderr, "orrery-demo: standard input, line %d: the line is longer than %zu characters; %s\n",
-                 m_lineNumber, JournalReplayer::MaxLineLength,
-                 inStep ? "it and the step it was in were not played." : "it was not played.");
+    std::fprintf(stderr,
+                 "orrery-demo: standard input, line %d: the line is longer than %zu characters; it was not played.\n",
+                 m_lineNumber, JournalReplayer::MaxLineLength);
+    m_stepBroken = m_stepBroken || !m_step.empty(); // nor is the rest of the step it was in
 }
 
 void StdinJournal::take(const std::string& line)
@@ -65,8 +64,13 @@ void StdinJournal::take(const std::string& line)
     if (!m_step.add(line))
         return;
     std::istringstream in(m_step.take());
-    const JournalReplayer::Result result =
-        JournalReplayer::replay(in, "standard input (the step from line " + std::to_string(m_stepStart) + ")");
+    const std::string source = "standard input (the step from line " + std::to_string(m_stepStart) + ")";
+    if (m_stepBroken) {
+        m_stepBroken = false;
+        std::fprintf(stderr, "orrery-demo: %s: not played, one of its lines was too long.\n", source.c_str());
+        return;
+    }
+    const JournalReplayer::Result result = JournalReplayer::replay(in, source);
     if (!result.ok)
         std::fprintf(stderr, "orrery-demo: %s\n", result.message.c_str());
 }
