@@ -31,14 +31,19 @@ QString ascii(const std::string& text)
 }
 
 // Closes the undo bracket on every way out, so that the host's undo state stays
-// balanced even when a write is refused half-way.
+// balanced. All or nothing: unless the step is kept, the host takes back every
+// write of it and records nothing, so a refusal half-way leaves the host as it was.
 class UndoStep
 {
 public:
     explicit UndoStep(int category) { OrrUtilUndoStateBegin(category); }
-    ~UndoStep() { OrrUtilUndoStateEnd(false, true); }
+    ~UndoStep() { OrrUtilUndoStateEnd(!m_kept, m_kept); }
+    void keep() { m_kept = true; }
     UndoStep(const UndoStep&) = delete;
     UndoStep& operator=(const UndoStep&) = delete;
+
+private:
+    bool m_kept = false;
 };
 } // namespace
 
@@ -57,8 +62,8 @@ struct VariableSelectDialog::Impl
     // dialog. Throws std::out_of_range when labels are missing.
     void showTexts();
     // Writes the pending choices that differ from the kernel's values and runs
-    // the post-assignment action, as one undo step. On a refusal the step is
-    // closed with what was written so far, and refusal holds the reason.
+    // the post-assignment action, as one undo step. On a refusal every write of
+    // the step is taken back, and refusal holds the reason.
     bool applyChoices(std::string& refusal);
     void setupPropertyBindings();
 
@@ -127,6 +132,7 @@ bool VariableSelectDialog::Impl::applyChoices(std::string& refusal)
             var3->apply();
         if (postAssignmentAction)
             postAssignmentAction();
+        step.keep();
         return true;
     } catch (const InvalidPropertyValueException& e) {
         refusal = e.what();

@@ -72,6 +72,7 @@ void Host::reset()
 {
     zones = {"Left block", "Right block"};
     vars = {"x", "y", "Density", "Speed", "Energy"};
+    refusals.clear();
     values = {{{0, 1, 2}, {0, 1, 0}, {1, 2, 3}, {5, 6, 7}, {0.1, 0.2, 0.3}},
               {{3, 4}, {1, 0}, {4, 5}, {8, 9}, {0.4, 0.5}}};
     style = {{"TwoDAxis/XDetail/VarNum", 1L},
@@ -250,6 +251,10 @@ SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
         value = *text;
     if (value.index() != it->second.index())
         return SetValue_TypeMismatch;
+    if (host.refusals.count(path)) {
+        host.lastError = host.refusals[path];
+        return SetValue_InvalidValue;
+    }
     if (tinyhost::namesVariable(path) && !tinyhost::validVar(int(std::get<long>(value)))) {
         host.lastError = "There is no variable " + std::to_string(std::get<long>(value)) + ".";
         return SetValue_InvalidValue;

@@ -24,6 +24,8 @@ struct Host
     std::vector<std::vector<std::vector<double>>> values; // [zone][var][point]
     std::map<std::string, Value> style;                   // "GlobalRGB/RedChannelVar"
     std::string lastError;
+    // Paths the host refuses every write to, with the reason it gives.
+    std::map<std::string, std::string> refusals;
     std::vector<std::string> messages;
     // Steps closed by the outermost undo bracket, and how deep brackets are now.
     std::vector<std::string> steps;

@@ -106,6 +106,30 @@ TEST_F(TinyHostTest, VariablePromptWritesTheHostsStyleOnOkAsOneStep)
     delete dialog;
 }
 
+TEST_F(TinyHostTest, AnOkWithARefusedWriteWritesNothingAndCancelLeavesTheHostAsItWas)
+{
+    Host::instance().refusals["TwoDAxis/YDetail/VarNum"] = "The Y axis is locked by a template.";
+    VariableSelectDialog* dialog = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Rejected, run(*dialog, [&] {
+                  QComboBox* x = dialog->findChild<QComboBox*>("var1_comboBox");
+                  QComboBox* y = dialog->findChild<QComboBox*>("var2_comboBox");
+                  x->setCurrentIndex(x->findText("Density"));
+                  y->setCurrentIndex(y->findText("Speed"));
+                  runIdle();
+                  user::press(*dialog, QDialogButtonBox::Ok);
+                  EXPECT_TRUE(dialog->isVisible()) << "open for another choice";
+                  EXPECT_EQ(style("TwoDAxis/XDetail/VarNum"), 1) << "X was taken back with the refused Y";
+                  EXPECT_TRUE(Host::instance().steps.empty()) << "nothing to undo";
+                  ASSERT_EQ(Host::instance().messages.size(), 1u);
+                  EXPECT_NE(Host::instance().messages[0].find("locked by a template"), std::string::npos);
+              }));
+    EXPECT_EQ(style("TwoDAxis/XDetail/VarNum"), 1);
+    EXPECT_EQ(style("TwoDAxis/YDetail/VarNum"), 2);
+    EXPECT_TRUE(Host::instance().steps.empty());
+    EXPECT_EQ(Host::instance().bracketDepth, 0);
+    delete dialog;
+}
+
 TEST_F(TinyHostTest, RGBOptionsWriteAtOnceAndShowTheHostsRefusal)
 {
     RGBColorOptsDialog* dialog = RGBColorOptsDialog::getInstance(parent);

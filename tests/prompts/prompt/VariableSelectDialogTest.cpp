@@ -244,10 +244,10 @@ TEST_F(VariableSelectDialogTest, OkRunsTheLastActionInABalancedStepAndARefusalKe
         EXPECT_TRUE(dialog->isVisible());
         EXPECT_EQ(Texts{"Variable number 9 is out of range (1 to 5)."}, messageTexts());
         EXPECT_EQ(0, orrery::sdk::AppLock::depth());
-        EXPECT_EQ(3, style(X2D)) << "what was written before the refusal stays";
+        EXPECT_EQ(1, style(X2D)) << "what was written before the refusal is taken back with it";
         dialog->setPostAssignmentAction({});
     });
-    // The refused OK's partial step; the second OK wrote nothing.
+    // The refused OK left no step; the second OK wrote the axis as one.
     ASSERT_TRUE(OrrUtilUndoPerform());
     EXPECT_EQ(1, style(X2D));
 
