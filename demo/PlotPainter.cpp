@@ -375,10 +375,11 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
         const double* const* v = zone.values;
         if (!v[0] || !v[1] || (scene.threeD && !v[2]))
             continue;
-        // Missing values (NaN) leave their point out; on a log axis so do values that are not positive.
+        // Missing values (NaN) leave their point out, as do values too large or small to draw; on a log axis so
+        // do values that are not positive.
         auto at = [&](long i, QPointF& out) {
             const double x = v[0][i], y = v[1][i], z = scene.threeD ? v[2][i] : 0.0;
-            if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(z) || (p.log[0] && x <= 0)
+            if (!PlotScene::drawable(x) || !PlotScene::drawable(y) || !PlotScene::drawable(z) || (p.log[0] && x <= 0)
                 || (p.log[1] && y <= 0))
                 return false;
             out = p.map(x, y, z);
@@ -389,7 +390,7 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
             // In the order of the index variable (X); a missing Y leaves a gap.
             std::vector<long> order;
             scene.forEachIndex(zone.points, [&](long i) {
-                if (std::isfinite(v[0][i]))
+                if (PlotScene::drawable(v[0][i]))
                     order.push_back(i);
             });
             std::stable_sort(order.begin(), order.end(), [&](long a, long b) { return v[0][a] < v[0][b]; });

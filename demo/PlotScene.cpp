@@ -37,6 +37,7 @@ public:
     {
         double min, max;
         bool any;
+        long leftOut; // finite values too large or too small to draw
     };
 
     static RangeCache& instance()
@@ -52,11 +53,13 @@ public:
         const auto found = m_ranges.find(key);
         if (found != m_ranges.end())
             return found->second;
-        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false};
+        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false, 0};
         if (const double* values = OrrUtilVarGetValuesInZone(zone, var))
             scene.forEachIndex(OrrUtilZoneGetNumPoints(zone), [&](long i) {
                 const double v = values[i];
-                if (std::isfinite(v) && (!positiveOnly || v > 0.0)) {
+                if (!PlotScene::drawable(v))
+                    range.leftOut += std::isfinite(v);
+                else if (!positiveOnly || v > 0.0) {
                     range.min = std::min(range.min, v);
                     range.max = std::max(range.max, v);
                 }
@@ -80,13 +83,16 @@ private:
     std::map<Key, Range> m_ranges;
 };
 
-// The finite values of var in the drawn points, smallest and largest; false when there are none.
-bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max)
+// The drawable values of var in the drawn points, smallest and largest; false when there are none.
+// leftOut, when given, counts the finite values that cannot be drawn.
+bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max, long* leftOut = nullptr)
 {
     min = std::numeric_limits<double>::infinity();
     max = -min;
     for (const PlotScene::Zone& zone : scene.zones) {
         const RangeCache::Range range = RangeCache::instance().of(scene, zone.zone, var, positiveOnly);
+        if (leftOut)
+            *leftOut += range.leftOut;
         if (range.any) {
             min = std::min(min, range.min);
             max = std::max(max, range.max);
@@ -112,6 +118,12 @@ int automaticContourVar(const PlotScene& scene)
 }
 
 } // namespace
+
+bool PlotScene::drawable(double v)
+{
+    const double size = std::abs(v);
+    return size <= MostMagnitude && (size >= std::numeric_limits<double>::min() || v == 0.0);
+}
 
 bool PlotScene::anyScatter() const
 {
@@ -185,12 +197,23 @@ PlotScene PlotScene::fromHost()
             z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
     for (int a = 0; a < scene.dims; ++a) {
         Axis& axis = scene.axes[a];
-        if (!rangeOf(scene, axis.var, axis.log, axis.min, axis.max)) {
+        long leftOut = 0;
+        const bool any = rangeOf(scene, axis.var, axis.log, axis.min, axis.max, &leftOut);
+        if (leftOut > 0)
+            scene.notes << tr("%1: %2 value(s) beyond \u00b11e300 or closer to 0 than 2.2e-308 cannot be drawn and are "
+                              "left out.")
+                               .arg(axis.name)
+                               .arg(leftOut);
+        if (!any) {
             if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max)) {
                 scene.notes << tr("%1 has no positive values: its axis is linear.").arg(axis.name);
                 axis.log = false;
             } else {
-                scene.problem = tr("Nothing to draw: %1 has no values in the points chosen.").arg(axis.name);
+                scene.problem = leftOut > 0
+                                    ? tr("Nothing to draw: every value of %1 is beyond \u00b11e300 or closer "
+                                         "to 0 than 2.2e-308.")
+                                          .arg(axis.name)
+                                    : tr("Nothing to draw: %1 has no values in the points chosen.").arg(axis.name);
                 return scene;
             }
         }

@@ -59,6 +59,11 @@ struct PlotScene
 
     // Symbols beyond this many in a zone would hide the data they mark.
     static constexpr long MostSymbols = 20000;
+    // Values larger than this, or nearer to 0 than the smallest normal double,
+    // are left out: the arithmetic of ranges and ticks cannot hold them.
+    static constexpr double MostMagnitude = 1e300;
+    // Finite and neither too large nor too small to draw.
+    static bool drawable(double v);
 
     static PlotScene fromHost();
 

@@ -182,6 +182,20 @@ TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
     Kernel::setPlotType(PlotType_XYLine);
     EXPECT_EQ(1, drawn(view).points) << "a lone value between gaps still shows";
 
+    // Values beside the largest and below the smallest normal double: left out with a note, the rest drawn.
+    Kernel::setPlotType(PlotType_TwoD);
+    orrery::kernel::DataSet extreme("Extreme", {"x", "y"});
+    extreme.addZone("One", {{1e308, -1.7e308, 0.0, 2.0, 4.9e-324}, {-1e308, 1.7e308, 0.0, 3.0, 1.0}});
+    Kernel::setDataSet(extreme);
+    Drawn some = drawn(view);
+    EXPECT_EQ(2, some.points) << "(0, 0) and (2, 3)";
+    EXPECT_NE(nullptr, some.textStarting("x: 3 value(s) beyond"));
+    EXPECT_NE(nullptr, some.textStarting("y: 2 value(s) beyond"));
+    orrery::kernel::DataSet subnormal("Subnormal", {"x", "y"});
+    subnormal.addZone("One", {{4.9e-324, 1e-322}, {1e-320, 2e-321}});
+    Kernel::setDataSet(subnormal);
+    EXPECT_NE(nullptr, drawn(view).textStarting("Nothing to draw: every value of x is beyond"));
+
     // A window of one pixel draws a message, not a plot squeezed to nothing.
     QImage tiny(1, 1, QImage::Format_RGB32);
     view.render(tiny);
