@@ -28,13 +28,13 @@ public:
 
     void setupDialog(AddonsVariableSelectDialog&)
     {
-        ui.instructions_label->setText(QString::fromLatin1(instructions.c_str()));
-        ui.var1_label->setText(QString::fromLatin1(labels.at(0).c_str()));
+        ui.instructions_label->setText(QString::fromUtf8(instructions.c_str()));
+        ui.var1_label->setText(QString::fromUtf8(labels.at(0).c_str()));
         QLabel* const rowLabels[] = {ui.var2_label, ui.var3_label};
         QComboBox* const rowCombos[] = {ui.var2_comboBox, ui.var3_comboBox};
         for (size_t row = 1; row < 3; ++row) {
             if (labels.size() > row) {
-                rowLabels[row - 1]->setText(QString::fromLatin1(labels[row].c_str()));
+                rowLabels[row - 1]->setText(QString::fromUtf8(labels[row].c_str()));
             } else {
                 rowLabels[row - 1]->setVisible(false);
                 rowCombos[row - 1]->setVisible(false);

@@ -23,7 +23,7 @@ public:
     /// A property holding a variable number, supplied by the add-on.
     typedef boost::shared_ptr<PropertyAbstract<int>> VarPropertyPtr;
 
-    /// A null label is skipped, so the labels after it move up one row; rows
+    /// Texts are UTF-8. A null label is skipped, so the labels after it move up one row; rows
     /// without a label are hidden, their properties still bound. The first call
     /// fixes everything; a live dialog is returned unchanged. Throws
     /// std::out_of_range without any label and std::invalid_argument for null

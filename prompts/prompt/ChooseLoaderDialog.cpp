@@ -92,7 +92,7 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     if (!extensions.empty()) {
         title += "(";
         for (const std::string& extension : extensions)
-            title += "*" + QString::fromLatin1(extension.c_str()) + " ";
+            title += "*" + QString::fromUtf8(extension.c_str()) + " ";
         title[title.size() - 1] = ')';
     }
     setWindowTitle(title);

@@ -39,7 +39,7 @@ QString EnterTextStringDialog::text() const
 
 void EnterTextStringDialog::setOkButtonText(std::string const& text)
 {
-    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setText(QString::fromLatin1(text.c_str()));
+    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setText(QString::fromUtf8(text.c_str()));
 }
 
 void EnterTextStringDialog::textChanged(QString const&)

@@ -24,7 +24,7 @@ public:
 
     /// The text in the field now.
     QString text() const;
-    /// Relabels the OK button; \a text is Latin-1.
+    /// Relabels the OK button; \a text is UTF-8.
     void setOkButtonText(std::string const& text);
 
 private Q_SLOTS:

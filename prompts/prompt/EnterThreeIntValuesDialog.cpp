@@ -25,7 +25,7 @@ struct EnterThreeIntValuesDialog::Impl
         const boost::shared_ptr<PropertyAbstract<long>> properties[] = {manager.value1(), manager.value2(),
                                                                         manager.value3()};
         for (int i = 0; i < 3; ++i) {
-            captions[i]->setText(QString::fromLatin1(labels[i].c_str()));
+            captions[i]->setText(QString::fromUtf8(labels[i].c_str()));
             spinBoxes[i]->setMaximum(Limit);
             spinBoxes[i]->setMinimum(minimums[i] > 0 ? int(std::min<long>(minimums[i], Limit)) : -Limit);
             bindings.push_back(new pb::SpinBoxLgIndexPropertyBinding(*spinBoxes[i], properties[i]));
@@ -57,7 +57,7 @@ EnterThreeIntValuesDialog::EnterThreeIntValuesDialog(QWidget& parent, std::strin
       m_impl(new Impl(*this, value1, value2, value3, {label1, label2, label3}, {minimum1, minimum2, minimum3}))
 {
     setHelpAction(new common::LaunchHelpAction(helpPage, *this));
-    setWindowTitle(QString::fromLatin1(title.c_str()));
+    setWindowTitle(QString::fromUtf8(title.c_str()));
 }
 
 EnterThreeIntValuesDialog::~EnterThreeIntValuesDialog() = default;

@@ -21,13 +21,11 @@ namespace {
 // The host's undo category for style values chosen in a dialog.
 const int UndoCategoryDialogStyle = 11;
 
-// Instructions and labels come from the opening dialog class (or an add-on)
-// in English; those the library knows are translated in this layout's context.
-QString ascii(const std::string& text)
+// Instructions and labels (UTF-8) come from the opening dialog class (or an
+// add-on); those the library knows are translated in this layout's context.
+QString shown(const std::string& text)
 {
-    const QString translated = QCoreApplication::translate("VariableSelectDialog", text.c_str());
-    // Untranslated texts keep their Latin-1 reading.
-    return translated == QString::fromUtf8(text.c_str()) ? QString::fromLatin1(text.c_str()) : translated;
+    return QCoreApplication::translate("VariableSelectDialog", text.c_str());
 }
 
 // Closes the undo bracket on every way out, so that the host's undo state stays
@@ -106,10 +104,10 @@ void VariableSelectDialog::Impl::setupPropertyBindings()
 
 void VariableSelectDialog::Impl::showTexts()
 {
-    const QString first = ascii(labels.at(0));
-    const QString second = ascii(labels.at(1));
-    const QString third = hasThirdVariable ? ascii(labels.at(2)) : QString();
-    ui.instructions_label->setText(ascii(instructions));
+    const QString first = shown(labels.at(0));
+    const QString second = shown(labels.at(1));
+    const QString third = hasThirdVariable ? shown(labels.at(2)) : QString();
+    ui.instructions_label->setText(shown(instructions));
     ui.var1_label->setText(first);
     ui.var2_label->setText(second);
     if (hasThirdVariable) {

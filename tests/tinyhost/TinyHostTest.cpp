@@ -1,6 +1,9 @@
 // The dialogs on a host that is not the stand-in: whatever they need of a host
 // must come through the host interface, or this program does not even link.
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QLineEdit>
 #include <QListView>
 #include <QSpinBox>
@@ -72,6 +75,23 @@ TEST_F(TinyHostTest, PlainPromptsAnswerFromWhatTheUserEntered)
     EXPECT_EQ(range->value2(), 2);
     EXPECT_EQ(range->value3(), 1);
     delete range;
+}
+
+TEST_F(TinyHostTest, TextsAHostPassesAsStdStringAreReadAsUtf8)
+{
+    EnterThreeIntValuesDialog* range =
+        EnterThreeIntValuesDialog::getInstance(parent, 1, 3, 1,
+                                               "Gr\xc3\xb6\xc3\x9f"
+                                               "e (\xc2\xb5m)",
+                                               "", "&L\xc3\xa4nge", "&Ende", "&Schritt", 1, 1, 1);
+    EXPECT_EQ(range->windowTitle(), QString::fromUtf8(u8"Gr\u00f6\u00dfe (\u00b5m)"));
+    EXPECT_EQ(range->findChild<QLabel*>("valueLabel1")->text(), QString::fromUtf8(u8"&L\u00e4nge"));
+    delete range;
+    EnterTextStringDialog text(parent, "Titel:", "", "", false);
+    text.setOkButtonText("\xc3\x9c"
+                         "bernehmen");
+    EXPECT_EQ(text.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->text(),
+              QString::fromUtf8(u8"\u00dcbernehmen"));
 }
 
 TEST_F(TinyHostTest, ZonePromptListsTheHostsZonesAndAnswersTheChosenOne)
