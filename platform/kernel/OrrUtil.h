@@ -19,6 +19,9 @@ typedef const orrery::toolbox::ArgList* ArgList_pa;
 #ifdef __cplusplus
 extern "C" {
 #endif
+// A host built with -fvisibility=hidden still exports its definitions of these:
+// the dialogs' libraries look them up in the process at run time.
+#pragma GCC visibility push(default)
 
 // Pages and frames. Frames live on the current page; the current frame is the
 // one every other query refers to.
@@ -81,6 +84,8 @@ void OrrUtilStringDealloc(char** string);
 // Shows a message box (MessageBoxType_e) and returns 1 for OK/Yes, 0 for No.
 // Without an interactive display it writes the text to stderr and returns 1.
 int OrrUtilDialogMessageBox(const char* text, int type);
+
+#pragma GCC visibility pop
 
 #ifdef __cplusplus
 }
