@@ -1,11 +1,12 @@
 #include "framework/DataSetExistsRelevance.h"
 
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 DataSetExistsRelevance::DataSetExistsRelevance()
-    : StateChangeDependentRelevance([] { return OrrUtilDataSetIsAvailable(); })
+    : StateChangeDependentRelevance([] { return ORRERY_HOST_CALL(false, OrrUtilDataSetIsAvailable()); })
 {}
 
 } // namespace orrery::sdk::ui::propertymanager

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/common/HostCall.h"
 #include "platform/common/SignalConnectionCollection.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEventObservable.h"
@@ -38,12 +39,8 @@ public:
         m_refusedWrite = (code == SetValue_Declined);
         if (m_refusedWrite || toolbox::StyleValue::returnCodeOk(code))
             return;
-        std::string message = "Unknown error";
-        if (char* error = OrrUtilStyleGetLastErrorString()) {
-            message = error;
-            OrrUtilStringDealloc(&error);
-        }
-        throw InvalidPropertyValueException(message);
+        const std::string error = ORRERY_HOST_TEXT(Empty, OrrUtilStyleGetLastErrorString());
+        throw InvalidPropertyValueException(error.empty() ? "Unknown error" : error);
     }
 
     /// Never equal just after a silently refused write, so the same value is tried again.

@@ -1,6 +1,7 @@
 #include "framework/models/DataSetListModelAbstract.h"
 
 #include <algorithm>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
@@ -54,9 +55,7 @@ bool DataSetListModelAbstract::shownTextsChanged() const
 
 std::string DataSetListModelAbstract::takeKernelString(char* text)
 {
-    std::string taken = text ? text : "";
-    OrrUtilStringDealloc(&text);
-    return taken;
+    return HostCall::take("a host operation's text", text, HostCall::Null::Empty);
 }
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

@@ -1,5 +1,6 @@
 #include "framework/models/ZoneListModel.h"
 
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
@@ -11,13 +12,13 @@ ZoneListModel::ZoneListModel(const ZoneSource& zones, bool numbered) : m_zones(z
 
 std::vector<int> ZoneListModel::fetchNumbers() const
 {
-    const toolbox::Set zones = m_zones(OrrUtilFrameGetUniqueID());
+    const toolbox::Set zones = m_zones(ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID()));
     return std::vector<int>(zones.begin(), zones.end());
 }
 
 std::string ZoneListModel::fetchText(int zone) const
 {
-    const std::string name = takeKernelString(OrrUtilZoneGetName(zone));
+    const std::string name = ORRERY_HOST_TEXT(Fault, OrrUtilZoneGetName(zone));
     return m_numbered ? std::to_string(zone) + ": " + name : name;
 }
 

@@ -12,9 +12,19 @@ typedef const orrery::toolbox::ArgList* ArgList_pa;
 
 // The kernel's C interface: with ApplicationSettings::getInstance() (the settings
 // store), everything a host supplies for the dialogs. The rest of platform/ is
-// built on these operations. Strings returned as char* are the caller's and are
-// released with OrrUtilStringDealloc. Zone and variable numbers are 1-based.
-// Everything runs on the user-interface thread.
+// built on these operations. Zone and variable numbers are 1-based.
+//
+// What a host's definitions must do:
+// - run on the user-interface thread, the only one the dialogs call from;
+// - return strings as char* the caller owns and releases with
+//   OrrUtilStringDealloc, UTF-8 encoded; a name is never null;
+// - never throw: the dialogs stop an exception at their one door into the host
+//   (HostCall), tell it once through OrrUtilDialogMessageBox and carry on with a
+//   neutral answer, but what the operation was doing is lost;
+// - announce every change of data, frames and style through the state-change
+//   observable (StateChange_ZonesAdded, StateChange_Style, ...), so that open
+//   dialogs follow it;
+// - take back every write of an undo bracket closed with revert set.
 
 #ifdef __cplusplus
 extern "C" {

@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string>
 #include <vector>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/StyleValue.h"
@@ -25,29 +26,43 @@ int styleVar(const toolbox::StringList& path)
     long var = 0;
     value.setupGetValueArgList(value.macroIDs(), -1, -1, args);
     args.appendArbParamPtr("IValue", &var);
-    return OrrUtilStyleGetValue(&args) == GetValue_Ok ? static_cast<int>(var) : 0;
+    return ORRERY_HOST_CALL(GetValue_BadArguments, OrrUtilStyleGetValue(&args)) == GetValue_Ok ? static_cast<int>(var)
+                                                                                               : 0;
 }
 
 toolbox::Set enabledOf(bool (*enabled)(long, int), int count, long frameUniqueID)
 {
     toolbox::Set set;
     for (int i = 1; i <= count; ++i)
-        if (enabled(frameUniqueID, i))
+        if (HostCall::value("enabled zone or variable (OrrUtilFrame...IsEnabled)", false,
+                            [&] { return enabled(frameUniqueID, i); }))
             set.add(i);
     return set;
 }
 
+int numVars()
+{
+    return ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumVars());
+}
+
+long frameID()
+{
+    return ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID());
+}
+
+PlotType_e plotTypeNow()
+{
+    return ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
+}
+
 toolbox::Set enabledVars()
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, OrrUtilDataSetGetNumVars(), OrrUtilFrameGetUniqueID());
+    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameID());
 }
 
 std::string varName(int var)
 {
-    char* name = OrrUtilVarGetName(var);
-    const std::string text = name ? name : "";
-    OrrUtilStringDealloc(&name);
-    return text;
+    return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var));
 }
 
 std::vector<int> axisVars(PlotType_e plotType)
@@ -88,7 +103,7 @@ const std::initializer_list<const char*> VelocityNames[3] = {
 bool isConstant(int var)
 {
     double min = 0, max = 0;
-    return !OrrUtilVarGetMinMax(var, &min, &max) || min == max;
+    return !ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(var, &min, &max)) || min == max;
 }
 
 std::string lowerCase(std::string text)
@@ -130,12 +145,12 @@ std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const cha
 
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameZoneIsEnabled, OrrUtilDataSetGetNumZones(), frameUniqueID);
+    return enabledOf(OrrUtilFrameZoneIsEnabled, ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumZones()), frameUniqueID);
 }
 
 toolbox::Set getEnabledVarsForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, OrrUtilDataSetGetNumVars(), frameUniqueID);
+    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameUniqueID);
 }
 
 bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
@@ -175,7 +190,7 @@ bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
 
 bool okToTurnOnVectorLayer(PlotType_e plotType)
 {
-    if (!isFieldPlot(plotType) || OrrUtilFrameGetPlotType() != plotType)
+    if (!isFieldPlot(plotType) || plotTypeNow() != plotType)
         return false;
     std::vector<int> vars;
     if (plotType == PlotType_ThreeD)
@@ -212,14 +227,14 @@ void autoAssignScatterVariable()
     const toolbox::StringList path{"GlobalScatter", "Var"};
     if (isEnabledVar(styleVar(path)))
         return;
-    const std::vector<int> vars = candidates(OrrUtilFrameGetPlotType(), true);
+    const std::vector<int> vars = candidates(plotTypeNow(), true);
     if (vars.empty())
         return;
     const toolbox::StyleValue value(path);
     toolbox::ArgList args;
     value.setupSetValueArgList(value.macroIDs(), nullptr, -1, -1, AssignOp_Equals, args);
     args.appendArbParam("IValue", long(vars.front()));
-    OrrUtilStyleSetValue(&args);
+    ORRERY_HOST_CALL(SetValue_BadArguments, OrrUtilStyleSetValue(&args));
 }
 
 } // namespace sdk

@@ -1,4 +1,5 @@
 #include "platform/toolbox/CheckedStyleValue.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace orrery {
@@ -8,12 +9,12 @@ CheckedStyleValue::CheckedStyleValue(const StyleValue& value) : StyleValue(value
 
 GetValueReturnCode_e CheckedStyleValue::styleGetLowLevel(const ArgList& args) const
 {
-    return OrrUtilStyleGetValue(&args);
+    return ORRERY_HOST_CALL(GetValue_BadArguments, OrrUtilStyleGetValue(&args));
 }
 
 SetValueReturnCode_e CheckedStyleValue::styleSetLowLevel(const ArgList& args) const
 {
-    return OrrUtilStyleSetValue(&args);
+    return ORRERY_HOST_CALL(SetValue_BadArguments, OrrUtilStyleSetValue(&args));
 }
 
 } // namespace toolbox

@@ -1,4 +1,5 @@
 #include "platform/toolbox/StyleValue.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
 
@@ -18,14 +19,17 @@ StringList namesUpToNull(std::initializer_list<const char*> names)
     return list;
 }
 
+// Names no style value: a host refuses a path that holds it.
+const long UnknownNameID = -2;
+
 GetValueReturnCode_e get(const ArgList& args)
 {
-    return OrrUtilStyleGetValue(&args);
+    return ORRERY_HOST_CALL(GetValue_BadArguments, OrrUtilStyleGetValue(&args));
 }
 
 SetValueReturnCode_e set(const ArgList& args)
 {
-    return OrrUtilStyleSetValue(&args);
+    return ORRERY_HOST_CALL(SetValue_BadArguments, OrrUtilStyleSetValue(&args));
 }
 
 void setupPathArgs(const RawArray<long>& ids, long first, long second, ArgList& args)
@@ -57,7 +61,7 @@ void StyleValue::assignNames(const StringList& names)
 {
     m_names = names;
     for (const std::string& name : names)
-        m_macroIDs.push_back(OrrUtilStyleNameGetID(name.c_str()));
+        m_macroIDs.push_back(ORRERY_HOST_CALL(UnknownNameID, OrrUtilStyleNameGetID(name.c_str())));
 }
 
 void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3, const char* n4,
@@ -65,7 +69,7 @@ void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2,
                                                  RawArray<long>& ids) const
 {
     for (const std::string& name : namesUpToNull({n1, n2, n3, n4, n5, n6, n7}))
-        ids.push_back(OrrUtilStyleNameGetID(name.c_str()));
+        ids.push_back(ORRERY_HOST_CALL(UnknownNameID, OrrUtilStyleNameGetID(name.c_str())));
 }
 
 void StyleValue::setupGetValueArgList(const RawArray<long>& ids, long first, long second, ArgList& args) const

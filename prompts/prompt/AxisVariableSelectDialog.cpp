@@ -3,6 +3,7 @@
 #include <boost/make_shared.hpp>
 #include "framework/StateChangeDependentRelevance.h"
 #include <QtGlobal>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 
@@ -17,7 +18,7 @@ void AxisVariableSelectDialog::AxisVarAssignment::assignVariables(PropertyAbstra
 VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
 {
     sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-    const PlotType_e plotType = OrrUtilFrameGetPlotType();
+    const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
     const char* const root = plotType == PlotType_TwoD     ? "TwoDAxis"
                              : plotType == PlotType_ThreeD ? "ThreeDAxis"
                                                            : nullptr;
@@ -39,7 +40,7 @@ VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
 
 bool AxisVariableSelectDialog::frameShowsFieldPlot(const std::function<PlotType_e()>& plotType)
 {
-    if (OrrUtilPageGetCount() < 1 || OrrUtilFrameGetCount() < 1)
+    if (ORRERY_HOST_CALL(0, OrrUtilPageGetCount()) < 1 || ORRERY_HOST_CALL(0, OrrUtilFrameGetCount()) < 1)
         return false;
     const PlotType_e type = plotType();
     return type == PlotType_TwoD || type == PlotType_ThreeD;

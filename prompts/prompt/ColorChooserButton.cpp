@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace orrery {
@@ -12,7 +13,8 @@ namespace prompt {
 ColorChooserButton::ColorChooserButton(QWidget* parent, int colorIndex) : QToolButton(parent), m_colorIndex(colorIndex)
 {
     unsigned char red = 0, green = 0, blue = 0;
-    OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue);
+    HostCall::run("OrrUtilColorMapGetBasicColorRGB",
+                  [&] { OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue); });
     m_color = QColor(red, green, blue);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }

@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include "framework/LaunchHelpAction.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
@@ -176,7 +177,7 @@ bool askForRGBChannelVariables(QWidget& parent)
         return variables->result() == QDialog::Accepted;
     } catch (const std::exception& failure) {
         // Runs from a button: a dialog that cannot be set up counts as declined.
-        OrrUtilDialogMessageBox(failure.what(), MessageBoxType_Error);
+        ORRERY_HOST_CALL(0, OrrUtilDialogMessageBox(failure.what(), MessageBoxType_Error));
         return false;
     }
 }

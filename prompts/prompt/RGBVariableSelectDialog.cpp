@@ -1,6 +1,7 @@
 #include "prompts/prompt/RGBVariableSelectDialog.h"
 
 #include <QtGlobal>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"
 
@@ -15,7 +16,7 @@ void RGBVariableSelectDialog::RGBVarAssignment::assignVariables(PropertyAbstract
     int r = 0, g = 0, b = 0;
     // Channels without a candidate get 0, which the lists then replace by a
     // listed variable.
-    sdk::getValidRGBVarCandidates(OrrUtilFrameGetPlotType(), r, g, b);
+    sdk::getValidRGBVarCandidates(ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType()), r, g, b);
     var1.setValue(r);
     var2.setValue(g);
     var3.setValue(b);

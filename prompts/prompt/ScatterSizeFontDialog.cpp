@@ -8,6 +8,7 @@
 #include "framework/ButtonBinding.h"
 #include "framework/FontComboBoxPropertyBinding.h"
 #include "framework/LaunchHelpAction.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ScatterSizeFontPropertiesManager.h"
 #include "framework/StyleSetDialogParts.h"
@@ -95,7 +96,7 @@ ScatterSizeFontDialog::~ScatterSizeFontDialog() = default;
 
 void ScatterSizeFontDialog::setDialogForPlotType()
 {
-    const PlotType_e plotType = OrrUtilFrameGetPlotType();
+    const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
     const bool fieldPlot = plotType == PlotType_TwoD || plotType == PlotType_ThreeD;
     setWindowTitle(fieldPlot ? QCoreApplication::translate("ScatterSizeFont", "Scatter Size/Font")
                              : QCoreApplication::translate("ScatterSizeFont", "Symbol Font"));

@@ -13,6 +13,7 @@
 #include "framework/OnIdleAfterStateChangeActionPerformer.h"
 #include "framework/RelevanceExpression.h"
 #include "platform/common/SignalConnectionCollection.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
@@ -56,7 +57,7 @@ public:
         double factor = 0.0;
         {
             sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-            factor = OrrUtilConvertUnits(Units_Grid, Units_Point, PointInCm);
+            factor = ORRERY_HOST_CALL(PointInCm, OrrUtilConvertUnits(Units_Grid, Units_Point, PointInCm));
         }
         if (!m_isGridView)
             return stored * factor;
@@ -123,7 +124,7 @@ struct ScatterSizeFontPropertiesManager::Impl
 
     void setPlotType()
     {
-        const PlotType_e plotType = OrrUtilFrameGetPlotType();
+        const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
         if (plotType == plotTypeProperty->getValue())
             return;
         if (plotType == PlotType_ThreeD || plotType == PlotType_TwoD) {
@@ -153,16 +154,19 @@ struct ScatterSizeFontPropertiesManager::Impl
     {
         sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
         double min = 0.0, max = 0.0;
-        if (!OrrUtilVarGetMinMax(generated.scatterSizeVariable()->getValue(), &min, &max))
+        if (!ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(generated.scatterSizeVariable()->getValue(), &min, &max)))
             return 0.0;
         const double magnitude = std::max(std::fabs(min), std::fabs(max));
         double base = 0.0;
         if (magnitude >= NegligibleMagnitude) {
             double xMin = 0.0, yMin = 0.0, xMax = 0.0, yMax = 0.0;
-            OrrUtilAxisGetGridRange(&xMin, &yMin, &xMax, &yMax);
+            HostCall::run("OrrUtilAxisGetGridRange", [&] { OrrUtilAxisGetGridRange(&xMin, &yMin, &xMax, &yMax); });
             const double range = yMax - yMin;
-            base = inGridUnits ? range / magnitude
-                               : OrrUtilConvertUnits(Units_Grid, Units_Point, range * 2.54 / (magnitude * 72.0));
+            base =
+                inGridUnits
+                    ? range / magnitude
+                    : ORRERY_HOST_CALL(range * 2.54 / (magnitude * 72.0),
+                                       OrrUtilConvertUnits(Units_Grid, Units_Point, range * 2.54 / (magnitude * 72.0)));
             base = std::fabs(base);
         }
         const sdk::styleproperties::KernelProperty<double> mediumSymbolSize(

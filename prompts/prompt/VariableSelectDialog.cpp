@@ -9,6 +9,7 @@
 #include "ui_VariableSelectDialog.h"
 #include "framework/DataSetExistsRelevance.h"
 #include "framework/LaunchHelpAction.h"
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "framework/SharedRelevance.h"
@@ -34,8 +35,14 @@ QString shown(const std::string& text)
 class UndoStep
 {
 public:
-    explicit UndoStep(int category) { OrrUtilUndoStateBegin(category); }
-    ~UndoStep() { OrrUtilUndoStateEnd(!m_kept, m_kept); }
+    explicit UndoStep(int category)
+    {
+        HostCall::run("OrrUtilUndoStateBegin", [&] { OrrUtilUndoStateBegin(category); });
+    }
+    ~UndoStep()
+    {
+        HostCall::run("OrrUtilUndoStateEnd", [&] { OrrUtilUndoStateEnd(!m_kept, m_kept); });
+    }
     void keep() { m_kept = true; }
     UndoStep(const UndoStep&) = delete;
     UndoStep& operator=(const UndoStep&) = delete;
@@ -205,7 +212,7 @@ void VariableSelectDialog::accept()
     }
     // Told once the host is no longer busy; the dialog stays open for another choice.
     if (!refusal.empty())
-        OrrUtilDialogMessageBox(refusal.c_str(), MessageBoxType_Error);
+        ORRERY_HOST_CALL(0, OrrUtilDialogMessageBox(refusal.c_str(), MessageBoxType_Error));
 }
 
 boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> VariableSelectDialog::relevance()

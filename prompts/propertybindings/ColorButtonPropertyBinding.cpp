@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QIcon>
 #include <QPixmap>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ColorChooserDialog.h"
 
@@ -56,7 +57,8 @@ void ColorButtonPropertyBinding::updateWidget()
         QColor fill(Qt::transparent); // an index the colour map does not know
         if (!name.empty()) {
             unsigned char red = 0, green = 0, blue = 0;
-            OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue);
+            HostCall::run("OrrUtilColorMapGetBasicColorRGB",
+                          [&] { OrrUtilColorMapGetBasicColorRGB(colorIndex, &red, &green, &blue); });
             fill = QColor(red, green, blue, 255);
         }
         // One pixmap per pixel density, so that the swatch stays sharp on a

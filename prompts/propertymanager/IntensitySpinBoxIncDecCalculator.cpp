@@ -1,6 +1,7 @@
 #include "prompts/propertymanager/IntensitySpinBoxIncDecCalculator.h"
 
 #include <algorithm>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
@@ -21,7 +22,7 @@ double IntensitySpinBoxIncDecCalculator::delta()
     for (int var :
          {m_generated.redVar()->getValue(), m_generated.greenVar()->getValue(), m_generated.blueVar()->getValue()}) {
         double min = 0.0, max = 0.0;
-        if (!OrrUtilVarGetMinMax(var, &min, &max)) {
+        if (!ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(var, &min, &max))) {
             haveRange = false;
             break;
         }

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
@@ -19,6 +20,13 @@ std::vector<std::string>& styleNames()
 {
     static std::vector<std::string> names;
     return names;
+}
+
+// Throws when the test made the operation faulty.
+void faultIn(const char* operation)
+{
+    if (Host::instance().throwing.count(operation))
+        throw std::runtime_error(std::string(operation) + " lost its table");
 }
 
 char* copyOf(const std::string& text)
@@ -73,6 +81,8 @@ void Host::reset()
     zones = {"Left block", "Right block"};
     vars = {"x", "y", "Density", "Speed", "Energy"};
     refusals.clear();
+    throwing.clear();
+    nullNames = false;
     values = {{{0, 1, 2}, {0, 1, 0}, {1, 2, 3}, {5, 6, 7}, {0.1, 0.2, 0.3}},
               {{3, 4}, {1, 0}, {4, 5}, {8, 9}, {0.4, 0.5}}};
     style = {{"TwoDAxis/XDetail/VarNum", 1L},
@@ -127,12 +137,18 @@ int OrrUtilDataSetGetNumVars(void)
 
 char* OrrUtilZoneGetName(int zone)
 {
-    return tinyhost::validZone(zone) ? tinyhost::copyOf(Host::instance().zones[size_t(zone - 1)]) : nullptr;
+    tinyhost::faultIn("ZoneGetName");
+    return tinyhost::validZone(zone) && !Host::instance().nullNames
+               ? tinyhost::copyOf(Host::instance().zones[size_t(zone - 1)])
+               : nullptr;
 }
 
 char* OrrUtilVarGetName(int var)
 {
-    return tinyhost::validVar(var) ? tinyhost::copyOf(Host::instance().vars[size_t(var - 1)]) : nullptr;
+    tinyhost::faultIn("VarGetName");
+    return tinyhost::validVar(var) && !Host::instance().nullNames
+               ? tinyhost::copyOf(Host::instance().vars[size_t(var - 1)])
+               : nullptr;
 }
 
 bool OrrUtilFrameZoneIsEnabled(long frameUniqueID, int zone)
@@ -213,6 +229,7 @@ long OrrUtilStyleNameGetID(const char* name)
 
 GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args)
 {
+    tinyhost::faultIn("StyleGetValue");
     const auto it = Host::instance().style.find(tinyhost::pathOf(*args).join("/"));
     if (it == Host::instance().style.end())
         return GetValue_UnknownPath;

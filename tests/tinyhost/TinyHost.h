@@ -5,6 +5,7 @@
 // RGB range minimum stays below its maximum), undo brackets without undo, message boxes recorded. No journal, no
 // loaders.
 #include <map>
+#include <set>
 #include <string>
 #include <variant>
 #include <vector>
@@ -26,6 +27,10 @@ struct Host
     std::string lastError;
     // Paths the host refuses every write to, with the reason it gives.
     std::map<std::string, std::string> refusals;
+    // Operations that throw, as a faulty host's might ("ZoneGetName", "StyleGetValue").
+    std::set<std::string> throwing;
+    // Names come back null, as a faulty host's might.
+    bool nullNames = false;
     std::vector<std::string> messages;
     // Steps closed by the outermost undo bracket, and how deep brackets are now.
     std::vector<std::string> steps;

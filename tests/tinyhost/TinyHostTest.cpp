@@ -150,6 +150,43 @@ TEST_F(TinyHostTest, AnOkWithARefusedWriteWritesNothingAndCancelLeavesTheHostAsI
     delete dialog;
 }
 
+TEST_F(TinyHostTest, AHostOperationThatThrowsIsToldOnceAndTheDialogsCarryOn)
+{
+    Host::instance().throwing = {"ZoneGetName", "StyleGetValue"};
+    ZoneSelectDialog* zones = ZoneSelectDialog::getInstance(parent, 1);
+    VariableSelectDialog* variables = AxisVariableSelectDialog::getInstance(parent);
+    EXPECT_EQ(QDialog::Accepted, run(*zones, [&] {
+                  QListView* list = zones->findChild<QListView*>("Zone_Source_MList");
+                  ASSERT_EQ(list->model()->rowCount(), 2) << "the zones are there, without their names";
+                  user::clickRow(*list, 1);
+                  user::press(*zones, QDialogButtonBox::Ok);
+              }));
+    EXPECT_EQ(zones->selectedZone(), 2);
+    EXPECT_EQ(QDialog::Rejected, run(*variables, [&] { EXPECT_TRUE(variables->isVisible()); }));
+    runIdle();
+    ASSERT_EQ(Host::instance().messages.size(), 2u) << "once for each operation, however often it failed";
+    const std::string told = Host::instance().messages[0] + "\n" + Host::instance().messages[1];
+    EXPECT_NE(told.find("The host's operation OrrUtilZoneGetName(zone) failed: ZoneGetName lost its table."),
+              std::string::npos)
+        << told;
+    EXPECT_NE(told.find("OrrUtilStyleGetValue(&args) failed"), std::string::npos) << told;
+    delete zones;
+    delete variables;
+
+    // A name that comes back null is shown empty and told once.
+    Host::instance().throwing.clear();
+    Host::instance().nullNames = true;
+    VariableSelectDialog* again = AxisVariableSelectDialog::getInstance(parent);
+    run(*again, [&] {
+        QComboBox* x = again->findChild<QComboBox*>("var1_comboBox");
+        EXPECT_EQ(x->count(), 5);
+    });
+    runIdle();
+    ASSERT_EQ(Host::instance().messages.size(), 3u);
+    EXPECT_NE(Host::instance().messages[2].find("returned no text"), std::string::npos);
+    delete again;
+}
+
 TEST_F(TinyHostTest, RGBOptionsWriteAtOnceAndShowTheHostsRefusal)
 {
     RGBColorOptsDialog* dialog = RGBColorOptsDialog::getInstance(parent);

@@ -1,6 +1,7 @@
 #include "core/propertybindings/intern/RejectedValueMessage.h"
 
 #include <cstring>
+#include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::intern {
@@ -9,7 +10,7 @@ void showRejectedValueMessage(const InvalidPropertyValueException& rejection)
 {
     const char* text = rejection.what();
     if (std::strlen(text) != 0)
-        OrrUtilDialogMessageBox(text, MessageBoxType_Error);
+        ORRERY_HOST_CALL(0, OrrUtilDialogMessageBox(text, MessageBoxType_Error));
 }
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::intern
