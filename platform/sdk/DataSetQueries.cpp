@@ -90,9 +90,12 @@ std::vector<int> candidates(PlotType_e plotType, bool withAxisVars)
     return free;
 }
 
+// Asks the host about this one variable, not about all of them.
 bool isEnabledVar(int var)
 {
-    return enabledVars().contains(var);
+    const long frame = frameID();
+    return var >= 1 && var <= numVars()
+           && HostCall::value("OrrUtilFrameVarIsEnabled", false, [&] { return OrrUtilFrameVarIsEnabled(frame, var); });
 }
 
 // Velocity components as writers name them, lower case and without separators
