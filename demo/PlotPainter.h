@@ -2,6 +2,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include "demo/AxisTicks.h"
 #include "demo/PlotGeometry.h"
 
 class QPainter;
@@ -28,7 +29,8 @@ private:
     struct Projection;
 
     PlotGeometry paintField(QPainter& painter, const QRectF& area, const PlotScene& scene) const;
-    void paintAxes2D(QPainter& painter, const QRectF& plot, const PlotScene& scene, const PlotGeometry& geometry) const;
+    void paintAxes2D(QPainter& painter, const PlotScene& scene, const PlotGeometry& geometry, const AxisTicks::Scale& x,
+                     const AxisTicks::Scale& y) const;
     void paintBox3D(QPainter& painter, const Projection& projection, const PlotScene& scene) const;
     void paintLayers(QPainter& painter, const QRectF& plot, const Projection& projection, const PlotScene& scene) const;
     void paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const;

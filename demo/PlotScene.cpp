@@ -37,6 +37,7 @@ public:
     {
         double min, max;
         bool any;
+        bool whole; // every value a whole number
     };
 
     static RangeCache& instance()
@@ -52,13 +53,14 @@ public:
         const auto found = m_ranges.find(key);
         if (found != m_ranges.end())
             return found->second;
-        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false};
+        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false, true};
         if (const double* values = OrrUtilVarGetValuesInZone(zone, var))
             scene.forEachIndex(OrrUtilZoneGetNumPoints(zone), [&](long i) {
                 const double v = values[i];
                 if (std::isfinite(v) && (!positiveOnly || v > 0.0)) {
                     range.min = std::min(range.min, v);
                     range.max = std::max(range.max, v);
+                    range.whole = range.whole && v == std::floor(v);
                 }
             });
         range.any = range.min <= range.max;
@@ -80,18 +82,23 @@ private:
     std::map<Key, Range> m_ranges;
 };
 
-// The finite values of var in the drawn points, smallest and largest; false when there are none.
-bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max)
+// The finite values of var in the drawn points, smallest and largest, and
+// whether all are whole numbers; false when there are none.
+bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max, bool* whole = nullptr)
 {
     min = std::numeric_limits<double>::infinity();
     max = -min;
+    bool allWhole = true;
     for (const PlotScene::Zone& zone : scene.zones) {
         const RangeCache::Range range = RangeCache::instance().of(scene, zone.zone, var, positiveOnly);
         if (range.any) {
             min = std::min(min, range.min);
             max = std::max(max, range.max);
+            allWhole = allWhole && range.whole;
         }
     }
+    if (whole)
+        *whole = allWhole;
     return min <= max;
 }
 
@@ -185,8 +192,8 @@ PlotScene PlotScene::fromHost()
             z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
     for (int a = 0; a < scene.dims; ++a) {
         Axis& axis = scene.axes[a];
-        if (!rangeOf(scene, axis.var, axis.log, axis.min, axis.max)) {
-            if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max)) {
+        if (!rangeOf(scene, axis.var, axis.log, axis.min, axis.max, &axis.integers)) {
+            if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max, &axis.integers)) {
                 scene.notes << tr("%1 has no positive values: its axis is linear.").arg(axis.name);
                 axis.log = false;
             } else {
@@ -201,7 +208,7 @@ PlotScene PlotScene::fromHost()
     scene.contour.map = int(HostStyle::integer("GlobalContour/ColorMap"));
     scene.contourName = takeHostText(OrrUtilVarGetName(scene.contour.var));
     scene.contourCategories = namedCategories(scene.contour.var);
-    if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max))
+    if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max, &scene.contourIntegers))
         scene.contour.min = scene.contour.max = 0.0;
 
     scene.vectors = !scene.lines && HostStyle::flag("FieldLayers/ShowVector");

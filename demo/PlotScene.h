@@ -18,6 +18,7 @@ struct PlotScene
         double min = 0.0;
         double max = 1.0;
         bool log = false;
+        bool integers = false;               // every value drawn is a whole number
         std::vector<std::string> categories; // named values 1, 2, ... when few
     };
     struct Zone
@@ -42,6 +43,7 @@ struct PlotScene
     long begin = 1, end = 0, skip = 1;
     PointColours::Contour contour;
     QString contourName;
+    bool contourIntegers = false;
     std::vector<std::string> contourCategories;
     bool vectors = false;
     int vectorVars[3] = {0, 0, 0};
