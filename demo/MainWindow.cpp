@@ -20,6 +20,7 @@
 #include <QTimer>
 #include "demo/FileDrops.h"
 #include "demo/HostStyle.h"
+#include "demo/PlotEffects.h"
 #include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
@@ -300,8 +301,7 @@ void MainWindow::setShowScatter(bool on)
     std::string error;
     if (!HostStyle::inOneStep(
             on ? "Show Scatter" : "Hide Scatter",
-            [on](std::string& refusal) { return HostStyle::setFlagInEveryZone("FieldMap/Scatter/Show", on, &refusal); },
-            &error))
+            [on](std::string& refusal) { return PlotEffects::showSymbols(on, refusal); }, &error))
         complain(QString::fromStdString(error));
     refreshViewActions();
 }

@@ -166,7 +166,7 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
     symbol.draw(painter, QPointF(column.left() + Swatch + 4, y + row / 2), Swatch * 0.8, Qt::gray);
     painter.setPen(Qt::black);
     painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
-                     Qt::AlignLeft | Qt::AlignVCenter, sizeText());
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, sizeText());
 }
 
 QString PlotKey::sizeText() const

@@ -10,12 +10,19 @@
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
+#include "demo/PlotScene.h"
 #include "demo/PlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 
 namespace {
 
 const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLog"};
+
+// A variable's name as a menu shows it: an ampersand is not a mnemonic.
+QString menuText(const QString& name)
+{
+    return QString(name).replace('&', "&&");
+}
 
 } // namespace
 
@@ -63,16 +70,21 @@ void PlotMenus::refresh()
     }
 }
 
+// Automatic names the variable it colours by; a check mark shows only what
+// the plot shows: none while no zone is coloured by a map.
 void PlotMenus::fillColourBy(QMenu& menu)
 {
     menu.clear();
-    const long chosen = HostStyle::integer("GlobalContour/Var");
+    const PlotScene scene = PlotScene::fromHost();
+    const long chosen = scene.anyRamp() ? HostStyle::integer("GlobalContour/Var") : -1;
     for (int var = 0; var <= OrrUtilDataSetGetNumVars(); ++var) {
         if (var > 0 && !OrrUtilVarIsEnabled(var))
             continue;
-        QAction* action = menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)")
-                                                  : takeHostText(OrrUtilVarGetName(var)),
-                                         this, [this, var] { colourBy(var); });
+        const QString automatic = takeHostText(OrrUtilVarGetName(scene.automaticContourVar));
+        QAction* action = menu.addAction(
+            var == 0 ? (automatic.isEmpty() ? tr("&Automatic") : tr("&Automatic (%1)").arg(menuText(automatic)))
+                     : menuText(takeHostText(OrrUtilVarGetName(var))),
+            this, [this, var] { colourBy(var); });
         action->setCheckable(true);
         action->setChecked(var == chosen);
         if (var == 0)

@@ -259,7 +259,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     painter.setPen(Qt::darkGray);
     for (int n = 0; n < scene.notes.size(); ++n)
         painter.drawText(QRectF(area.left() + 4, area.bottom() - em * (scene.notes.size() - n), area.width() - 8, em),
-                         Qt::AlignLeft, scene.notes[n]);
+                         Qt::AlignLeft | Qt::TextDontClip, scene.notes[n]);
     return geometry;
 }
 
@@ -372,14 +372,15 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
             const double w = metrics.horizontalAdvance(tick.label);
             widest = std::max(widest, w);
             const QPointF centre = at + out * offset(w);
-            painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter,
-                             tick.label);
+            painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em),
+                             Qt::AlignCenter | Qt::TextDontClip, tick.label);
         }
         // The name beside the middle of the edge, beyond its tick labels.
         const QString name = scale.note.isEmpty() ? scene.axes[a].name : scene.axes[a].name + " " + scale.note;
         const double w = metrics.horizontalAdvance(name);
         const QPointF centre = (from + to) / 2 + out * (2 * offset(widest) - 6 + offset(w) - offset(0) + 4);
-        painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter, name);
+        painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em),
+                         Qt::AlignCenter | Qt::TextDontClip, name);
     }
     painter.restore();
 }
@@ -587,6 +588,6 @@ void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF
         painter.fillRect(QRectF(left, y, w, height), QColor(255, 255, 255, 210));
     }
     painter.setPen(Qt::black);
-    painter.drawText(band.adjusted(4, 0, -4, 0), horizontal | Qt::AlignVCenter, text);
+    painter.drawText(band.adjusted(4, 0, -4, 0), horizontal | Qt::AlignVCenter | Qt::TextDontClip, text);
     painter.restore();
 }

@@ -103,7 +103,7 @@ bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, do
 }
 
 // The variable colour maps follow when none is chosen: the first one not on an axis whose values vary.
-int automaticContourVar(const PlotScene& scene)
+int firstVaryingVar(const PlotScene& scene)
 {
     int fallback = 0;
     for (int v = 1; v <= OrrUtilDataSetGetNumVars(); ++v) {
@@ -167,6 +167,10 @@ PlotScene PlotScene::fromHost()
         z.faded = active > 0 && active != zone;
         scene.zones.push_back(z);
     }
+    // A data set of one zone is named by its title (the file's), not by the zone's kind.
+    const QString dataTitle = takeHostText(OrrUtilDataSetGetTitle());
+    if (OrrUtilDataSetGetNumZones() == 1 && scene.zones.size() == 1 && !dataTitle.isEmpty())
+        scene.zones.front().name = dataTitle;
     for (const Zone& z : scene.zones) {
         if (z.scatter && scene.countIn(z.points) > MostSymbols) {
             scene.notes << tr("Symbols are drawn for the first %1 points of a zone.").arg(MostSymbols);
@@ -204,7 +208,8 @@ PlotScene PlotScene::fromHost()
     }
 
     const int chosen = int(HostStyle::integer("GlobalContour/Var"));
-    scene.contour.var = chosen ? chosen : automaticContourVar(scene);
+    scene.automaticContourVar = firstVaryingVar(scene);
+    scene.contour.var = chosen ? chosen : scene.automaticContourVar;
     scene.contour.map = int(HostStyle::integer("GlobalContour/ColorMap"));
     scene.contourName = takeHostText(OrrUtilVarGetName(scene.contour.var));
     scene.contourCategories = namedCategories(scene.contour.var);

@@ -42,6 +42,7 @@ struct PlotScene
     int anchor = 1;
     long begin = 1, end = 0, skip = 1;
     PointColours::Contour contour;
+    int automaticContourVar = 0; // what colours the points when no variable is chosen
     QString contourName;
     bool contourIntegers = false;
     std::vector<std::string> contourCategories;

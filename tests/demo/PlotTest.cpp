@@ -1,6 +1,7 @@
 #include <cmath>
 #include <QFile>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
 #include <QTemporaryDir>
 #include "demo/DemoUser.h"
@@ -185,6 +186,68 @@ TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
     // A window of one pixel draws a message, not a plot squeezed to nothing.
     QImage tiny(1, 1, QImage::Format_RGB32);
     view.render(tiny);
+}
+
+// Colours drawn that no basic colour or grey has: a colour map drew them.
+size_t mappedColours(const Drawn& picture)
+{
+    size_t count = 0;
+    for (const QRgb c : picture.colours) {
+        bool basic = qRed(c) == qGreen(c) && qGreen(c) == qBlue(c);
+        for (int i = 0; i < 8; ++i)
+            basic = basic || (c & 0xffffff) == (colourOf(i) & 0xffffff);
+        count += !basic;
+    }
+    return count;
+}
+
+TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    // View > Color Points By names what Automatic colours by, and ticks nothing while nothing is coloured.
+    QMenu* colourBy = window.findChild<QMenu*>("viewColorBy");
+    ASSERT_NE(colourBy, nullptr);
+    Q_EMIT colourBy->aboutToShow();
+    QAction* automatic = colourBy->actions().front();
+    EXPECT_EQ(QString("&Automatic (Z)"), automatic->text());
+    for (const QAction* action : colourBy->actions())
+        EXPECT_FALSE(action->isChecked()) << action->text().toStdString();
+    EXPECT_EQ(0u, mappedColours(drawn(view)));
+    automatic->trigger();
+    EXPECT_GT(mappedColours(drawn(view)), 5u) << "Automatic colours the points";
+    Q_EMIT colourBy->aboutToShow();
+    EXPECT_TRUE(colourBy->actions().front()->isChecked());
+
+    // Symbols chosen after keep the colouring.
+    run(window, "ASCII Character...");
+    const Drawn symbols = drawn(view);
+    EXPECT_GE(symbols.shapes, pointsInRange(1, 1000000, 1));
+    EXPECT_GT(mappedColours(symbols), 5u);
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        EXPECT_EQ(-1L, testsupport::styleValue<long>({"FieldMap", "Scatter", "Color"}, zone));
+}
+
+TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
+{
+    PlotView view;
+    auto screen = [&](const std::string& colourName) {
+        orrery::kernel::DataSet data("Heated box", {"x", "y", colourName});
+        data.addZone("STRUCTURED_POINTS", {{0, 1, 2}, {0, 1, 4}, {1, 2, 3}});
+        Kernel::setDataSet(data);
+        Kernel::setStyle({"FieldMap", "Mesh", "Color"}, -1L, 1);
+        Kernel::setStyle({"FieldMap", "Scatter", "Show"}, true, 1);
+        QImage image(Size, QImage::Format_RGB32);
+        view.render(image);
+        return image;
+    };
+    // An underscore below the line is drawn, not cut off by the text's box.
+    const QImage space = screen("temperature K");
+    EXPECT_NE(space, screen("temperature_K"));
+    const Drawn key = drawn(view);
+    EXPECT_TRUE(key.drewText("temperature_K"));
+    EXPECT_TRUE(key.drewText("Heated box"));
+    EXPECT_FALSE(key.drewText("STRUCTURED_POINTS")) << "a zone's kind is no name for the data";
 }
 
 } // namespace
