@@ -9,7 +9,9 @@
 #include "demo/ColourRamp.h"
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
+#include "demo/Mnemonics.h"
 #include "demo/PlotExport.h"
+#include "demo/PlotExportDialog.h"
 #include "demo/PlotScene.h"
 #include "demo/PlotView.h"
 #include "host/kernel/OrrUtilHost.h"
@@ -18,19 +20,14 @@ namespace {
 
 const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLog"};
 
-// A variable's name as a menu shows it: an ampersand is not a mnemonic.
-QString menuText(const QString& name)
-{
-    return QString(name).replace('&', "&&");
-}
-
 } // namespace
 
 PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view)
     : QObject(&window), m_window(window), m_plot(plot)
 {
-    QAction* exportAction = new QAction(tr("&Export Plot..."), this);
+    QAction* exportAction = new QAction(tr("E&xport Plot..."), this);
     exportAction->setObjectName("fileExportPlot");
+    exportAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(exportAction, &QAction::triggered, this, &PlotMenus::exportPlot);
     file.addAction(exportAction);
     QAction* copy = edit.addAction(tr("&Copy Plot"), this, &PlotMenus::copyPlot);
@@ -81,15 +78,17 @@ void PlotMenus::fillColourBy(QMenu& menu)
         if (var > 0 && !OrrUtilVarIsEnabled(var))
             continue;
         const QString automatic = takeHostText(OrrUtilVarGetName(scene.automaticContourVar));
-        QAction* action = menu.addAction(
-            var == 0 ? (automatic.isEmpty() ? tr("&Automatic") : tr("&Automatic (%1)").arg(menuText(automatic)))
-                     : menuText(takeHostText(OrrUtilVarGetName(var))),
-            this, [this, var] { colourBy(var); });
+        QAction* action =
+            menu.addAction(var == 0 ? (automatic.isEmpty() ? tr("&Automatic")
+                                                           : tr("&Automatic (%1)").arg(Mnemonics::escaped(automatic)))
+                                    : Mnemonics::escaped(takeHostText(OrrUtilVarGetName(var))),
+                           this, [this, var] { colourBy(var); });
         action->setCheckable(true);
         action->setChecked(var == chosen);
         if (var == 0)
             menu.addSeparator();
     }
+    Mnemonics::assign(menu);
 }
 
 void PlotMenus::fillColourMap(QMenu& menu)
@@ -105,6 +104,7 @@ void PlotMenus::fillColourMap(QMenu& menu)
         action->setCheckable(true);
         action->setChecked(map == chosen);
     }
+    Mnemonics::assign(menu);
 }
 
 // Colouring by a variable shows only on zones coloured by a map: zones in one
@@ -136,11 +136,14 @@ void PlotMenus::setLog(int axis, bool on)
 
 void PlotMenus::exportPlot()
 {
+    PlotExportDialog size(m_plot.size(), &m_window);
+    if (size.exec() != QDialog::Accepted)
+        return;
     const QString path = QFileDialog::getSaveFileName(&m_window, tr("Export Plot"), "plot.png", PlotExport::filter());
     if (path.isEmpty())
         return;
     QString error;
-    if (PlotExport::write(m_plot, path, m_plot.size(), m_plot.devicePixelRatioF(), &error))
+    if (PlotExport::write(m_plot, path, size.plotSize(), size.ratio(), &error))
         m_window.report(tr("Exported the plot to %1").arg(path));
     else
         m_window.complain(error);

@@ -10,20 +10,18 @@
 #include <cmath>
 #include <map>
 #include <optional>
-#include <QCoreApplication>
 #include <QFile>
 #include <QImage>
 #include <QLocale>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
 #include "demo/PlotView.h"
-#include "demo/Translations.h"
 #include "host/kernel/OrrUtilHost.h"
+#include "tests/demo/InLanguage.h"
 #include "tests/demo/SvgTexts.h"
 #include "tests/support/TestSupport.h"
 
@@ -439,21 +437,7 @@ private:
 class Figures : public testsupport::SampleKernelTest, public testing::WithParamInterface<const char*>
 {
 protected:
-    void SetUp() override
-    {
-        SampleKernelTest::SetUp();
-        m_locale = QLocale();
-        Translations::install(*QCoreApplication::instance(), GetParam());
-    }
-    void TearDown() override
-    {
-        for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>())
-            delete translator;
-        QLocale::setDefault(m_locale);
-    }
-
-private:
-    QLocale m_locale;
+    InLanguage language{GetParam()};
 };
 
 void colourAndScale(const Shape& shape)
