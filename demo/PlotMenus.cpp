@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QMenu>
+#include "demo/AxisTitlesDialog.h"
 #include "demo/HostText.h"
 #include "demo/ColourRamp.h"
 #include "demo/HostStyle.h"
@@ -44,6 +45,8 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
         m_log[a]->setCheckable(true);
         m_log[a]->setObjectName(a == 0 ? "viewLogX" : "viewLogY");
     }
+    QAction* titles = view.addAction(tr("Axis &Titles..."), this, &PlotMenus::editAxisTitles);
+    titles->setObjectName("viewAxisTitles");
     QMenu* colourBy = view.addMenu(tr("&Color Points By"));
     colourBy->setObjectName("viewColorBy");
     connect(colourBy, &QMenu::aboutToShow, this, [this, colourBy] { fillColourBy(*colourBy); });
@@ -54,8 +57,8 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
     plot.setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* separator = new QAction(this);
     separator->setSeparator(true);
-    plot.addActions(
-        {reset, m_log[0], m_log[1], colourBy->menuAction(), colourMap->menuAction(), separator, exportAction, copy});
+    plot.addActions({reset, m_log[0], m_log[1], titles, colourBy->menuAction(), colourMap->menuAction(), separator,
+                     exportAction, copy});
 }
 
 void PlotMenus::refresh()
@@ -120,6 +123,33 @@ void PlotMenus::colourBy(int var)
                 if (HostStyle::integer("FieldMap/Mesh/Color", zone) >= 0)
                     written = HostStyle::setInteger("FieldMap/Mesh/Color", -1, &refusal, zone);
             return written;
+        },
+        &error);
+    if (!ok)
+        m_window.complain(QString::fromStdString(error));
+}
+
+// All titles in one undoable step.
+void PlotMenus::editAxisTitles()
+{
+    AxisTitlesDialog dialog(&m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::vector<std::string> titles = dialog.titles();
+    bool changed = false;
+    for (size_t a = 0; a < titles.size(); ++a)
+        changed = changed || HostStyle::text(dialog.paths()[a]) != titles[a];
+    if (!changed)
+        return;
+    std::string error;
+    const bool ok = HostStyle::inOneStep(
+        "Axis Titles",
+        [&](std::string& refusal) {
+            for (size_t a = 0; a < titles.size(); ++a)
+                if (HostStyle::text(dialog.paths()[a]) != titles[a]
+                    && !HostStyle::setText(dialog.paths()[a], titles[a], &refusal))
+                    return false;
+            return true;
         },
         &error);
     if (!ok)

@@ -7,8 +7,8 @@ class QAction;
 class QMenu;
 
 // The plot's own entries, in the View menu and the plot's context menu:
-// logarithmic axes, the variable and colour map that colour the points,
-// showing everything again; and exporting and copying the picture.
+// logarithmic axes, axis titles, the variable and colour map that colour the
+// points, showing everything again; and exporting and copying the picture.
 class PlotMenus : public QObject
 {
     Q_OBJECT
@@ -19,6 +19,8 @@ public:
     void refresh();
     void exportPlot();
     void copyPlot();
+    // View > Axis Titles: asks for the titles and writes them as one step.
+    void editAxisTitles();
 
 private:
     void fillColourBy(QMenu& menu);

@@ -310,14 +310,14 @@ void PlotPainter::paintAxes2D(QPainter& painter, const PlotScene& scene, const P
         painter.drawText(QRectF(plot.left() - TickRoom - yLabels, plot.top() - em - 2, width(y.note) + 2, em),
                          Qt::AlignLeft | Qt::AlignBottom | Qt::TextDontClip, y.note);
     // A title wider than its room moves left of the note rather than under it.
-    const double xTitle = width(scene.axes[0].name);
+    const double xTitle = width(scene.axes[0].title);
     const double xTitleLeft =
         std::min(plot.center().x() - xTitle / 2, plot.right() - xNote - xTitle - (xNote > 0 ? em : 0.0));
-    painter.drawText(QRectF(xTitleLeft, titleRow, xTitle, em), Qt::AlignLeft | Qt::TextDontClip, scene.axes[0].name);
+    painter.drawText(QRectF(xTitleLeft, titleRow, xTitle, em), Qt::AlignLeft | Qt::TextDontClip, scene.axes[0].title);
     painter.translate(plot.left() - TickRoom - yLabels - 4, plot.center().y());
     painter.rotate(-90);
     painter.drawText(QRectF(-plot.height() / 2, -em, plot.height(), em),
-                     Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip, scene.axes[1].name);
+                     Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip, scene.axes[1].title);
     painter.restore();
 }
 
@@ -376,7 +376,7 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
                              Qt::AlignCenter | Qt::TextDontClip, tick.label);
         }
         // The name beside the middle of the edge, beyond its tick labels.
-        const QString name = scale.note.isEmpty() ? scene.axes[a].name : scene.axes[a].name + " " + scale.note;
+        const QString name = scale.note.isEmpty() ? scene.axes[a].title : scene.axes[a].title + " " + scale.note;
         const double w = metrics.horizontalAdvance(name);
         const QPointF centre = (from + to) / 2 + out * (2 * offset(widest) - 6 + offset(w) - offset(0) + 4);
         painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em),

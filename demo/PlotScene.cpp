@@ -188,6 +188,9 @@ PlotScene PlotScene::fromHost()
             scene.problem = tr("Choose the axis variables (Dialogs > Axis Variables).");
             return scene;
         }
+        axis.title = QString::fromStdString(HostStyle::text(root + names[a] + "/Title"));
+        if (axis.title.isEmpty())
+            axis.title = axis.name;
         axis.categories = namedCategories(axis.var);
         axis.log = !scene.threeD && HostStyle::flag(root + names[a] + "/IsLog");
     }

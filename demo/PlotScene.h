@@ -14,7 +14,8 @@ struct PlotScene
     struct Axis
     {
         int var = 0;
-        QString name;
+        QString name;  // of the variable
+        QString title; // shown beside the axis: the style's, else the name
         double min = 0.0;
         double max = 1.0;
         bool log = false;

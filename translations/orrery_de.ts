@@ -69,6 +69,25 @@
     </message>
 </context>
 <context>
+    <name>AxisTitlesDialog</name>
+    <message>
+        <source>Axis Titles</source>
+        <translation>Achsentitel</translation>
+    </message>
+    <message>
+        <source>&amp;X axis:</source>
+        <translation>&amp;X-Achse:</translation>
+    </message>
+    <message>
+        <source>&amp;Y axis:</source>
+        <translation>&amp;Y-Achse:</translation>
+    </message>
+    <message>
+        <source>&amp;Z axis:</source>
+        <translation>&amp;Z-Achse:</translation>
+    </message>
+</context>
+<context>
     <name>ChooseLoader</name>
     <message>
         <source>Choose Loader</source>
@@ -1660,6 +1679,10 @@ Die Datei so laden, wie sie jetzt ist?</translation>
     <message>
         <source>&amp;Automatic (%1)</source>
         <translation>&amp;Automatisch (%1)</translation>
+    </message>
+    <message>
+        <source>Axis &amp;Titles...</source>
+        <translation>Achsen&amp;titel...</translation>
     </message>
 </context>
 <context>

@@ -2,14 +2,18 @@
 // entries picked by keys of their own, every shortcut on one action, the
 // export asking for the picture's size, the window within the screen.
 #include <QAction>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSpinBox>
 #include <QSet>
+#include "demo/AxisTitlesDialog.h"
 #include "demo/MainWindow.h"
 #include "demo/Mnemonics.h"
 #include "demo/PlotExportDialog.h"
+#include "demo/TextFit.h"
 #include "tests/demo/InLanguage.h"
 #include "tests/support/TestSupport.h"
 
@@ -64,6 +68,24 @@ TEST_P(MainWindowMenus, GiveEveryEntryItsOwnKeyAndEveryShortcutOneAction)
     const QAction* exportPlot = window.findChild<QAction*>("fileExportPlot");
     ASSERT_NE(exportPlot, nullptr);
     EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_E), exportPlot->shortcut());
+}
+
+TEST_P(MainWindowMenus, OpenDialogsOfTheirOwnWithEveryTextWholeAndEveryFieldNamed)
+{
+    AxisTitlesDialog titles;
+    PlotExportDialog size(QSize(800, 600));
+    for (QDialog* dialog : std::initializer_list<QDialog*>{&titles, &size}) {
+        dialog->show();
+        EXPECT_TRUE(TextFit::clippedTexts(*dialog).isEmpty())
+            << TextFit::clippedTexts(*dialog).join('\n').toStdString();
+        for (const QLabel* label : dialog->findChildren<QLabel*>())
+            EXPECT_NE(label->buddy(), nullptr) << label->text().toStdString();
+        for (const QWidget* field : dialog->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            const bool entered = qobject_cast<const QLineEdit*>(field) || qobject_cast<const QSpinBox*>(field);
+            EXPECT_FALSE(entered && field->accessibleName().isEmpty()) << field->objectName().toStdString();
+        }
+        dialog->hide();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, MainWindowMenus, testing::Values("en", "de"),

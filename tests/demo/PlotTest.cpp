@@ -1,15 +1,19 @@
 #include <cmath>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenu>
+#include <QTimer>
 #include <QPainter>
 #include <QTemporaryDir>
+#include "demo/AxisTitlesDialog.h"
 #include "demo/DemoUser.h"
 #include "demo/DialogCatalog.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
 #include "demo/PlotView.h"
 #include "host/kernel/DataSet.h"
+#include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "tests/support/RecordingDevice.h"
 #include "tests/support/TestSupport.h"
@@ -248,6 +252,45 @@ TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
     EXPECT_TRUE(key.drewText("temperature_K"));
     EXPECT_TRUE(key.drewText("Heated box"));
     EXPECT_FALSE(key.drewText("STRUCTURED_POINTS")) << "a zone's kind is no name for the data";
+}
+
+TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    auto titleAxes = [&](const QString& x, const QString& y) {
+        QTimer::singleShot(0, &window, [&window, x, y] {
+            auto* dialog = window.findChild<AxisTitlesDialog*>();
+            ASSERT_NE(dialog, nullptr);
+            DemoUser::typeInto(*dialog->findChild<QLineEdit*>("axisTitleX"), x);
+            DemoUser::typeInto(*dialog->findChild<QLineEdit*>("axisTitleY"), y);
+            DemoUser::press(*dialog, QDialogButtonBox::Ok);
+        });
+        window.findChild<QAction*>("viewAxisTitles")->trigger();
+    };
+    EXPECT_TRUE(drawn(view).drewText("X")) << "by default the variable's name";
+    titleAxes("Distance (m)", "Height (m)");
+    const Drawn titled = drawn(view);
+    EXPECT_TRUE(titled.drewText("Distance (m)"));
+    EXPECT_TRUE(titled.drewText("Height (m)"));
+    const std::vector<std::string>& journal = orrery::kernel::Kernel::instance().journal().lines();
+    EXPECT_NE(journal.end(),
+              std::find(journal.begin(), journal.end(), "style TwoDAxis/XDetail/Title \"Distance (m)\""));
+
+    QTemporaryDir folder;
+    QString error;
+    ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.svg"), Size, 1.0, &error));
+    QFile svg(folder.filePath("plot.svg"));
+    ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(svg.readAll().contains(">Height (m)<"));
+
+    // Both titles were one step.
+    OrrUtilUndoPerform();
+    EXPECT_FALSE(drawn(view).drewText("Distance (m)"));
+    EXPECT_FALSE(drawn(view).drewText("Height (m)"));
+    OrrUtilRedoPerform();
+    titleAxes("", "Height (m)");
+    EXPECT_TRUE(drawn(view).drewText("X")) << "an empty title is the name again";
 }
 
 } // namespace
