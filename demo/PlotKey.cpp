@@ -43,6 +43,11 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font, double height) : m_s
             m_width = std::max(m_width, textWidth(m_barScale.note));
         }
     }
+    // The lines of several Y variables, each in its colour.
+    m_lines = scene.lines && scene.lineVars.size() > 1 && !scene.zones.empty();
+    if (m_lines)
+        for (const QString& name : scene.lineNames)
+            m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(name));
     // Zones are listed when they can be told apart: by colour, symbol or one picked out.
     m_zones = scene.anyScatter()
               || (scene.zones.size() > 1
@@ -69,6 +74,8 @@ void PlotKey::paint(QPainter& painter, const QRectF& column) const
         rest.setTop(paintColourBar(painter, rest));
     else if (m_categories)
         rest.setTop(paintCategories(painter, rest));
+    if (m_lines)
+        rest.setTop(paintLines(painter, rest));
     if (m_zones)
         paintZones(painter, rest);
     painter.restore();
@@ -134,6 +141,24 @@ double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
                          QString::fromStdString(m_scene.contourCategories[k]));
     }
     return y + row * 1.8;
+}
+
+// Returns where the next part of the key may start.
+double PlotKey::paintLines(QPainter& painter, const QRectF& column) const
+{
+    const QFontMetricsF metrics(m_font);
+    const double row = metrics.height() + 3;
+    const PlotScene::Zone& first = m_scene.zones.front();
+    const QRgb zoneColour = PointColours(first.meshColour, first.zone, m_scene.contour).fixed();
+    double y = column.top();
+    for (int line = 0; line < m_scene.lineNames.size() && y + row <= column.bottom(); ++line, y += row) {
+        painter.setPen(QPen(QColor(PlotScene::lineColour(size_t(line), zoneColour)), 2));
+        painter.drawLine(QPointF(column.left(), y + row / 2), QPointF(column.left() + 2 * Swatch, y + row / 2));
+        painter.setPen(Qt::black);
+        painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_scene.lineNames[line]);
+    }
+    return y + row * 0.8;
 }
 
 void PlotKey::paintZones(QPainter& painter, const QRectF& column) const

@@ -7,7 +7,8 @@ struct PlotScene;
 class QPainter;
 
 // The key beside the axes: a colour bar (or a legend of its categories) for
-// the variable that colours the points, and the zones with their symbols.
+// the variable that colours the points, the Y variables of an XY line plot
+// drawing several, and the zones with their symbols.
 // Every text is shown whole; the key is as wide as its widest.
 class PlotKey
 {
@@ -22,6 +23,7 @@ public:
 private:
     double paintColourBar(QPainter& painter, const QRectF& column) const;
     double paintCategories(QPainter& painter, const QRectF& column) const;
+    double paintLines(QPainter& painter, const QRectF& column) const;
     void paintZones(QPainter& painter, const QRectF& column) const;
     QString sizeText() const;
     // The colour bar within a column.
@@ -31,6 +33,7 @@ private:
     QFont m_font;
     bool m_colourBar = false;
     bool m_categories = false;
+    bool m_lines = false;
     bool m_zones = false;
     AxisTicks::Scale m_barScale;
     double m_width = 0.0;

@@ -47,6 +47,9 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
     }
     QAction* titles = view.addAction(tr("Axis &Titles..."), this, &PlotMenus::editAxisTitles);
     titles->setObjectName("viewAxisTitles");
+    m_lines = view.addMenu(tr("Y Variables as &Lines"));
+    m_lines->setObjectName("viewLineVariables");
+    connect(m_lines, &QMenu::aboutToShow, this, [this] { fillLines(*m_lines); });
     QMenu* colourBy = view.addMenu(tr("&Color Points By"));
     colourBy->setObjectName("viewColorBy");
     connect(colourBy, &QMenu::aboutToShow, this, [this, colourBy] { fillColourBy(*colourBy); });
@@ -57,12 +60,13 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
     plot.setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* separator = new QAction(this);
     separator->setSeparator(true);
-    plot.addActions({reset, m_log[0], m_log[1], titles, colourBy->menuAction(), colourMap->menuAction(), separator,
-                     exportAction, copy});
+    plot.addActions({reset, m_log[0], m_log[1], titles, m_lines->menuAction(), colourBy->menuAction(),
+                     colourMap->menuAction(), separator, exportAction, copy});
 }
 
 void PlotMenus::refresh()
 {
+    m_lines->setEnabled(OrrUtilFrameGetPlotType() == PlotType_XYLine);
     const bool twoD = OrrUtilFrameGetPlotType() != PlotType_ThreeD;
     for (int a = 0; a < 2; ++a) {
         m_log[a]->setChecked(HostStyle::flag(LogKeys[a]));
@@ -92,6 +96,49 @@ void PlotMenus::fillColourBy(QMenu& menu)
             menu.addSeparator();
     }
     Mnemonics::assign(menu);
+}
+
+// Every variable but X, those drawn as lines ticked.
+void PlotMenus::fillLines(QMenu& menu)
+{
+    menu.clear();
+    const PlotScene scene = PlotScene::fromHost();
+    for (int var = 1; var <= OrrUtilDataSetGetNumVars(); ++var) {
+        if (!OrrUtilVarIsEnabled(var) || var == scene.axes[0].var)
+            continue;
+        QAction* action = menu.addAction(Mnemonics::escaped(takeHostText(OrrUtilVarGetName(var))), this,
+                                         [this, var](bool on) { showLine(var, on); });
+        action->setCheckable(true);
+        action->setChecked(std::find(scene.lineVars.begin(), scene.lineVars.end(), var) != scene.lineVars.end());
+    }
+    Mnemonics::assign(menu);
+}
+
+// The first line's variable is the Y axis's; the others are listed after it. At least one stays.
+void PlotMenus::showLine(int var, bool on)
+{
+    std::vector<int> vars = PlotScene::fromHost().lineVars;
+    vars.erase(std::remove(vars.begin(), vars.end(), var), vars.end());
+    if (on)
+        vars.push_back(var);
+    if (vars.empty()) {
+        m_window.complain(tr("An XY line plot draws at least one Y variable."));
+        return;
+    }
+    QStringList more;
+    for (size_t k = 1; k < vars.size(); ++k)
+        more << QString::number(vars[k]);
+    std::string error;
+    const bool ok = HostStyle::inOneStep(
+        "Y Variables",
+        [&](std::string& refusal) {
+            return (HostStyle::integer("TwoDAxis/YDetail/VarNum") == vars.front()
+                    || HostStyle::setInteger("TwoDAxis/YDetail/VarNum", vars.front(), &refusal))
+                   && HostStyle::setText("TwoDAxis/YDetail/MoreVarNums", more.join(' ').toStdString(), &refusal);
+        },
+        &error);
+    if (!ok)
+        m_window.complain(QString::fromStdString(error));
 }
 
 void PlotMenus::fillColourMap(QMenu& menu)

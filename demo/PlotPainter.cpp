@@ -422,28 +422,10 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                     order.push_back(i);
             });
             std::stable_sort(order.begin(), order.end(), [&](long a, long b) { return v[0][a] < v[0][b]; });
-            QPainterPath path;
-            bool open = false;
-            QPointF q;
-            for (long i : order) {
-                if (!at(i, q)) {
-                    open = false;
-                    continue;
-                }
-                open ? path.lineTo(q) : path.moveTo(q);
-                open = true;
-            }
-            painter.setPen(
-                QPen(QColor(faded(mesh.fixed(), zone.faded)), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            painter.setBrush(Qt::NoBrush);
-            painter.drawPath(path);
-            // A lone point between gaps is still a value: a dot marks it.
-            painter.setPen(QPen(QColor(faded(mesh.fixed(), zone.faded)), 4, Qt::SolidLine, Qt::RoundCap));
-            for (size_t k = 0; k < order.size(); ++k) {
-                const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
-                if (!before && !after && at(order[k], q))
-                    painter.drawPoint(q);
-            }
+            for (size_t line = 0; line < zone.lineValues.size(); ++line)
+                if (const double* y = zone.lineValues[line])
+                    paintLine(painter, p, order, v[0], y,
+                              QColor(faded(PlotScene::lineColour(line, mesh.fixed()), zone.faded)));
             continue;
         }
 
@@ -562,6 +544,38 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
         }
     }
     painter.restore();
+}
+
+void PlotPainter::paintLine(QPainter& painter, const Projection& p, const std::vector<long>& order, const double* x,
+                            const double* y, const QColor& colour) const
+{
+    auto at = [&](long i, QPointF& out) {
+        if (!std::isfinite(x[i]) || !std::isfinite(y[i]) || (p.log[0] && x[i] <= 0) || (p.log[1] && y[i] <= 0))
+            return false;
+        out = p.map(x[i], y[i]);
+        return true;
+    };
+    QPainterPath path;
+    bool open = false;
+    QPointF q;
+    for (long i : order) {
+        if (!at(i, q)) {
+            open = false;
+            continue;
+        }
+        open ? path.lineTo(q) : path.moveTo(q);
+        open = true;
+    }
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(path);
+    // A lone point between gaps is still a value: a dot marks it.
+    painter.setPen(QPen(colour, 4, Qt::SolidLine, Qt::RoundCap));
+    for (size_t k = 0; k < order.size(); ++k) {
+        const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
+        if (!before && !after && at(order[k], q))
+            painter.drawPoint(q);
+    }
 }
 
 void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const

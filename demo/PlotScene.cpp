@@ -102,6 +102,41 @@ bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, do
     return min <= max;
 }
 
+// The same over several variables together.
+bool rangeOfAll(const PlotScene& scene, const std::vector<int>& vars, bool positiveOnly, double& min, double& max,
+                bool* whole)
+{
+    min = std::numeric_limits<double>::infinity();
+    max = -min;
+    bool allWhole = true;
+    for (int var : vars) {
+        double low = 0, high = 0;
+        bool wholeVar = true;
+        if (rangeOf(scene, var, positiveOnly, low, high, &wholeVar)) {
+            min = std::min(min, low);
+            max = std::max(max, high);
+            allWhole = allWhole && wholeVar;
+        }
+    }
+    *whole = allWhole;
+    return min <= max;
+}
+
+// The Y variables of an XY line plot: the axis's, then the further ones the
+// style lists that name an enabled variable, each once.
+std::vector<int> lineVarsOf(int first)
+{
+    std::vector<int> vars{first};
+    for (const QString& word :
+         QString::fromStdString(HostStyle::text("TwoDAxis/YDetail/MoreVarNums")).split(' ', Qt::SkipEmptyParts)) {
+        const int var = word.toInt();
+        if (var >= 1 && var <= OrrUtilDataSetGetNumVars() && OrrUtilVarIsEnabled(var)
+            && std::find(vars.begin(), vars.end(), var) == vars.end())
+            vars.push_back(var);
+    }
+    return vars;
+}
+
 // The variable colour maps follow when none is chosen: the first one not on an axis whose values vary.
 int firstVaryingVar(const PlotScene& scene)
 {
@@ -123,6 +158,22 @@ int firstVaryingVar(const PlotScene& scene)
 bool PlotScene::anyScatter() const
 {
     return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });
+}
+
+QRgb PlotScene::lineColour(size_t line, QRgb zoneColour)
+{
+    if (line == 0)
+        return zoneColour;
+    // Red, blue, green, purple, cyan: apart from each other and from white; not the zone's own.
+    static const int palette[] = {1, 3, 2, 6, 4};
+    std::vector<QRgb> colours;
+    for (int index : palette) {
+        unsigned char r = 0, g = 0, b = 0;
+        OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
+        if (qRgb(r, g, b) != zoneColour)
+            colours.push_back(qRgb(r, g, b));
+    }
+    return colours[(line - 1) % colours.size()];
 }
 
 bool PlotScene::anyRamp() const
@@ -194,13 +245,28 @@ PlotScene PlotScene::fromHost()
         axis.categories = namedCategories(axis.var);
         axis.log = !scene.threeD && HostStyle::flag(root + names[a] + "/IsLog");
     }
-    for (Zone& z : scene.zones)
+    if (scene.lines) {
+        scene.lineVars = lineVarsOf(scene.axes[1].var);
+        for (int var : scene.lineVars)
+            scene.lineNames << takeHostText(OrrUtilVarGetName(var));
+        if (scene.lineVars.size() > 1) {
+            // Several lines share the axis: their names are its title, its values numbers.
+            scene.axes[1].categories.clear();
+            if (HostStyle::text("TwoDAxis/YDetail/Title").empty())
+                scene.axes[1].title = scene.lineNames.join(", ");
+        }
+    }
+    for (Zone& z : scene.zones) {
         for (int a = 0; a < scene.dims; ++a)
             z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
+        for (int var : scene.lineVars)
+            z.lineValues.push_back(OrrUtilVarGetValuesInZone(z.zone, var));
+    }
     for (int a = 0; a < scene.dims; ++a) {
         Axis& axis = scene.axes[a];
-        if (!rangeOf(scene, axis.var, axis.log, axis.min, axis.max, &axis.integers)) {
-            if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max, &axis.integers)) {
+        const std::vector<int> vars = a == 1 && scene.lines ? scene.lineVars : std::vector<int>{axis.var};
+        if (!rangeOfAll(scene, vars, axis.log, axis.min, axis.max, &axis.integers)) {
+            if (axis.log && rangeOfAll(scene, vars, false, axis.min, axis.max, &axis.integers)) {
                 scene.notes << tr("%1 has no positive values: its axis is linear.").arg(axis.name);
                 axis.log = false;
             } else {

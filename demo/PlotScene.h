@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 #include <QString>
+#include <QColor>
 #include <QStringList>
 #include "demo/PointColours.h"
 
@@ -28,6 +29,7 @@ struct PlotScene
         QString name;
         long points = 0;
         const double* values[3] = {nullptr, nullptr, nullptr};
+        std::vector<const double*> lineValues; // of each of lineVars
         int meshColour = 0;
         int scatterColour = 0;
         bool mesh = false;
@@ -37,6 +39,9 @@ struct PlotScene
 
     bool threeD = false;
     bool lines = false;
+    // The Y variables an XY line plot draws, each a line: the Y axis's first.
+    std::vector<int> lineVars;
+    QStringList lineNames;
     int dims = 2;
     Axis axes[3];
     QString title;
@@ -81,5 +86,7 @@ struct PlotScene
             visit(i);
     }
     bool anyScatter() const;
+    // The colour of a zone's line of the line-th Y variable: the zone's own for the first.
+    static QRgb lineColour(size_t line, QRgb zoneColour);
     bool anyRamp() const;
 };

@@ -1684,6 +1684,14 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>Axis &amp;Titles...</source>
         <translation>Achsen&amp;titel...</translation>
     </message>
+    <message>
+        <source>Y Variables as &amp;Lines</source>
+        <translation>Y-Variablen als &amp;Linien</translation>
+    </message>
+    <message>
+        <source>An XY line plot draws at least one Y variable.</source>
+        <translation>Ein XY-Linienplot zeichnet mindestens eine Y-Variable.</translation>
+    </message>
 </context>
 <context>
     <name>PlotPainter</name>

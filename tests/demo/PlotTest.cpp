@@ -293,4 +293,64 @@ TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
     EXPECT_TRUE(drawn(view).drewText("X")) << "an empty title is the name again";
 }
 
+TEST_F(Plot, AnXYLinePlotDrawsSeveralYVariablesEachInItsColourWithALegend)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    Kernel::setPlotType(PlotType_XYLine);
+    QMenu* lines = window.findChild<QMenu*>("viewLineVariables");
+    ASSERT_NE(lines, nullptr);
+    EXPECT_TRUE(lines->isEnabled());
+    auto toggle = [&](const QString& name) {
+        Q_EMIT lines->aboutToShow();
+        for (QAction* action : lines->actions())
+            if (QString(action->text()).remove('&') == name)
+                return action->trigger();
+        ADD_FAILURE() << name.toStdString();
+    };
+    // What the picture shows: where its axes went, how many of its pixels are red.
+    QImage image(Size, QImage::Format_RGB32);
+    auto picture = [&] {
+        QPainter painter(&image);
+        return view.render(painter, QRectF(QPointF(0, 0), QSizeF(Size)));
+    };
+    auto red = [&] {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += (image.pixel(x, y) & 0xffffff) == (colourOf(1) & 0xffffff);
+        return count;
+    };
+    picture();
+    EXPECT_EQ(0, red());
+    toggle("Temperature");
+    const PlotGeometry both = picture();
+    EXPECT_GT(red(), 100) << "the second line in a colour of its own";
+    const Drawn two = drawn(view);
+    EXPECT_TRUE(two.drewText("Temperature")) << "a legend entry";
+    EXPECT_TRUE(two.drewText("Y, Temperature")) << "the axis titled by both";
+    double low = 0, high = 0;
+    OrrUtilVarGetMinMax(5, &low, &high);
+    EXPECT_GE(both.shown.max[1], high) << "the Y axis spans both";
+    const std::vector<std::string>& journal = orrery::kernel::Kernel::instance().journal().lines();
+    EXPECT_NE(journal.end(), std::find(journal.begin(), journal.end(), "style TwoDAxis/YDetail/MoreVarNums \"5\""));
+
+    // The axis's own variable off: the next line's takes its place, in one step.
+    toggle("Y");
+    EXPECT_EQ(5L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ("", testsupport::styleValue<std::string>({"TwoDAxis", "YDetail", "MoreVarNums"}));
+    OrrUtilUndoPerform();
+    EXPECT_EQ(2L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ("5", testsupport::styleValue<std::string>({"TwoDAxis", "YDetail", "MoreVarNums"}));
+    // The last line stays, with a word why.
+    toggle("Y");
+    toggle("Temperature");
+    EXPECT_EQ(5L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_FALSE(testsupport::messageTexts().empty());
+
+    // A list naming no variable, or one twice, is refused by the kernel.
+    EXPECT_NE(SetValue_Ok, Kernel::setStyle({"TwoDAxis", "YDetail", "MoreVarNums"}, std::string("4 4")));
+    EXPECT_NE(SetValue_Ok, Kernel::setStyle({"TwoDAxis", "YDetail", "MoreVarNums"}, std::string("9")));
+}
+
 } // namespace
