@@ -288,14 +288,19 @@ AxisTicks::Scale AxisTicks::label(const std::vector<double>& values)
     if (values.empty())
         return scale;
     if (values.size() == 1) {
+        // Alone, a value shows up to six digits, and no more than it has.
         const double v = values[0];
         const int exponent = v == 0.0 ? 0 : exponentOf(v);
-        if (std::abs(exponent) < 5)
-            scale.ticks.push_back({v, number(v, std::max(0, 5 - exponent))});
-        else {
-            scale.ticks.push_back({v, number(v / std::pow(10.0, exponent), 5)});
-            scale.note = QString::fromUtf8("×") + powerOfTen(exponent);
-        }
+        const int shift = std::abs(exponent) < 5 ? 0 : exponent;
+        const double shown = v / std::pow(10.0, shift);
+        int decimals = 0;
+        while (decimals < 5 - (exponent - shift)
+               && std::abs(std::round(shown * std::pow(10.0, decimals)) / std::pow(10.0, decimals) - shown)
+                      > 1e-9 * std::abs(shown))
+            ++decimals;
+        scale.ticks.push_back({v, number(shown, decimals)});
+        if (shift != 0)
+            scale.note = QString::fromUtf8("×") + powerOfTen(shift);
         return scale;
     }
     // The step as the search chose it, without the last bits of the sums.

@@ -130,8 +130,11 @@ TEST(AxisTicks, ConstantNarrowOrNonFiniteRangesNeverLoopOrDivideByZero)
     EXPECT_EQ(1u, AxisTicks::fit(1, 1 + 1e-300, Length, width, Gap).ticks.size());
     EXPECT_TRUE(AxisTicks::niceValues(0, INFINITY, 5).empty());
     EXPECT_TRUE(AxisTicks::niceValues(NAN, 1, 5).empty());
-    // A 1 px axis still gets a label rather than nothing or a crash.
-    EXPECT_EQ(1u, AxisTicks::fit(0, 10, 1, width, Gap).ticks.size());
+    // A 1 px axis still gets a label rather than nothing or a crash, with no more digits than it has.
+    const AxisTicks::Scale single = AxisTicks::fit(0, 10, 1, width, Gap);
+    ASSERT_EQ(1u, single.ticks.size());
+    EXPECT_EQ(QString::number(single.ticks[0].value), single.ticks[0].label);
+    EXPECT_EQ((std::vector<QString>{"1.25"}), labels(AxisTicks::label({1.25})));
 }
 
 TEST(AxisTicks, MoreRoomGivesMoreTicksThatStillFit)
