@@ -231,7 +231,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         geometry.plot = area.adjusted(0, top, 0, -bottom);
         AxisTicks::Scale y = scaleFor(scene.axes[1], geometry, 1, metrics);
         if (!y.note.isEmpty()) {
-            geometry.plot.setTop(area.top() + top + em + 4);
+            geometry.plot.setTop(area.top() + top + 1.5 * em + 4);
             y = scaleFor(scene.axes[1], geometry, 1, metrics);
         }
         key = std::make_unique<PlotKey>(scene, painter.font(), area.bottom() - geometry.plot.top() - em);
@@ -307,7 +307,8 @@ void PlotPainter::paintAxes2D(QPainter& painter, const PlotScene& scene, const P
     const double xNote = x.note.isEmpty() ? 0.0 : width(x.note) + em;
     painter.drawText(QRectF(plot.right() - xNote, titleRow, xNote, em), Qt::AlignRight | Qt::TextDontClip, x.note);
     if (!y.note.isEmpty())
-        painter.drawText(QRectF(plot.left() - TickRoom - yLabels, plot.top() - em - 2, width(y.note) + 2, em),
+        // Above the reach of a label at the axis's top.
+        painter.drawText(QRectF(plot.left() - TickRoom - yLabels, plot.top() - 1.5 * em - 2, width(y.note) + 2, em),
                          Qt::AlignLeft | Qt::AlignBottom | Qt::TextDontClip, y.note);
     // A title wider than its room moves left of the note rather than under it.
     const double xTitle = width(scene.axes[0].title);

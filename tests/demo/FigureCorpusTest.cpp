@@ -472,8 +472,10 @@ TEST_P(Figures, ShowEveryLabelWholeTrueAndApartWhateverTheData)
         ASSERT_TRUE(PlotExport::write(view, svg, size, 1.0, &error)) << error.toStdString();
         const std::vector<SvgText> texts = readSvgTexts(svg, &error);
         ASSERT_FALSE(texts.empty()) << shape.name << error.toStdString();
-        // Where the axes went, from the same drawing on a page of the same size.
+        // Where the axes went, from the same drawing on a page of the same size and resolution.
         QImage page(size, QImage::Format_RGB32);
+        page.setDotsPerMeterX(qRound(96 / 0.0254));
+        page.setDotsPerMeterY(qRound(96 / 0.0254));
         QPainter painter(&page);
         const PlotGeometry geometry = view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
         painter.end();
