@@ -130,14 +130,6 @@ bool HostStyle::setText(const std::string& slashed, const std::string& text, std
     return setFinal(slashed, text, error, -1);
 }
 
-bool HostStyle::setFlagInEveryZone(const std::string& slashed, bool on, std::string* error)
-{
-    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
-        if (!setFlag(slashed, on, error, zone))
-            return false;
-    return true;
-}
-
 bool HostStyle::inOneStep(const char* stepName, const std::function<bool(std::string& error)>& writes,
                           std::string* error)
 {

@@ -21,8 +21,6 @@ public:
     static bool setInteger(const std::string& path, long value, std::string* error = nullptr, long member = -1);
     static bool setFlag(const std::string& path, bool value, std::string* error = nullptr, long member = -1);
     static bool setText(const std::string& path, const std::string& value, std::string* error = nullptr);
-    // The same flag of every zone.
-    static bool setFlagInEveryZone(const std::string& path, bool value, std::string* error = nullptr);
     // Runs writes as one undo step named stepName; when one is refused the
     // step is taken back whole and false returned with its text in error.
     static bool inOneStep(const char* stepName, const std::function<bool(std::string& error)>& writes,

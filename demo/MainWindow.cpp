@@ -20,10 +20,13 @@
 #include <QTimer>
 #include "demo/FileDrops.h"
 #include "demo/HostStyle.h"
+#include "demo/Mnemonics.h"
+#include "demo/PlotEffects.h"
 #include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
 #include "demo/StateView.h"
+#include "demo/WindowLayout.h"
 #include "demo/WindowTitle.h"
 #include "host/kernel/FileLoad.h"
 #include "host/kernel/JournalReplayer.h"
@@ -190,8 +193,10 @@ MainWindow::MainWindow()
     });
 
     QMenu* dialogs = menuBar()->addMenu(tr("&Dialogs"));
+    dialogs->setObjectName("dialogsMenu");
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries())
         dialogs->addAction(DialogCatalog::title(entry), this, [this, &entry] { runDialog(entry); });
+    Mnemonics::assign(*dialogs);
 
     // While the host is busy (a replay of thousands of lines) the menus are
     // brought up to date once, when it is idle again.
@@ -216,7 +221,7 @@ MainWindow::MainWindow()
     refreshViewActions();
     m_title = new WindowTitle(*this);
     new FileDrops(*this, [this](const QString& path) { open(path); });
-    resize(1180, 760);
+    WindowLayout::fitToScreen(*this, QSize(1180, 760));
     resizeDocks({stateDock}, {400}, Qt::Horizontal);
     resizeDocks({answersDock}, {120}, Qt::Vertical);
 }
@@ -300,8 +305,7 @@ void MainWindow::setShowScatter(bool on)
     std::string error;
     if (!HostStyle::inOneStep(
             on ? "Show Scatter" : "Hide Scatter",
-            [on](std::string& refusal) { return HostStyle::setFlagInEveryZone("FieldMap/Scatter/Show", on, &refusal); },
-            &error))
+            [on](std::string& refusal) { return PlotEffects::showSymbols(on, refusal); }, &error))
         complain(QString::fromStdString(error));
     refreshViewActions();
 }
@@ -486,6 +490,7 @@ void MainWindow::buildSampleMenu(QMenu& menu)
                 continue;
             seen << info.fileName();
             const QString path = info.absoluteFilePath();
-            menu.addAction(info.fileName(), this, [this, path] { loadFile(path); });
+            menu.addAction(Mnemonics::escaped(info.fileName()), this, [this, path] { loadFile(path); });
         }
+    Mnemonics::assign(menu);
 }

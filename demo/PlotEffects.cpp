@@ -61,6 +61,18 @@ bool anyScatter()
 
 } // namespace
 
+bool PlotEffects::showSymbols(bool on, std::string& error)
+{
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone) {
+        const long points = HostStyle::integer("FieldMap/Mesh/Color", zone);
+        const bool colouring = points < 0 && HostStyle::integer("FieldMap/Scatter/Color", zone) >= 0;
+        if ((on && colouring && !HostStyle::setInteger("FieldMap/Scatter/Color", points, &error, zone))
+            || !HostStyle::setFlag("FieldMap/Scatter/Show", on, &error, zone))
+            return false;
+    }
+    return true;
+}
+
 int PlotEffects::currentZone()
 {
     const long active = HostStyle::integer("FrameLayout/ActiveZone");
@@ -106,10 +118,7 @@ QString PlotEffects::scatterSymbol(EnterASCIICharacterDialog& d)
     return inOneStep(
         "Scatter Symbol",
         [&](std::string& error) {
-            bool ok = HostStyle::setText("GlobalScatter/Symbol", symbol.toStdString(), &error);
-            for (int zone = 1; ok && zone <= OrrUtilDataSetGetNumZones(); ++zone)
-                ok = HostStyle::setFlag("FieldMap/Scatter/Show", true, &error, zone);
-            return ok;
+            return HostStyle::setText("GlobalScatter/Symbol", symbol.toStdString(), &error) && showSymbols(true, error);
         },
         text(QT_TRANSLATE_NOOP("DialogCatalog", "the scatter symbols are \"%1\"")).arg(symbol));
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <string>
 #include <QString>
 
 class ColorButtonDemoDialog;
@@ -50,6 +51,10 @@ public:
     static QString rgbOptions(RGBColorOptsDialog& d);
     static QString scatterSize(ScatterSizeFontDialog& d);
 
+    // Shows or hides the scatter symbols of every zone. Symbols shown where
+    // the points are coloured by a map or by RGB take that colouring. Meant
+    // for a step of HostStyle::inOneStep.
+    static bool showSymbols(bool on, std::string& error);
     // The zone the colour chooser colours: the one picked out, else the first.
     static int currentZone();
     // The character a scatter symbol shows for a typed one in the given type face.

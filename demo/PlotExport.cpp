@@ -26,9 +26,13 @@ QImage PlotExport::image(const PlotView& view, const QSize& size, double ratio)
 {
     QImage picture(size * ratio, QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio);
+    // Texts are laid out at the screen's resolution, as on screen; the file
+    // then says how many of its pixels make an inch.
+    picture.setDotsPerMeterX(int(ScreenDpi / 0.0254));
+    picture.setDotsPerMeterY(int(ScreenDpi / 0.0254));
+    view.render(picture);
     picture.setDotsPerMeterX(int(ScreenDpi * ratio / 0.0254));
     picture.setDotsPerMeterY(int(ScreenDpi * ratio / 0.0254));
-    view.render(picture);
     return picture;
 }
 

@@ -12,16 +12,18 @@
 
 namespace {
 
-const double Swatch = 12.0;   // side of a colour square
-const double Bar = 14.0;      // width of the colour bar
-const double MaxText = 160.0; // a name longer than this is shortened
+const double Swatch = 12.0; // side of a colour square
+const double Bar = 14.0;    // width of the colour bar
+// Between the labels of the colour bar, in line heights.
+const double BarGap = 1.2, BarSpacing = 3.0;
 
 } // namespace
 
-PlotKey::PlotKey(const PlotScene& scene, const QFont& font) : m_scene(scene), m_font(font)
+PlotKey::PlotKey(const PlotScene& scene, const QFont& font, double height) : m_scene(scene), m_font(font)
 {
     const QFontMetricsF metrics(font);
-    auto textWidth = [&](const QString& text) { return std::min(MaxText, metrics.horizontalAdvance(text)); };
+    const double em = metrics.height();
+    auto textWidth = [&](const QString& text) { return metrics.horizontalAdvance(text); };
     if (scene.anyRamp()) {
         m_categories = !scene.contourCategories.empty();
         m_colourBar = !m_categories;
@@ -29,9 +31,23 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font) : m_scene(scene), m_
         if (m_categories)
             for (const std::string& name : scene.contourCategories)
                 m_width = std::max(m_width, Swatch + 6 + textWidth(QString::fromStdString(name)));
-        else
-            m_width = std::max(m_width, Bar + 6 + metrics.horizontalAdvance("-0.000000"));
+        else {
+            AxisTicks::Options options;
+            options.integers = scene.contourIntegers;
+            options.spacing = BarSpacing * em;
+            m_barScale = AxisTicks::fit(
+                scene.contour.min, scene.contour.max, barIn(QRectF(0, 0, 0, height)).height(),
+                [em](const QString&) { return em; }, BarGap * em, options);
+            for (const AxisTicks::Tick& tick : m_barScale.ticks)
+                m_width = std::max(m_width, Bar + 5 + textWidth(tick.label));
+            m_width = std::max(m_width, textWidth(m_barScale.note));
+        }
     }
+    // The lines of several Y variables, each in its colour.
+    m_lines = scene.lines && scene.lineVars.size() > 1 && !scene.zones.empty();
+    if (m_lines)
+        for (const QString& name : scene.lineNames)
+            m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(name));
     // Zones are listed when they can be told apart: by colour, symbol or one picked out.
     m_zones = scene.anyScatter()
               || (scene.zones.size() > 1
@@ -58,9 +74,19 @@ void PlotKey::paint(QPainter& painter, const QRectF& column) const
         rest.setTop(paintColourBar(painter, rest));
     else if (m_categories)
         rest.setTop(paintCategories(painter, rest));
+    if (m_lines)
+        rest.setTop(paintLines(painter, rest));
     if (m_zones)
         paintZones(painter, rest);
     painter.restore();
+}
+
+QRectF PlotKey::barIn(const QRectF& column) const
+{
+    const double em = QFontMetricsF(m_font).height();
+    // Below the name, with half a line for the top label to reach over the bar's end.
+    const double height = std::max(4 * em, std::min(column.height() * 0.55, 260.0));
+    return QRectF(column.left(), column.top() + em * 1.6, Bar, height - em * 1.6);
 }
 
 // Returns where the next part of the key may start.
@@ -69,10 +95,9 @@ double PlotKey::paintColourBar(QPainter& painter, const QRectF& column) const
     const QFontMetricsF metrics(m_font);
     const double em = metrics.height();
     painter.setPen(Qt::black);
-    painter.drawText(QRectF(column.left(), column.top(), column.width(), em), Qt::AlignLeft,
-                     metrics.elidedText(m_scene.contourName, Qt::ElideRight, column.width()));
-    const double height = std::max(3 * em, std::min(column.height() * 0.55, 260.0));
-    const QRectF bar(column.left(), column.top() + em * 1.5, Bar, height - em * 1.5);
+    painter.drawText(QRectF(column.left(), column.top(), column.width(), em), Qt::AlignLeft | Qt::TextDontClip,
+                     m_scene.contourName);
+    const QRectF bar = barIn(column);
     QLinearGradient gradient(bar.bottomLeft(), bar.topLeft());
     for (int s = 0; s <= 10; ++s)
         gradient.setColorAt(s / 10.0, QColor(ColourRamp::at(m_scene.contour.map, s / 10.0)));
@@ -80,18 +105,19 @@ double PlotKey::paintColourBar(QPainter& painter, const QRectF& column) const
     painter.setPen(QColor(90, 90, 90));
     painter.drawRect(bar);
     const double min = m_scene.contour.min, max = m_scene.contour.max;
-    const AxisTicks::Scale scale = AxisTicks::fit(
-        min, max, bar.height(), [em](const QString&) { return em; }, em * 1.2);
     painter.setPen(Qt::black);
-    for (const AxisTicks::Tick& tick : scale.ticks) {
+    for (const AxisTicks::Tick& tick : m_barScale.ticks) {
         const double y = max > min ? bar.bottom() - (tick.value - min) / (max - min) * bar.height() : bar.center().y();
         painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 3, y));
-        painter.drawText(QRectF(bar.right() + 5, y - em / 2, column.width(), em), Qt::AlignLeft | Qt::AlignVCenter,
-                         tick.label);
+        painter.drawText(QRectF(bar.right() + 5, y - em / 2, column.width(), em),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, tick.label);
     }
-    if (!scale.note.isEmpty())
-        painter.drawText(QRectF(column.left(), bar.bottom() + 2, column.width(), em), Qt::AlignLeft, scale.note);
-    return bar.bottom() + em * (scale.note.isEmpty() ? 1.0 : 2.2);
+    // The power of ten or offset on a line of its own, below the lowest label's reach.
+    const double below = bar.bottom() + em / 2 + 2;
+    if (!m_barScale.note.isEmpty())
+        painter.drawText(QRectF(column.left(), below, column.width(), em), Qt::AlignLeft | Qt::TextDontClip,
+                         m_barScale.note);
+    return below + em * (m_barScale.note.isEmpty() ? 0.5 : 1.5);
 }
 
 double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
@@ -100,8 +126,8 @@ double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
     const double row = metrics.height() + 3;
     double y = column.top();
     painter.setPen(Qt::black);
-    painter.drawText(QRectF(column.left(), y, column.width(), row), Qt::AlignLeft,
-                     metrics.elidedText(m_scene.contourName, Qt::ElideRight, column.width()));
+    painter.drawText(QRectF(column.left(), y, column.width(), row), Qt::AlignLeft | Qt::TextDontClip,
+                     m_scene.contourName);
     const size_t count = m_scene.contourCategories.size();
     for (size_t k = 0; k < count; ++k) {
         y += row;
@@ -111,11 +137,28 @@ double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
         painter.fillRect(QRectF(column.left(), y + (row - Swatch) / 2, Swatch, Swatch),
                          QColor(ColourRamp::at(m_scene.contour.map, value)));
         painter.drawText(QRectF(column.left() + Swatch + 6, y, column.width() - Swatch - 6, row),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         metrics.elidedText(QString::fromStdString(m_scene.contourCategories[k]), Qt::ElideRight,
-                                            column.width() - Swatch - 6));
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                         QString::fromStdString(m_scene.contourCategories[k]));
     }
     return y + row * 1.8;
+}
+
+// Returns where the next part of the key may start.
+double PlotKey::paintLines(QPainter& painter, const QRectF& column) const
+{
+    const QFontMetricsF metrics(m_font);
+    const double row = metrics.height() + 3;
+    const PlotScene::Zone& first = m_scene.zones.front();
+    const QRgb zoneColour = PointColours(first.meshColour, first.zone, m_scene.contour).fixed();
+    double y = column.top();
+    for (int line = 0; line < m_scene.lineNames.size() && y + row <= column.bottom(); ++line, y += row) {
+        painter.setPen(QPen(QColor(PlotScene::lineColour(size_t(line), zoneColour)), 2));
+        painter.drawLine(QPointF(column.left(), y + row / 2), QPointF(column.left() + 2 * Swatch, y + row / 2));
+        painter.setPen(Qt::black);
+        painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, m_scene.lineNames[line]);
+    }
+    return y + row * 0.8;
 }
 
 void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
@@ -137,8 +180,7 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
             painter.fillRect(QRectF(centre.x() - Swatch / 2, centre.y() - Swatch / 2, Swatch, Swatch), colour);
         painter.setPen(zone.faded ? Qt::gray : Qt::black);
         painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         metrics.elidedText(zone.name, Qt::ElideRight, column.width() - 2 * Swatch - 6));
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, zone.name);
         y += row;
     }
     // Symbols sized by a variable: a small and a large one beside its name.
@@ -149,7 +191,7 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
     symbol.draw(painter, QPointF(column.left() + Swatch + 4, y + row / 2), Swatch * 0.8, Qt::gray);
     painter.setPen(Qt::black);
     painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
-                     Qt::AlignLeft | Qt::AlignVCenter, sizeText());
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, sizeText());
 }
 
 QString PlotKey::sizeText() const

@@ -5,11 +5,15 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QMenu>
+#include "demo/AxisTitlesDialog.h"
 #include "demo/HostText.h"
 #include "demo/ColourRamp.h"
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
+#include "demo/Mnemonics.h"
 #include "demo/PlotExport.h"
+#include "demo/PlotExportDialog.h"
+#include "demo/PlotScene.h"
 #include "demo/PlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 
@@ -22,8 +26,9 @@ const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLo
 PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view)
     : QObject(&window), m_window(window), m_plot(plot)
 {
-    QAction* exportAction = new QAction(tr("&Export Plot..."), this);
+    QAction* exportAction = new QAction(tr("E&xport Plot..."), this);
     exportAction->setObjectName("fileExportPlot");
+    exportAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
     connect(exportAction, &QAction::triggered, this, &PlotMenus::exportPlot);
     file.addAction(exportAction);
     QAction* copy = edit.addAction(tr("&Copy Plot"), this, &PlotMenus::copyPlot);
@@ -40,6 +45,11 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
         m_log[a]->setCheckable(true);
         m_log[a]->setObjectName(a == 0 ? "viewLogX" : "viewLogY");
     }
+    QAction* titles = view.addAction(tr("Axis &Titles..."), this, &PlotMenus::editAxisTitles);
+    titles->setObjectName("viewAxisTitles");
+    m_lines = view.addMenu(tr("Y Variables as &Lines"));
+    m_lines->setObjectName("viewLineVariables");
+    connect(m_lines, &QMenu::aboutToShow, this, [this] { fillLines(*m_lines); });
     QMenu* colourBy = view.addMenu(tr("&Color Points By"));
     colourBy->setObjectName("viewColorBy");
     connect(colourBy, &QMenu::aboutToShow, this, [this, colourBy] { fillColourBy(*colourBy); });
@@ -50,12 +60,13 @@ PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edi
     plot.setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* separator = new QAction(this);
     separator->setSeparator(true);
-    plot.addActions(
-        {reset, m_log[0], m_log[1], colourBy->menuAction(), colourMap->menuAction(), separator, exportAction, copy});
+    plot.addActions({reset, m_log[0], m_log[1], titles, m_lines->menuAction(), colourBy->menuAction(),
+                     colourMap->menuAction(), separator, exportAction, copy});
 }
 
 void PlotMenus::refresh()
 {
+    m_lines->setEnabled(OrrUtilFrameGetPlotType() == PlotType_XYLine);
     const bool twoD = OrrUtilFrameGetPlotType() != PlotType_ThreeD;
     for (int a = 0; a < 2; ++a) {
         m_log[a]->setChecked(HostStyle::flag(LogKeys[a]));
@@ -63,21 +74,71 @@ void PlotMenus::refresh()
     }
 }
 
+// Automatic names the variable it colours by; a check mark shows only what
+// the plot shows: none while no zone is coloured by a map.
 void PlotMenus::fillColourBy(QMenu& menu)
 {
     menu.clear();
-    const long chosen = HostStyle::integer("GlobalContour/Var");
+    const PlotScene scene = PlotScene::fromHost();
+    const long chosen = scene.anyRamp() ? HostStyle::integer("GlobalContour/Var") : -1;
     for (int var = 0; var <= OrrUtilDataSetGetNumVars(); ++var) {
         if (var > 0 && !OrrUtilVarIsEnabled(var))
             continue;
-        QAction* action = menu.addAction(var == 0 ? tr("&Automatic (the first varying variable off the axes)")
-                                                  : takeHostText(OrrUtilVarGetName(var)),
-                                         this, [this, var] { colourBy(var); });
+        const QString automatic = takeHostText(OrrUtilVarGetName(scene.automaticContourVar));
+        QAction* action =
+            menu.addAction(var == 0 ? (automatic.isEmpty() ? tr("&Automatic")
+                                                           : tr("&Automatic (%1)").arg(Mnemonics::escaped(automatic)))
+                                    : Mnemonics::escaped(takeHostText(OrrUtilVarGetName(var))),
+                           this, [this, var] { colourBy(var); });
         action->setCheckable(true);
         action->setChecked(var == chosen);
         if (var == 0)
             menu.addSeparator();
     }
+    Mnemonics::assign(menu);
+}
+
+// Every variable but X, those drawn as lines ticked.
+void PlotMenus::fillLines(QMenu& menu)
+{
+    menu.clear();
+    const PlotScene scene = PlotScene::fromHost();
+    for (int var = 1; var <= OrrUtilDataSetGetNumVars(); ++var) {
+        if (!OrrUtilVarIsEnabled(var) || var == scene.axes[0].var)
+            continue;
+        QAction* action = menu.addAction(Mnemonics::escaped(takeHostText(OrrUtilVarGetName(var))), this,
+                                         [this, var](bool on) { showLine(var, on); });
+        action->setCheckable(true);
+        action->setChecked(std::find(scene.lineVars.begin(), scene.lineVars.end(), var) != scene.lineVars.end());
+    }
+    Mnemonics::assign(menu);
+}
+
+// The first line's variable is the Y axis's; the others are listed after it. At least one stays.
+void PlotMenus::showLine(int var, bool on)
+{
+    std::vector<int> vars = PlotScene::fromHost().lineVars;
+    vars.erase(std::remove(vars.begin(), vars.end(), var), vars.end());
+    if (on)
+        vars.push_back(var);
+    if (vars.empty()) {
+        m_window.complain(tr("An XY line plot draws at least one Y variable."));
+        return;
+    }
+    QStringList more;
+    for (size_t k = 1; k < vars.size(); ++k)
+        more << QString::number(vars[k]);
+    std::string error;
+    const bool ok = HostStyle::inOneStep(
+        "Y Variables",
+        [&](std::string& refusal) {
+            return (HostStyle::integer("TwoDAxis/YDetail/VarNum") == vars.front()
+                    || HostStyle::setInteger("TwoDAxis/YDetail/VarNum", vars.front(), &refusal))
+                   && HostStyle::setText("TwoDAxis/YDetail/MoreVarNums", more.join(' ').toStdString(), &refusal);
+        },
+        &error);
+    if (!ok)
+        m_window.complain(QString::fromStdString(error));
 }
 
 void PlotMenus::fillColourMap(QMenu& menu)
@@ -93,6 +154,7 @@ void PlotMenus::fillColourMap(QMenu& menu)
         action->setCheckable(true);
         action->setChecked(map == chosen);
     }
+    Mnemonics::assign(menu);
 }
 
 // Colouring by a variable shows only on zones coloured by a map: zones in one
@@ -114,6 +176,33 @@ void PlotMenus::colourBy(int var)
         m_window.complain(QString::fromStdString(error));
 }
 
+// All titles in one undoable step.
+void PlotMenus::editAxisTitles()
+{
+    AxisTitlesDialog dialog(&m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const std::vector<std::string> titles = dialog.titles();
+    bool changed = false;
+    for (size_t a = 0; a < titles.size(); ++a)
+        changed = changed || HostStyle::text(dialog.paths()[a]) != titles[a];
+    if (!changed)
+        return;
+    std::string error;
+    const bool ok = HostStyle::inOneStep(
+        "Axis Titles",
+        [&](std::string& refusal) {
+            for (size_t a = 0; a < titles.size(); ++a)
+                if (HostStyle::text(dialog.paths()[a]) != titles[a]
+                    && !HostStyle::setText(dialog.paths()[a], titles[a], &refusal))
+                    return false;
+            return true;
+        },
+        &error);
+    if (!ok)
+        m_window.complain(QString::fromStdString(error));
+}
+
 void PlotMenus::setLog(int axis, bool on)
 {
     std::string error;
@@ -124,11 +213,14 @@ void PlotMenus::setLog(int axis, bool on)
 
 void PlotMenus::exportPlot()
 {
+    PlotExportDialog size(m_plot.size(), &m_window);
+    if (size.exec() != QDialog::Accepted)
+        return;
     const QString path = QFileDialog::getSaveFileName(&m_window, tr("Export Plot"), "plot.png", PlotExport::filter());
     if (path.isEmpty())
         return;
     QString error;
-    if (PlotExport::write(m_plot, path, m_plot.size(), m_plot.devicePixelRatioF(), &error))
+    if (PlotExport::write(m_plot, path, size.plotSize(), size.ratio(), &error))
         m_window.report(tr("Exported the plot to %1").arg(path));
     else
         m_window.complain(error);

@@ -7,8 +7,9 @@ class QAction;
 class QMenu;
 
 // The plot's own entries, in the View menu and the plot's context menu:
-// logarithmic axes, the variable and colour map that colour the points,
-// showing everything again; and exporting and copying the picture.
+// logarithmic axes, axis titles, the Y variables of an XY line plot, the
+// variable and colour map that colour the points, showing everything again;
+// and exporting and copying the picture.
 class PlotMenus : public QObject
 {
     Q_OBJECT
@@ -19,8 +20,12 @@ public:
     void refresh();
     void exportPlot();
     void copyPlot();
+    // View > Axis Titles: asks for the titles and writes them as one step.
+    void editAxisTitles();
 
 private:
+    void fillLines(QMenu& menu);
+    void showLine(int var, bool on);
     void fillColourBy(QMenu& menu);
     void fillColourMap(QMenu& menu);
     void colourBy(int var);
@@ -29,4 +34,5 @@ private:
     MainWindow& m_window;
     PlotView& m_plot;
     QAction* m_log[2];
+    QMenu* m_lines;
 };

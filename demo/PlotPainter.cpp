@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <numeric>
 #include <QCoreApplication>
 #include <QFontMetricsF>
@@ -23,6 +24,10 @@ const double LongestArrowPx = 32.0; // vectors are scaled so that the longest is
 const double CmInPixels = 96.0 / 2.54;
 // Space between neighbouring tick labels, in line heights: enough for the eye to tell them apart.
 const double XGap = 2.0, YGap = 2.2;
+// The distance between ticks a reader likes, in line heights.
+const double XSpacing = 7.0, YSpacing = 5.0;
+// Between the axes' box and its tick labels, in pixels.
+const double TickRoom = 6.0;
 
 QString tr(const char* text)
 {
@@ -79,18 +84,38 @@ void padded(const PlotScene::Axis& axis, double& min, double& max)
     }
 }
 
-AxisTicks::Scale scaleFor(const PlotScene::Axis& axis, const PlotGeometry& geometry, int a, double length,
-                          const AxisTicks::Extent& extent, double gap,
-                          const std::function<QString(const QString&, double)>& elide)
+// The ticks of one axis of a 2D frame, with the room its labels take as they will be drawn.
+AxisTicks::Scale scaleFor(const PlotScene::Axis& axis, const PlotGeometry& geometry, int a,
+                          const QFontMetricsF& metrics)
 {
+    const double em = metrics.height();
     const double min = geometry.shown.min[a], max = geometry.shown.max[a];
+    const double length = a == 0 ? geometry.plot.width() : geometry.plot.height();
+    // Along X a label takes its width, along Y its height.
+    const AxisTicks::Extent extent =
+        a == 0 ? AxisTicks::Extent([&](const QString& t) { return metrics.horizontalAdvance(t); })
+               : AxisTicks::Extent([em](const QString&) { return em; });
+    const double gap = (a == 0 ? XGap : YGap) * em;
     if (!axis.categories.empty()) {
         const AxisTicks::Position position = [&](double v) {
             return std::abs(geometry.toPixel(a, v) - geometry.toPixel(a, min));
         };
-        return AxisTicks::categories(min, max, axis.categories, position, extent, gap, elide);
+        return AxisTicks::categories(min, max, axis.categories, position, extent, gap);
     }
-    return axis.log ? AxisTicks::fitLog(min, max, length, extent, gap) : AxisTicks::fit(min, max, length, extent, gap);
+    if (axis.log)
+        return AxisTicks::fitLog(min, max, length, extent, gap);
+    AxisTicks::Options options;
+    options.integers = axis.integers;
+    options.spacing = (a == 0 ? XSpacing : YSpacing) * em;
+    return AxisTicks::fit(min, max, length, extent, gap, options);
+}
+
+double widest(const AxisTicks::Scale& scale, const QFontMetricsF& metrics)
+{
+    double width = 0.0;
+    for (const AxisTicks::Tick& tick : scale.ticks)
+        width = std::max(width, metrics.horizontalAdvance(tick.label));
+    return width;
 }
 
 } // namespace
@@ -160,18 +185,18 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     const QFontMetricsF metrics(painter.font());
     const double em = metrics.height();
     const double titleHeight = QFontMetricsF(titleFont(painter.font())).height() * 1.5;
-    const PlotKey key(scene, painter.font());
     const double top = scene.anchor <= AnchorAlignment_TopRight ? titleHeight : em;
     const double bottom = (scene.threeD ? em : 2.4 * em + 10)
                           + (scene.anchor >= AnchorAlignment_BottomLeft ? titleHeight : 0.0)
                           + (scene.notes.isEmpty() ? 0.0 : em * scene.notes.size());
-    double right = key.width() + em;
 
     Projection p;
     PlotGeometry geometry;
     QRectF plot;
+    std::unique_ptr<PlotKey> key;
     if (scene.threeD) {
-        plot = area.adjusted(3 * em, top, -right - 2 * em, -bottom - em);
+        key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
+        plot = area.adjusted(3 * em, top, -key->width() - 3 * em, -bottom - em);
         p.threeD = true;
         p.centre[0] = plot.center().x();
         p.centre[1] = plot.center().y();
@@ -202,57 +227,50 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
             } else
                 padded(scene.axes[a], geometry.shown.min[a], geometry.shown.max[a]);
         }
-        // The widest Y label decides the left margin; the last X label may reach into the right one.
+        // Y first: its labels' widths decide the left margin, its note a row above the axes.
         geometry.plot = area.adjusted(0, top, 0, -bottom);
-        const AxisTicks::Scale yScale = scaleFor(
-            scene.axes[1], geometry, 1, geometry.plot.height(), [em](const QString&) { return em; }, YGap * em,
-            [](const QString&, double) { return QString(); });
-        double labels = 0.0;
-        for (const AxisTicks::Tick& tick : yScale.ticks)
-            labels = std::max(labels, metrics.horizontalAdvance(tick.label));
-        labels = std::min(labels, area.width() * 0.3);
-        geometry.plot.setLeft(area.left() + labels + 1.6 * em + 10);
-        geometry.plot.setRight(area.right() - right);
-        const AxisTicks::Scale xEstimate = scaleFor(
-            scene.axes[0], geometry, 0, geometry.plot.width(),
-            [&](const QString& t) { return metrics.horizontalAdvance(t); }, XGap * em,
-            [](const QString&, double) { return QString(); });
-        if (!xEstimate.ticks.empty()) {
-            const double overhang = geometry.toPixel(0, xEstimate.ticks.back().value)
-                                    + metrics.horizontalAdvance(xEstimate.ticks.back().label) / 2 + 4
-                                    - (area.right() - key.width());
-            if (overhang > 0 && key.width() > 0)
-                geometry.plot.setRight(geometry.plot.right() - overhang);
-            else if (overhang > 0)
-                geometry.plot.setRight(std::min(geometry.plot.right(), area.right() - overhang + em));
+        AxisTicks::Scale y = scaleFor(scene.axes[1], geometry, 1, metrics);
+        if (!y.note.isEmpty()) {
+            geometry.plot.setTop(area.top() + top + 1.5 * em + 4);
+            y = scaleFor(scene.axes[1], geometry, 1, metrics);
+        }
+        key = std::make_unique<PlotKey>(scene, painter.font(), area.bottom() - geometry.plot.top() - em);
+        geometry.plot.setLeft(area.left() + widest(y, metrics) + TickRoom + 1.6 * em + 4);
+        geometry.plot.setRight(area.right() - key->width() - em);
+        // The last X label may reach past the axes, not past the figure or into the key.
+        const double limit = area.right() - (key->width() > 0 ? key->width() : 2.0);
+        AxisTicks::Scale x = scaleFor(scene.axes[0], geometry, 0, metrics);
+        for (int round = 0; round < 3 && !x.ticks.empty(); ++round) {
+            const double reach =
+                geometry.toPixel(0, x.ticks.back().value) + metrics.horizontalAdvance(x.ticks.back().label) / 2;
+            if (reach <= limit)
+                break;
+            geometry.plot.setRight(geometry.plot.right() - (reach - limit));
+            x = scaleFor(scene.axes[0], geometry, 0, metrics);
         }
         geometry.navigable = true;
         plot = geometry.plot;
         p.set2D(geometry);
-        paintAxes2D(painter, plot, scene, geometry);
+        paintAxes2D(painter, scene, geometry, x, y);
     }
     paintLayers(painter, scene.threeD ? area : plot, p, scene);
-    key.paint(painter, QRectF(area.right() - key.width(), plot.top(), key.width(), area.bottom() - plot.top() - em));
+    key->paint(painter, QRectF(area.right() - key->width(), plot.top(), key->width(), area.bottom() - plot.top() - em));
     paintTitle(painter, area, plot, scene);
     painter.setPen(Qt::darkGray);
     for (int n = 0; n < scene.notes.size(); ++n)
         painter.drawText(QRectF(area.left() + 4, area.bottom() - em * (scene.notes.size() - n), area.width() - 8, em),
-                         Qt::AlignLeft, scene.notes[n]);
+                         Qt::AlignLeft | Qt::TextDontClip, scene.notes[n]);
     return geometry;
 }
 
-void PlotPainter::paintAxes2D(QPainter& painter, const QRectF& plot, const PlotScene& scene,
-                              const PlotGeometry& geometry) const
+void PlotPainter::paintAxes2D(QPainter& painter, const PlotScene& scene, const PlotGeometry& geometry,
+                              const AxisTicks::Scale& x, const AxisTicks::Scale& y) const
 {
     const QFontMetricsF metrics(painter.font());
     const double em = metrics.height();
+    const QRectF& plot = geometry.plot;
     const auto width = [&](const QString& t) { return metrics.horizontalAdvance(t); };
-    const auto elide = [&](const QString& t, double room) { return metrics.elidedText(t, Qt::ElideRight, room); };
-    const AxisTicks::Scale x = scaleFor(scene.axes[0], geometry, 0, plot.width(), width, XGap * em, elide);
-    const AxisTicks::Scale y = scaleFor(
-        scene.axes[1], geometry, 1, plot.height(), [em](const QString&) { return em; }, YGap * em,
-        [](const QString&, double) { return QString(); });
-    const double yLabelRoom = plot.left() - 1.6 * em - 10;
+    const double yLabels = widest(y, metrics);
 
     painter.save();
     painter.setPen(QPen(QColor(232, 232, 232), 1));
@@ -265,31 +283,42 @@ void PlotPainter::paintAxes2D(QPainter& painter, const QRectF& plot, const PlotS
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(plot);
+    for (double value : x.minor)
+        painter.drawLine(QPointF(geometry.toPixel(0, value), plot.bottom()),
+                         QPointF(geometry.toPixel(0, value), plot.bottom() + 2));
+    for (double value : y.minor)
+        painter.drawLine(QPointF(plot.left() - 2, geometry.toPixel(1, value)),
+                         QPointF(plot.left(), geometry.toPixel(1, value)));
+    const int flags = Qt::AlignCenter | Qt::TextDontClip;
     for (const AxisTicks::Tick& tick : x.ticks) {
         const double px = geometry.toPixel(0, tick.value);
         painter.drawLine(QPointF(px, plot.bottom()), QPointF(px, plot.bottom() + 4));
         const double w = width(tick.label);
-        painter.drawText(QRectF(px - w / 2 - 1, plot.bottom() + 5, w + 2, em), Qt::AlignCenter, tick.label);
+        painter.drawText(QRectF(px - w / 2 - 1, plot.bottom() + 5, w + 2, em), flags, tick.label);
     }
     for (const AxisTicks::Tick& tick : y.ticks) {
         const double py = geometry.toPixel(1, tick.value);
         painter.drawLine(QPointF(plot.left() - 4, py), QPointF(plot.left(), py));
-        painter.drawText(QRectF(plot.left() - 6 - yLabelRoom, py - em / 2, yLabelRoom, em),
-                         Qt::AlignRight | Qt::AlignVCenter, elide(tick.label, yLabelRoom));
+        painter.drawText(QRectF(plot.left() - TickRoom - yLabels, py - em / 2, yLabels, em),
+                         Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip, tick.label);
     }
     // Offsets and powers of ten once, at the axis ends; the titles take the room left.
     const double titleRow = plot.bottom() + 10 + em;
     const double xNote = x.note.isEmpty() ? 0.0 : width(x.note) + em;
-    painter.drawText(QRectF(plot.right() - xNote, titleRow, xNote, em), Qt::AlignRight, x.note);
+    painter.drawText(QRectF(plot.right() - xNote, titleRow, xNote, em), Qt::AlignRight | Qt::TextDontClip, x.note);
     if (!y.note.isEmpty())
-        painter.drawText(QRectF(plot.left() - yLabelRoom, plot.top() - em - 2, yLabelRoom + plot.width() / 2, em),
-                         Qt::AlignLeft | Qt::AlignBottom, y.note);
-    painter.drawText(QRectF(plot.left() + xNote, titleRow, plot.width() - 2 * xNote, em), Qt::AlignHCenter,
-                     elide(scene.axes[0].name, plot.width() - 2 * xNote));
-    painter.translate(plot.left() - yLabelRoom - 10, plot.center().y());
+        // Above the reach of a label at the axis's top.
+        painter.drawText(QRectF(plot.left() - TickRoom - yLabels, plot.top() - 1.5 * em - 2, width(y.note) + 2, em),
+                         Qt::AlignLeft | Qt::AlignBottom | Qt::TextDontClip, y.note);
+    // A title wider than its room moves left of the note rather than under it.
+    const double xTitle = width(scene.axes[0].title);
+    const double xTitleLeft =
+        std::min(plot.center().x() - xTitle / 2, plot.right() - xNote - xTitle - (xNote > 0 ? em : 0.0));
+    painter.drawText(QRectF(xTitleLeft, titleRow, xTitle, em), Qt::AlignLeft | Qt::TextDontClip, scene.axes[0].title);
+    painter.translate(plot.left() - TickRoom - yLabels - 4, plot.center().y());
     painter.rotate(-90);
-    painter.drawText(QRectF(-plot.height() / 2, -em, plot.height(), em), Qt::AlignHCenter | Qt::AlignBottom,
-                     elide(scene.axes[1].name, plot.height()));
+    painter.drawText(QRectF(-plot.height() / 2, -em, plot.height(), em),
+                     Qt::AlignHCenter | Qt::AlignBottom | Qt::TextDontClip, scene.axes[1].title);
     painter.restore();
 }
 
@@ -344,14 +373,15 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
             const double w = metrics.horizontalAdvance(tick.label);
             widest = std::max(widest, w);
             const QPointF centre = at + out * offset(w);
-            painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter,
-                             tick.label);
+            painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em),
+                             Qt::AlignCenter | Qt::TextDontClip, tick.label);
         }
         // The name beside the middle of the edge, beyond its tick labels.
-        const QString name = scale.note.isEmpty() ? scene.axes[a].name : scene.axes[a].name + " " + scale.note;
+        const QString name = scale.note.isEmpty() ? scene.axes[a].title : scene.axes[a].title + " " + scale.note;
         const double w = metrics.horizontalAdvance(name);
         const QPointF centre = (from + to) / 2 + out * (2 * offset(widest) - 6 + offset(w) - offset(0) + 4);
-        painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em), Qt::AlignCenter, name);
+        painter.drawText(QRectF(centre.x() - w / 2 - 1, centre.y() - em / 2, w + 2, em),
+                         Qt::AlignCenter | Qt::TextDontClip, name);
     }
     painter.restore();
 }
@@ -394,28 +424,10 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                     order.push_back(i);
             });
             std::stable_sort(order.begin(), order.end(), [&](long a, long b) { return v[0][a] < v[0][b]; });
-            QPainterPath path;
-            bool open = false;
-            QPointF q;
-            for (long i : order) {
-                if (!at(i, q)) {
-                    open = false;
-                    continue;
-                }
-                open ? path.lineTo(q) : path.moveTo(q);
-                open = true;
-            }
-            painter.setPen(
-                QPen(QColor(faded(mesh.fixed(), zone.faded)), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            painter.setBrush(Qt::NoBrush);
-            painter.drawPath(path);
-            // A lone point between gaps is still a value: a dot marks it.
-            painter.setPen(QPen(QColor(faded(mesh.fixed(), zone.faded)), 4, Qt::SolidLine, Qt::RoundCap));
-            for (size_t k = 0; k < order.size(); ++k) {
-                const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
-                if (!before && !after && at(order[k], q))
-                    painter.drawPoint(q);
-            }
+            for (size_t line = 0; line < zone.lineValues.size(); ++line)
+                if (const double* y = zone.lineValues[line])
+                    paintLine(painter, p, order, v[0], y,
+                              QColor(faded(PlotScene::lineColour(line, mesh.fixed()), zone.faded)));
             continue;
         }
 
@@ -536,6 +548,39 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
     painter.restore();
 }
 
+void PlotPainter::paintLine(QPainter& painter, const Projection& p, const std::vector<long>& order, const double* x,
+                            const double* y, const QColor& colour) const
+{
+    auto at = [&](long i, QPointF& out) {
+        if (!PlotScene::drawable(x[i]) || !PlotScene::drawable(y[i]) || (p.log[0] && x[i] <= 0)
+            || (p.log[1] && y[i] <= 0))
+            return false;
+        out = p.map(x[i], y[i]);
+        return true;
+    };
+    QPainterPath path;
+    bool open = false;
+    QPointF q;
+    for (long i : order) {
+        if (!at(i, q)) {
+            open = false;
+            continue;
+        }
+        open ? path.lineTo(q) : path.moveTo(q);
+        open = true;
+    }
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(path);
+    // A lone point between gaps is still a value: a dot marks it.
+    painter.setPen(QPen(colour, 4, Qt::SolidLine, Qt::RoundCap));
+    for (size_t k = 0; k < order.size(); ++k) {
+        const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
+        if (!before && !after && at(order[k], q))
+            painter.drawPoint(q);
+    }
+}
+
 void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const
 {
     if (scene.title.isEmpty())
@@ -560,6 +605,6 @@ void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF
         painter.fillRect(QRectF(left, y, w, height), QColor(255, 255, 255, 210));
     }
     painter.setPen(Qt::black);
-    painter.drawText(band.adjusted(4, 0, -4, 0), horizontal | Qt::AlignVCenter, text);
+    painter.drawText(band.adjusted(4, 0, -4, 0), horizontal | Qt::AlignVCenter | Qt::TextDontClip, text);
     painter.restore();
 }

@@ -1,9 +1,12 @@
 #pragma once
+#include <vector>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
+#include "demo/AxisTicks.h"
 #include "demo/PlotGeometry.h"
 
+class QColor;
 class QPainter;
 struct PlotScene;
 
@@ -28,9 +31,13 @@ private:
     struct Projection;
 
     PlotGeometry paintField(QPainter& painter, const QRectF& area, const PlotScene& scene) const;
-    void paintAxes2D(QPainter& painter, const QRectF& plot, const PlotScene& scene, const PlotGeometry& geometry) const;
+    void paintAxes2D(QPainter& painter, const PlotScene& scene, const PlotGeometry& geometry, const AxisTicks::Scale& x,
+                     const AxisTicks::Scale& y) const;
     void paintBox3D(QPainter& painter, const Projection& projection, const PlotScene& scene) const;
     void paintLayers(QPainter& painter, const QRectF& plot, const Projection& projection, const PlotScene& scene) const;
+    // One Y variable of an XY line plot against X, points in the given order.
+    void paintLine(QPainter& painter, const Projection& projection, const std::vector<long>& order, const double* x,
+                   const double* y, const QColor& colour) const;
     void paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const;
     void paintMessage(QPainter& painter, const QRectF& area, const QString& text) const;
 

@@ -37,6 +37,7 @@ public:
     {
         double min, max;
         bool any;
+        bool whole;   // every value a whole number
         long leftOut; // finite values too large or too small to draw
     };
 
@@ -53,7 +54,7 @@ public:
         const auto found = m_ranges.find(key);
         if (found != m_ranges.end())
             return found->second;
-        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false, 0};
+        Range range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), false, true, 0};
         if (const double* values = OrrUtilVarGetValuesInZone(zone, var))
             scene.forEachIndex(OrrUtilZoneGetNumPoints(zone), [&](long i) {
                 const double v = values[i];
@@ -62,6 +63,7 @@ public:
                 else if (!positiveOnly || v > 0.0) {
                     range.min = std::min(range.min, v);
                     range.max = std::max(range.max, v);
+                    range.whole = range.whole && v == std::floor(v);
                 }
             });
         range.any = range.min <= range.max;
@@ -83,12 +85,15 @@ private:
     std::map<Key, Range> m_ranges;
 };
 
-// The drawable values of var in the drawn points, smallest and largest; false when there are none.
-// leftOut, when given, counts the finite values that cannot be drawn.
-bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max, long* leftOut = nullptr)
+// The drawable values of var in the drawn points, smallest and largest, and
+// whether all are whole numbers; false when there are none. leftOut, when
+// given, counts the finite values that cannot be drawn.
+bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, double& max, bool* whole = nullptr,
+             long* leftOut = nullptr)
 {
     min = std::numeric_limits<double>::infinity();
     max = -min;
+    bool allWhole = true;
     for (const PlotScene::Zone& zone : scene.zones) {
         const RangeCache::Range range = RangeCache::instance().of(scene, zone.zone, var, positiveOnly);
         if (leftOut)
@@ -96,13 +101,51 @@ bool rangeOf(const PlotScene& scene, int var, bool positiveOnly, double& min, do
         if (range.any) {
             min = std::min(min, range.min);
             max = std::max(max, range.max);
+            allWhole = allWhole && range.whole;
         }
     }
+    if (whole)
+        *whole = allWhole;
     return min <= max;
 }
 
+// The same over several variables together.
+bool rangeOfAll(const PlotScene& scene, const std::vector<int>& vars, bool positiveOnly, double& min, double& max,
+                bool* whole, long* leftOut = nullptr)
+{
+    min = std::numeric_limits<double>::infinity();
+    max = -min;
+    bool allWhole = true;
+    for (int var : vars) {
+        double low = 0, high = 0;
+        bool wholeVar = true;
+        if (rangeOf(scene, var, positiveOnly, low, high, &wholeVar, leftOut)) {
+            min = std::min(min, low);
+            max = std::max(max, high);
+            allWhole = allWhole && wholeVar;
+        }
+    }
+    *whole = allWhole;
+    return min <= max;
+}
+
+// The Y variables of an XY line plot: the axis's, then the further ones the
+// style lists that name an enabled variable, each once.
+std::vector<int> lineVarsOf(int first)
+{
+    std::vector<int> vars{first};
+    for (const QString& word :
+         QString::fromStdString(HostStyle::text("TwoDAxis/YDetail/MoreVarNums")).split(' ', Qt::SkipEmptyParts)) {
+        const int var = word.toInt();
+        if (var >= 1 && var <= OrrUtilDataSetGetNumVars() && OrrUtilVarIsEnabled(var)
+            && std::find(vars.begin(), vars.end(), var) == vars.end())
+            vars.push_back(var);
+    }
+    return vars;
+}
+
 // The variable colour maps follow when none is chosen: the first one not on an axis whose values vary.
-int automaticContourVar(const PlotScene& scene)
+int firstVaryingVar(const PlotScene& scene)
 {
     int fallback = 0;
     for (int v = 1; v <= OrrUtilDataSetGetNumVars(); ++v) {
@@ -128,6 +171,22 @@ bool PlotScene::drawable(double v)
 bool PlotScene::anyScatter() const
 {
     return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });
+}
+
+QRgb PlotScene::lineColour(size_t line, QRgb zoneColour)
+{
+    if (line == 0)
+        return zoneColour;
+    // Red, blue, green, purple, cyan: apart from each other and from white; not the zone's own.
+    static const int palette[] = {1, 3, 2, 6, 4};
+    std::vector<QRgb> colours;
+    for (int index : palette) {
+        unsigned char r = 0, g = 0, b = 0;
+        OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
+        if (qRgb(r, g, b) != zoneColour)
+            colours.push_back(qRgb(r, g, b));
+    }
+    return colours[(line - 1) % colours.size()];
 }
 
 bool PlotScene::anyRamp() const
@@ -172,6 +231,10 @@ PlotScene PlotScene::fromHost()
         z.faded = active > 0 && active != zone;
         scene.zones.push_back(z);
     }
+    // A data set of one zone is named by its title (the file's), not by the zone's kind.
+    const QString dataTitle = takeHostText(OrrUtilDataSetGetTitle());
+    if (OrrUtilDataSetGetNumZones() == 1 && scene.zones.size() == 1 && !dataTitle.isEmpty())
+        scene.zones.front().name = dataTitle;
     for (const Zone& z : scene.zones) {
         if (z.scatter && scene.countIn(z.points) > MostSymbols) {
             scene.notes << tr("Symbols are drawn for the first %1 points of a zone.").arg(MostSymbols);
@@ -189,23 +252,41 @@ PlotScene PlotScene::fromHost()
             scene.problem = tr("Choose the axis variables (Dialogs > Axis Variables).");
             return scene;
         }
+        axis.title = QString::fromStdString(HostStyle::text(root + names[a] + "/Title"));
+        if (axis.title.isEmpty())
+            axis.title = axis.name;
         axis.categories = namedCategories(axis.var);
         axis.log = !scene.threeD && HostStyle::flag(root + names[a] + "/IsLog");
     }
-    for (Zone& z : scene.zones)
+    if (scene.lines) {
+        scene.lineVars = lineVarsOf(scene.axes[1].var);
+        for (int var : scene.lineVars)
+            scene.lineNames << takeHostText(OrrUtilVarGetName(var));
+        if (scene.lineVars.size() > 1) {
+            // Several lines share the axis: their names are its title, its values numbers.
+            scene.axes[1].categories.clear();
+            if (HostStyle::text("TwoDAxis/YDetail/Title").empty())
+                scene.axes[1].title = scene.lineNames.join(", ");
+        }
+    }
+    for (Zone& z : scene.zones) {
         for (int a = 0; a < scene.dims; ++a)
             z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
+        for (int var : scene.lineVars)
+            z.lineValues.push_back(OrrUtilVarGetValuesInZone(z.zone, var));
+    }
     for (int a = 0; a < scene.dims; ++a) {
         Axis& axis = scene.axes[a];
+        const std::vector<int> vars = a == 1 && scene.lines ? scene.lineVars : std::vector<int>{axis.var};
         long leftOut = 0;
-        const bool any = rangeOf(scene, axis.var, axis.log, axis.min, axis.max, &leftOut);
+        const bool any = rangeOfAll(scene, vars, axis.log, axis.min, axis.max, &axis.integers, &leftOut);
         if (leftOut > 0)
             scene.notes << tr("%1: %2 value(s) beyond \u00b11e300 or closer to 0 than 2.2e-308 cannot be drawn and are "
                               "left out.")
                                .arg(axis.name)
                                .arg(leftOut);
         if (!any) {
-            if (axis.log && rangeOf(scene, axis.var, false, axis.min, axis.max)) {
+            if (axis.log && rangeOfAll(scene, vars, false, axis.min, axis.max, &axis.integers)) {
                 scene.notes << tr("%1 has no positive values: its axis is linear.").arg(axis.name);
                 axis.log = false;
             } else {
@@ -220,11 +301,12 @@ PlotScene PlotScene::fromHost()
     }
 
     const int chosen = int(HostStyle::integer("GlobalContour/Var"));
-    scene.contour.var = chosen ? chosen : automaticContourVar(scene);
+    scene.automaticContourVar = firstVaryingVar(scene);
+    scene.contour.var = chosen ? chosen : scene.automaticContourVar;
     scene.contour.map = int(HostStyle::integer("GlobalContour/ColorMap"));
     scene.contourName = takeHostText(OrrUtilVarGetName(scene.contour.var));
     scene.contourCategories = namedCategories(scene.contour.var);
-    if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max))
+    if (!rangeOf(scene, scene.contour.var, false, scene.contour.min, scene.contour.max, &scene.contourIntegers))
         scene.contour.min = scene.contour.max = 0.0;
 
     scene.vectors = !scene.lines && HostStyle::flag("FieldLayers/ShowVector");

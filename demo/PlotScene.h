@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 #include <QString>
+#include <QColor>
 #include <QStringList>
 #include "demo/PointColours.h"
 
@@ -14,10 +15,12 @@ struct PlotScene
     struct Axis
     {
         int var = 0;
-        QString name;
+        QString name;  // of the variable
+        QString title; // shown beside the axis: the style's, else the name
         double min = 0.0;
         double max = 1.0;
         bool log = false;
+        bool integers = false;               // every value drawn is a whole number
         std::vector<std::string> categories; // named values 1, 2, ... when few
     };
     struct Zone
@@ -26,6 +29,7 @@ struct PlotScene
         QString name;
         long points = 0;
         const double* values[3] = {nullptr, nullptr, nullptr};
+        std::vector<const double*> lineValues; // of each of lineVars
         int meshColour = 0;
         int scatterColour = 0;
         bool mesh = false;
@@ -35,13 +39,18 @@ struct PlotScene
 
     bool threeD = false;
     bool lines = false;
+    // The Y variables an XY line plot draws, each a line: the Y axis's first.
+    std::vector<int> lineVars;
+    QStringList lineNames;
     int dims = 2;
     Axis axes[3];
     QString title;
     int anchor = 1;
     long begin = 1, end = 0, skip = 1;
     PointColours::Contour contour;
+    int automaticContourVar = 0; // what colours the points when no variable is chosen
     QString contourName;
+    bool contourIntegers = false;
     std::vector<std::string> contourCategories;
     bool vectors = false;
     int vectorVars[3] = {0, 0, 0};
@@ -82,5 +91,7 @@ struct PlotScene
             visit(i);
     }
     bool anyScatter() const;
+    // The colour of a zone's line of the line-th Y variable: the zone's own for the first.
+    static QRgb lineColour(size_t line, QRgb zoneColour);
     bool anyRamp() const;
 };

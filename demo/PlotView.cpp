@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRubberBand>
@@ -30,6 +31,14 @@ bool drawable(double min, double max)
     const double span = max - min;
     return std::isfinite(min) && std::isfinite(max) && std::isfinite(span) && span > 1e-290
            && span > 1e-12 * std::max(std::abs(min), std::abs(max)) && span < 1e300;
+}
+
+// A value under the mouse: six digits, written as the tick labels are.
+QString readout(double value)
+{
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale.toString(value, 'g', 6).replace(QString(locale.negativeSign()), QString(QChar(0x2212)));
 }
 
 QPointF position(const QMouseEvent* event)
@@ -163,10 +172,8 @@ void PlotView::mouseMoveEvent(QMouseEvent* event)
     const QPointF at = position(event);
     if (m_geometry.navigable && m_geometry.plot.contains(at))
         Q_EMIT pointerMoved(QString("%1 = %2, %3 = %4")
-                                .arg(m_geometry.names[0])
-                                .arg(m_geometry.toValue(0, at.x()), 0, 'g', 6)
-                                .arg(m_geometry.names[1])
-                                .arg(m_geometry.toValue(1, at.y()), 0, 'g', 6));
+                                .arg(m_geometry.names[0], readout(m_geometry.toValue(0, at.x())), m_geometry.names[1],
+                                     readout(m_geometry.toValue(1, at.y()))));
     else
         Q_EMIT pointerMoved(QString());
     if (!(event->buttons() & Qt::LeftButton))

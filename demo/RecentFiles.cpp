@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include "demo/Mnemonics.h"
 #include "platform/settings/ApplicationSettings.h"
 
 namespace {
@@ -31,11 +32,13 @@ void RecentFiles::attach(QMenu& menu, const std::function<void(const QString&)>&
     QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu, open] {
         menu.clear();
         for (const QString& path : paths()) {
-            QAction* action = menu.addAction(QFileInfo(path).fileName(), &menu, [open, path] { open(path); });
+            QAction* action =
+                menu.addAction(Mnemonics::escaped(QFileInfo(path).fileName()), &menu, [open, path] { open(path); });
             action->setToolTip(QDir::toNativeSeparators(path));
             action->setEnabled(QFileInfo::exists(path));
         }
         if (menu.isEmpty())
             menu.addAction(tr("(none)"))->setEnabled(false);
+        Mnemonics::assign(menu);
     });
 }

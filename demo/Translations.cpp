@@ -41,6 +41,9 @@ QStringList Translations::install(QCoreApplication& app, const QString& language
     const QString wanted = languageOf(followSystem ? QLocale::system().name() : language);
     if (wanted.isEmpty() && !followSystem)
         return {QString("unknown language \"%1\"; using English").arg(language)};
+    // Numbers follow the language chosen (a decimal comma in German); the system's locale otherwise.
+    if (!followSystem)
+        QLocale::setDefault(QLocale(wanted));
     if (wanted.isEmpty() || wanted == "en")
         return {};
 

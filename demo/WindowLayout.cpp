@@ -1,6 +1,7 @@
 #include "demo/WindowLayout.h"
 #include <QByteArray>
 #include <QMainWindow>
+#include <QScreen>
 #include "platform/settings/ApplicationSettings.h"
 
 namespace {
@@ -22,7 +23,19 @@ bool WindowLayout::restore(QMainWindow& window)
     const QByteArray state = setting(StateKey);
     const bool placed = !geometry.isEmpty() && window.restoreGeometry(geometry);
     const bool docked = !state.isEmpty() && window.restoreState(state);
+    // Kept at another scale factor or on a larger screen, it may not fit this one.
+    fitToScreen(window, window.size());
     return placed || docked;
+}
+
+void WindowLayout::fitToScreen(QWidget& window, const QSize& preferred)
+{
+    const QScreen* screen = window.screen();
+    if (!screen)
+        return;
+    // A window manager's frame takes a little of the room.
+    const QSize room = screen->availableGeometry().size() * 0.92;
+    window.resize(preferred.boundedTo(room));
 }
 
 void WindowLayout::save(const QMainWindow& window)

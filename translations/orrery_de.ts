@@ -69,6 +69,25 @@
     </message>
 </context>
 <context>
+    <name>AxisTitlesDialog</name>
+    <message>
+        <source>Axis Titles</source>
+        <translation>Achsentitel</translation>
+    </message>
+    <message>
+        <source>&amp;X axis:</source>
+        <translation>&amp;X-Achse:</translation>
+    </message>
+    <message>
+        <source>&amp;Y axis:</source>
+        <translation>&amp;Y-Achse:</translation>
+    </message>
+    <message>
+        <source>&amp;Z axis:</source>
+        <translation>&amp;Z-Achse:</translation>
+    </message>
+</context>
+<context>
     <name>ChooseLoader</name>
     <message>
         <source>Choose Loader</source>
@@ -1574,6 +1593,33 @@ Die Datei so laden, wie sie jetzt ist?</translation>
     </message>
 </context>
 <context>
+    <name>PlotExportDialog</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>Export Plot</source>
+        <translation>Plot exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Breite:</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution (PNG):</source>
+        <translation>&amp;Auflösung (PNG):</translation>
+    </message>
+</context>
+<context>
     <name>PlotKey</name>
     <message>
         <source>size ~ |%1|</source>
@@ -1582,10 +1628,6 @@ Die Datei so laden, wie sie jetzt ist?</translation>
 </context>
 <context>
     <name>PlotMenus</name>
-    <message>
-        <source>&amp;Export Plot...</source>
-        <translation>Plot &amp;exportieren...</translation>
-    </message>
     <message>
         <source>&amp;Copy Plot</source>
         <translation>Plot &amp;kopieren</translation>
@@ -1612,11 +1654,7 @@ Die Datei so laden, wie sie jetzt ist?</translation>
     </message>
     <message>
         <source>Color &amp;Map</source>
-        <translation>Farb&amp;skala</translation>
-    </message>
-    <message>
-        <source>&amp;Automatic (the first varying variable off the axes)</source>
-        <translation>&amp;Automatisch (die erste veränderliche Variable außerhalb der Achsen)</translation>
+        <translation>Farbs&amp;kala</translation>
     </message>
     <message>
         <source>Export Plot</source>
@@ -1629,6 +1667,30 @@ Die Datei so laden, wie sie jetzt ist?</translation>
     <message>
         <source>Copied the plot to the clipboard</source>
         <translation>Plot in die Zwischenablage kopiert</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Plot...</source>
+        <translation>Plot e&amp;xportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic</source>
+        <translation>&amp;Automatisch</translation>
+    </message>
+    <message>
+        <source>&amp;Automatic (%1)</source>
+        <translation>&amp;Automatisch (%1)</translation>
+    </message>
+    <message>
+        <source>Axis &amp;Titles...</source>
+        <translation>Achsen&amp;titel...</translation>
+    </message>
+    <message>
+        <source>Y Variables as &amp;Lines</source>
+        <translation>Y-Variablen als &amp;Linien</translation>
+    </message>
+    <message>
+        <source>An XY line plot draws at least one Y variable.</source>
+        <translation>Ein XY-Linienplot zeichnet mindestens eine Y-Variable.</translation>
     </message>
 </context>
 <context>

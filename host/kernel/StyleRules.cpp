@@ -1,4 +1,7 @@
 #include "host/kernel/StyleRules.h"
+#include <charconv>
+#include <set>
+#include <sstream>
 #include <boost/format.hpp>
 #include "host/kernel/ColorMap.h"
 #include "host/kernel/DataSet.h"
@@ -30,6 +33,27 @@ StyleRule variableNumber()
         if (var < 1 || var > count)
             return WriteVerdict::refuse(
                 (boost::format("Variable number %1% is out of range (1 to %2%).") % var % count).str());
+        return WriteVerdict::accept();
+    };
+}
+
+StyleRule variableNumbers()
+{
+    return [](const StyleDatum& value, const RuleContext& context) {
+        std::istringstream words(std::get<std::string>(value));
+        std::set<long> listed;
+        const int count = context.dataSet.numVars();
+        for (std::string word; words >> word;) {
+            long var = 0;
+            const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), var);
+            if (error != std::errc() || end != word.data() + word.size())
+                return WriteVerdict::refuse((boost::format("\"%1%\" is not a variable number.") % word).str());
+            if (var < 1 || var > count)
+                return WriteVerdict::refuse(
+                    (boost::format("Variable number %1% is out of range (1 to %2%).") % var % count).str());
+            if (!listed.insert(var).second)
+                return WriteVerdict::refuse((boost::format("Variable %1% is listed twice.") % var).str());
+        }
         return WriteVerdict::accept();
     };
 }

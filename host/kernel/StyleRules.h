@@ -9,6 +9,8 @@ namespace rules {
 // 0 (no variable) or a variable of the data set; declined while the data set has
 // no variables, since nothing can be checked then.
 StyleRule variableNumber();
+// Variables of the data set, each once, as numbers separated by spaces ("4 5"); empty for none.
+StyleRule variableNumbers();
 // A long within [lowest, highest]; what names the value in the refusal text.
 // 0 (no zone) or a zone of the data set.
 StyleRule zoneNumber();

@@ -58,7 +58,7 @@ StyleSchema::StyleSchema()
 
 // What a plot shows beyond the data: its title, the variable and map that
 // colour it, the zone picked out, the part of each zone drawn, the scatter
-// symbol and logarithmic axes.
+// symbol, logarithmic axes, the axes' titles and the further lines of an XY plot.
 void StyleSchema::addPlotAnnotations()
 {
     add("FrameLayout/Title", {StyleType::String, std::string(), {}}); // empty: the data set's title
@@ -74,6 +74,13 @@ void StyleSchema::addPlotAnnotations()
     add("GlobalScatter/Symbol", {StyleType::String, std::string(), {}}); // empty: a disc
     for (const char* axis : {"XDetail", "YDetail"})
         add(std::string("TwoDAxis/") + axis + "/IsLog", {StyleType::Bool, false, {}});
+    // Axis titles, a unit and all; empty: the variable's name.
+    for (const char* axis : {"XDetail", "YDetail"})
+        add(std::string("TwoDAxis/") + axis + "/Title", {StyleType::String, std::string(), {}});
+    for (const char* axis : {"XDetail", "YDetail", "ZDetail"})
+        add(std::string("ThreeDAxis/") + axis + "/Title", {StyleType::String, std::string(), {}});
+    // Further variables an XY line plot draws against X, each a line of its own ("4 5").
+    add("TwoDAxis/YDetail/MoreVarNums", {StyleType::String, std::string(), rules::variableNumbers()});
 }
 
 const StyleEntry* StyleSchema::find(const std::string& key) const

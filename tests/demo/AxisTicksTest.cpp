@@ -1,5 +1,6 @@
 #include <cmath>
 #include <set>
+#include <QLocale>
 #include <gtest/gtest.h>
 #include "demo/AxisTicks.h"
 
@@ -68,7 +69,59 @@ TEST(AxisTicks, RangesThatOnceGaveOddOrRepeatedLabelsGetRoundDistinctOnes)
     EXPECT_EQ(across.end(), std::find(across.begin(), across.end(), "-0.0"));
 
     const AxisTicks::Scale tiny = AxisTicks::fit(0, 1e-12, Length, width, Gap);
-    EXPECT_EQ(QString::fromUtf8("×10⁻¹²"), tiny.note);
+    EXPECT_TRUE(tiny.note.startsWith(QString::fromUtf8("×10⁻¹"))) << tiny.note.toStdString();
+}
+
+TEST(AxisTicks, EachAxisTakesTheFormatWithTheShortestDistinctLabels)
+{
+    const QString minus(QChar(0x2212));
+    // Labels that would repeat their leading digits: an offset at the axis end.
+    const AxisTicks::Scale pressure = AxisTicks::label({101300, 101310, 101320, 101330, 101340, 101350});
+    EXPECT_EQ((std::vector<QString>{"0", "10", "20", "30", "40", "50"}), labels(pressure));
+    EXPECT_EQ(QString("+101300"), pressure.note);
+    // Short enough as they are: plain.
+    const AxisTicks::Scale kelvin = AxisTicks::label({293.10, 293.12, 293.14, 293.16, 293.18, 293.20});
+    EXPECT_EQ(QString("293.10"), kelvin.ticks.front().label);
+    EXPECT_TRUE(kelvin.note.isEmpty());
+    const AxisTicks::Scale depth = AxisTicks::label({-4000, -3995, -3990});
+    EXPECT_EQ(minus + "4000", depth.ticks.front().label) << "a true minus sign";
+    // A millionth of a part: the offset and a power of ten together.
+    const AxisTicks::Scale fine = AxisTicks::fit(1.0, 1.000000001, Length, width, Gap);
+    EXPECT_TRUE(fine.note.startsWith(QString::fromUtf8("×10⁻"))) << fine.note.toStdString();
+    EXPECT_TRUE(fine.note.endsWith(" +1")) << fine.note.toStdString();
+    for (const QString& text : labels(fine))
+        EXPECT_LE(text.size(), 3) << text.toStdString();
+    // The offset of a negative range is negative.
+    const AxisTicks::Scale below = AxisTicks::label({-100000003, -100000002, -100000001, -100000000});
+    EXPECT_EQ(minus + "100000003", below.note);
+    EXPECT_EQ(QString("3"), below.ticks.back().label);
+
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const AxisTicks::Scale german = AxisTicks::label({-0.5, 0.0, 0.5, 1.0});
+    QLocale::setDefault(before);
+    EXPECT_EQ((std::vector<QString>{minus + "0,5", "0,0", "0,5", "1,0"}), labels(german)) << "a decimal comma";
+}
+
+TEST(AxisTicks, WholeNumbersTakeWholeStepsAndEveryAxisThreeToTenLabels)
+{
+    AxisTicks::Options counts;
+    counts.integers = true;
+    EXPECT_EQ((std::vector<QString>{"0", "1", "2"}), labels(AxisTicks::fit(-0.1, 2.1, 800, width, Gap, counts)));
+    for (const AxisTicks::Tick& tick : AxisTicks::fit(-0.3, 7.3, 800, width, Gap, counts).ticks)
+        EXPECT_EQ(tick.value, std::round(tick.value));
+    for (const auto& [min, max] : std::vector<std::pair<double, double>>{
+             {0, 7}, {1e-300, 3e-300}, {0, 2.5e-12}, {-1e300, 1e300}, {1e300, 1.0001e300}, {1, 1.000000001}}) {
+        const size_t count = AxisTicks::fit(min, max, 800, width, Gap).ticks.size();
+        EXPECT_GE(count, 3u) << min << ".." << max;
+        EXPECT_LE(count, size_t(AxisTicks::MostTicks)) << min << ".." << max;
+    }
+    // A reader's spacing gives fewer ticks than would fit, and fewer again on a shorter axis.
+    AxisTicks::Options spaced;
+    spaced.spacing = 200;
+    const size_t wide = AxisTicks::fit(0, 100, 800, width, Gap, spaced).ticks.size();
+    EXPECT_LE(wide, 6u);
+    EXPECT_LT(AxisTicks::fit(0, 100, 250, width, Gap, spaced).ticks.size(), wide);
 }
 
 TEST(AxisTicks, ConstantNarrowOrNonFiniteRangesNeverLoopOrDivideByZero)
@@ -77,8 +130,11 @@ TEST(AxisTicks, ConstantNarrowOrNonFiniteRangesNeverLoopOrDivideByZero)
     EXPECT_EQ(1u, AxisTicks::fit(1, 1 + 1e-300, Length, width, Gap).ticks.size());
     EXPECT_TRUE(AxisTicks::niceValues(0, INFINITY, 5).empty());
     EXPECT_TRUE(AxisTicks::niceValues(NAN, 1, 5).empty());
-    // A 1 px axis still gets a label rather than nothing or a crash.
-    EXPECT_EQ(1u, AxisTicks::fit(0, 10, 1, width, Gap).ticks.size());
+    // A 1 px axis still gets a label rather than nothing or a crash, with no more digits than it has.
+    const AxisTicks::Scale single = AxisTicks::fit(0, 10, 1, width, Gap);
+    ASSERT_EQ(1u, single.ticks.size());
+    EXPECT_EQ(QString::number(single.ticks[0].value), single.ticks[0].label);
+    EXPECT_EQ((std::vector<QString>{"1.25"}), labels(AxisTicks::label({1.25})));
 }
 
 TEST(AxisTicks, MoreRoomGivesMoreTicksThatStillFit)
@@ -89,27 +145,40 @@ TEST(AxisTicks, MoreRoomGivesMoreTicksThatStillFit)
     EXPECT_GE(wide, 10u);
 }
 
-TEST(AxisTicks, LogarithmicAxesMarkPowersOfTen)
+TEST(AxisTicks, LogarithmicAxesWriteEveryDecadeAlikeWithMarksBetween)
 {
+    auto power = [](const char* exponent) { return QString::fromUtf8("10") + QString::fromUtf8(exponent); };
     const AxisTicks::Scale decades = AxisTicks::fitLog(0.5, 2e6, Length, width, Gap);
-    EXPECT_EQ((std::vector<QString>{"1", "10", "100", "1000", "10000", "100000", QString::fromUtf8("10⁶")}),
-              labels(decades));
-    // Within one decade the marks are round values.
+    EXPECT_EQ(
+        (std::vector<QString>{power("⁰"), power("¹"), power("²"), power("³"), power("⁴"), power("⁵"), power("⁶")}),
+        labels(decades));
+    EXPECT_NE(decades.minor.end(), std::find(decades.minor.begin(), decades.minor.end(), 2.0));
+    EXPECT_NE(decades.minor.end(), std::find(decades.minor.begin(), decades.minor.end(), 9e5));
+    // Where every decade is short, all are plain; a thousandth is never "0.0…".
+    EXPECT_EQ((std::vector<QString>{"0.001", "0.01", "0.1", "1", "10"}),
+              labels(AxisTicks::fitLog(8e-4, 12, Length, width, Gap)));
+    // More decades than ten labels: every second one, the others marked.
+    const AxisTicks::Scale many = AxisTicks::fitLog(1e-300, 1e-288, Length, width, Gap);
+    EXPECT_LE(many.ticks.size(), size_t(AxisTicks::MostTicks));
+    EXPECT_GE(many.ticks.size(), 3u);
+    EXPECT_EQ(power("⁻³⁰⁰"), many.ticks.front().label);
+    // A decade or two: 1, 2 and 5 times the decades.
+    EXPECT_EQ((std::vector<QString>{"1", "2", "5", "10"}), labels(AxisTicks::fitLog(0.9, 11, Length, width, Gap)));
+    // Within a decade the marks are round values.
     EXPECT_GE(AxisTicks::fitLog(2, 8, Length, width, Gap).ticks.size(), 3u);
 }
 
-TEST(AxisTicks, CategoriesAreNamedAndShortenedOnlyWhereTheyWouldCollide)
+TEST(AxisTicks, CategoriesAreNamedWholeAndThinnedWhereTheyWouldCollide)
 {
     const std::vector<std::string> species = {"Iris-setosa", "Iris-versicolor", "Iris-virginica"};
-    auto shorten = [](const QString& text, double room) { return text.left(int(room / 7.0)); };
     auto roomy = [](double v) { return v * 300.0; };
     EXPECT_EQ((std::vector<QString>{"Iris-setosa", "Iris-versicolor", "Iris-virginica"}),
-              labels(AxisTicks::categories(0.9, 3.1, species, roomy, width, Gap, shorten)));
-    auto cramped = [](double v) { return v * 60.0; };
-    const AxisTicks::Scale shortened = AxisTicks::categories(0.9, 3.1, species, cramped, width, Gap, shorten);
-    for (const QString& text : labels(shortened))
-        EXPECT_LE(width(text), 60.0 - Gap);
-    EXPECT_EQ(2u, AxisTicks::categories(1.5, 3.0, species, roomy, width, Gap, shorten).ticks.size());
+              labels(AxisTicks::categories(0.9, 3.1, species, roomy, width, Gap)));
+    // Too close for every name: every second one, whole.
+    auto cramped = [](double v) { return v * 70.0; };
+    EXPECT_EQ((std::vector<QString>{"Iris-setosa", "Iris-virginica"}),
+              labels(AxisTicks::categories(0.9, 3.1, species, cramped, width, Gap)));
+    EXPECT_EQ(2u, AxisTicks::categories(1.5, 3.0, species, roomy, width, Gap).ticks.size());
 }
 
 } // namespace

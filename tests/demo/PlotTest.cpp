@@ -1,14 +1,19 @@
 #include <cmath>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTimer>
 #include <QPainter>
 #include <QTemporaryDir>
+#include "demo/AxisTitlesDialog.h"
 #include "demo/DemoUser.h"
 #include "demo/DialogCatalog.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
 #include "demo/PlotView.h"
 #include "host/kernel/DataSet.h"
+#include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "tests/support/RecordingDevice.h"
 #include "tests/support/TestSupport.h"
@@ -199,6 +204,167 @@ TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
     // A window of one pixel draws a message, not a plot squeezed to nothing.
     QImage tiny(1, 1, QImage::Format_RGB32);
     view.render(tiny);
+}
+
+// Colours drawn that no basic colour or grey has: a colour map drew them.
+size_t mappedColours(const Drawn& picture)
+{
+    size_t count = 0;
+    for (const QRgb c : picture.colours) {
+        bool basic = qRed(c) == qGreen(c) && qGreen(c) == qBlue(c);
+        for (int i = 0; i < 8; ++i)
+            basic = basic || (c & 0xffffff) == (colourOf(i) & 0xffffff);
+        count += !basic;
+    }
+    return count;
+}
+
+TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    // View > Color Points By names what Automatic colours by, and ticks nothing while nothing is coloured.
+    QMenu* colourBy = window.findChild<QMenu*>("viewColorBy");
+    ASSERT_NE(colourBy, nullptr);
+    Q_EMIT colourBy->aboutToShow();
+    QAction* automatic = colourBy->actions().front();
+    EXPECT_EQ(QString("&Automatic (Z)"), automatic->text());
+    for (const QAction* action : colourBy->actions())
+        EXPECT_FALSE(action->isChecked()) << action->text().toStdString();
+    EXPECT_EQ(0u, mappedColours(drawn(view)));
+    automatic->trigger();
+    EXPECT_GT(mappedColours(drawn(view)), 5u) << "Automatic colours the points";
+    Q_EMIT colourBy->aboutToShow();
+    EXPECT_TRUE(colourBy->actions().front()->isChecked());
+
+    // Symbols chosen after keep the colouring.
+    run(window, "ASCII Character...");
+    const Drawn symbols = drawn(view);
+    EXPECT_GE(symbols.shapes, pointsInRange(1, 1000000, 1));
+    EXPECT_GT(mappedColours(symbols), 5u);
+    for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
+        EXPECT_EQ(-1L, testsupport::styleValue<long>({"FieldMap", "Scatter", "Color"}, zone));
+}
+
+TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
+{
+    PlotView view;
+    auto screen = [&](const std::string& colourName) {
+        orrery::kernel::DataSet data("Heated box", {"x", "y", colourName});
+        data.addZone("STRUCTURED_POINTS", {{0, 1, 2}, {0, 1, 4}, {1, 2, 3}});
+        Kernel::setDataSet(data);
+        Kernel::setStyle({"FieldMap", "Mesh", "Color"}, -1L, 1);
+        Kernel::setStyle({"FieldMap", "Scatter", "Show"}, true, 1);
+        QImage image(Size, QImage::Format_RGB32);
+        view.render(image);
+        return image;
+    };
+    // An underscore below the line is drawn, not cut off by the text's box.
+    const QImage space = screen("temperature K");
+    EXPECT_NE(space, screen("temperature_K"));
+    const Drawn key = drawn(view);
+    EXPECT_TRUE(key.drewText("temperature_K"));
+    EXPECT_TRUE(key.drewText("Heated box"));
+    EXPECT_FALSE(key.drewText("STRUCTURED_POINTS")) << "a zone's kind is no name for the data";
+}
+
+TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    auto titleAxes = [&](const QString& x, const QString& y) {
+        QTimer::singleShot(0, &window, [&window, x, y] {
+            auto* dialog = window.findChild<AxisTitlesDialog*>();
+            ASSERT_NE(dialog, nullptr);
+            DemoUser::typeInto(*dialog->findChild<QLineEdit*>("axisTitleX"), x);
+            DemoUser::typeInto(*dialog->findChild<QLineEdit*>("axisTitleY"), y);
+            DemoUser::press(*dialog, QDialogButtonBox::Ok);
+        });
+        window.findChild<QAction*>("viewAxisTitles")->trigger();
+    };
+    EXPECT_TRUE(drawn(view).drewText("X")) << "by default the variable's name";
+    titleAxes("Distance (m)", "Height (m)");
+    const Drawn titled = drawn(view);
+    EXPECT_TRUE(titled.drewText("Distance (m)"));
+    EXPECT_TRUE(titled.drewText("Height (m)"));
+    const std::vector<std::string>& journal = orrery::kernel::Kernel::instance().journal().lines();
+    EXPECT_NE(journal.end(),
+              std::find(journal.begin(), journal.end(), "style TwoDAxis/XDetail/Title \"Distance (m)\""));
+
+    QTemporaryDir folder;
+    QString error;
+    ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.svg"), Size, 1.0, &error));
+    QFile svg(folder.filePath("plot.svg"));
+    ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(svg.readAll().contains(">Height (m)<"));
+
+    // Both titles were one step.
+    OrrUtilUndoPerform();
+    EXPECT_FALSE(drawn(view).drewText("Distance (m)"));
+    EXPECT_FALSE(drawn(view).drewText("Height (m)"));
+    OrrUtilRedoPerform();
+    titleAxes("", "Height (m)");
+    EXPECT_TRUE(drawn(view).drewText("X")) << "an empty title is the name again";
+}
+
+TEST_F(Plot, AnXYLinePlotDrawsSeveralYVariablesEachInItsColourWithALegend)
+{
+    MainWindow window;
+    PlotView& view = window.plot();
+    Kernel::setPlotType(PlotType_XYLine);
+    QMenu* lines = window.findChild<QMenu*>("viewLineVariables");
+    ASSERT_NE(lines, nullptr);
+    EXPECT_TRUE(lines->isEnabled());
+    auto toggle = [&](const QString& name) {
+        Q_EMIT lines->aboutToShow();
+        for (QAction* action : lines->actions())
+            if (QString(action->text()).remove('&') == name)
+                return action->trigger();
+        ADD_FAILURE() << name.toStdString();
+    };
+    // What the picture shows: where its axes went, how many of its pixels are red.
+    QImage image(Size, QImage::Format_RGB32);
+    auto picture = [&] {
+        QPainter painter(&image);
+        return view.render(painter, QRectF(QPointF(0, 0), QSizeF(Size)));
+    };
+    auto red = [&] {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += (image.pixel(x, y) & 0xffffff) == (colourOf(1) & 0xffffff);
+        return count;
+    };
+    picture();
+    EXPECT_EQ(0, red());
+    toggle("Temperature");
+    const PlotGeometry both = picture();
+    EXPECT_GT(red(), 100) << "the second line in a colour of its own";
+    const Drawn two = drawn(view);
+    EXPECT_TRUE(two.drewText("Temperature")) << "a legend entry";
+    EXPECT_TRUE(two.drewText("Y, Temperature")) << "the axis titled by both";
+    double low = 0, high = 0;
+    OrrUtilVarGetMinMax(5, &low, &high);
+    EXPECT_GE(both.shown.max[1], high) << "the Y axis spans both";
+    const std::vector<std::string>& journal = orrery::kernel::Kernel::instance().journal().lines();
+    EXPECT_NE(journal.end(), std::find(journal.begin(), journal.end(), "style TwoDAxis/YDetail/MoreVarNums \"5\""));
+
+    // The axis's own variable off: the next line's takes its place, in one step.
+    toggle("Y");
+    EXPECT_EQ(5L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ("", testsupport::styleValue<std::string>({"TwoDAxis", "YDetail", "MoreVarNums"}));
+    OrrUtilUndoPerform();
+    EXPECT_EQ(2L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_EQ("5", testsupport::styleValue<std::string>({"TwoDAxis", "YDetail", "MoreVarNums"}));
+    // The last line stays, with a word why.
+    toggle("Y");
+    toggle("Temperature");
+    EXPECT_EQ(5L, testsupport::styleValue<long>({"TwoDAxis", "YDetail", "VarNum"}));
+    EXPECT_FALSE(testsupport::messageTexts().empty());
+
+    // A list naming no variable, or one twice, is refused by the kernel.
+    EXPECT_NE(SetValue_Ok, Kernel::setStyle({"TwoDAxis", "YDetail", "MoreVarNums"}, std::string("4 4")));
+    EXPECT_NE(SetValue_Ok, Kernel::setStyle({"TwoDAxis", "YDetail", "MoreVarNums"}, std::string("9")));
 }
 
 } // namespace
