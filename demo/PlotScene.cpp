@@ -281,7 +281,7 @@ PlotScene PlotScene::fromHost()
         long leftOut = 0;
         const bool any = rangeOfAll(scene, vars, axis.log, axis.min, axis.max, &axis.integers, &leftOut);
         if (leftOut > 0)
-            scene.notes << tr("%1: %2 value(s) beyond \u00b11e300 or closer to 0 than 2.2e-308 cannot be drawn and are "
+            scene.notes << tr("%1: %2 value(s) beyond ±1e306 or closer to 0 than 2.2e-308 cannot be drawn and are "
                               "left out.")
                                .arg(axis.name)
                                .arg(leftOut);
@@ -291,7 +291,7 @@ PlotScene PlotScene::fromHost()
                 axis.log = false;
             } else {
                 scene.problem = leftOut > 0
-                                    ? tr("Nothing to draw: every value of %1 is beyond \u00b11e300 or closer "
+                                    ? tr("Nothing to draw: every value of %1 is beyond ±1e306 or closer "
                                          "to 0 than 2.2e-308.")
                                           .arg(axis.name)
                                     : tr("Nothing to draw: %1 has no values in the points chosen.").arg(axis.name);

@@ -70,7 +70,7 @@ struct PlotScene
     static constexpr long MostSymbols = 20000;
     // Values larger than this, or nearer to 0 than the smallest normal double,
     // are left out: the arithmetic of ranges and ticks cannot hold them.
-    static constexpr double MostMagnitude = 1e300;
+    static constexpr double MostMagnitude = 1e306;
     // Finite and neither too large nor too small to draw.
     static bool drawable(double v);
 

@@ -1726,6 +1726,14 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>Nothing to draw: %1 has no values in the points chosen.</source>
         <translation>Nichts zu zeichnen: %1 hat in den gewählten Punkten keine Werte.</translation>
     </message>
+    <message>
+        <source>%1: %2 value(s) beyond ±1e306 or closer to 0 than 2.2e-308 cannot be drawn and are left out.</source>
+        <translation>%1: %2 Wert(e) jenseits von ±1e306 oder näher an 0 als 2,2e-308 lassen sich nicht zeichnen und werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw: every value of %1 is beyond ±1e306 or closer to 0 than 2.2e-308.</source>
+        <translation>Nichts zu zeichnen: Jeder Wert von %1 liegt jenseits von ±1e306 oder näher an 0 als 2,2e-308.</translation>
+    </message>
 </context>
 <context>
     <name>PlotView</name>
