@@ -1,7 +1,7 @@
 // The demo host's two heavy paths beside their baselines, in one run:
-//  - the plot's redraw of 1,000,000 and 10,000,000 points, and a zoom step at
-//    1,000,000, beside QPainter::drawPoints of the same points into an image
-//    of the same size;
+//  - the plot's redraw of 1,000,000 and 10,000,000 points, as a scatter and as
+//    an XY line, and a zoom step at 1,000,000, beside QPainter::drawPoints of
+//    the same points into an image of the same size;
 //  - loading a legacy VTK file beside a plain read of the same file, with the
 //    peak heap of each as a multiple of the data held as doubles;
 //  - replaying a journal of 100,000 style changes in the demo's window (its
@@ -112,6 +112,34 @@ void PlotRedraw(benchmark::State& state)
         benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK(PlotRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
+
+// The same number of points as an XY line: a noisy time series, X in order.
+void LineRedraw(benchmark::State& state)
+{
+    std::mt19937 random(7);
+    std::normal_distribution<double> step(0.0, 1.0);
+    const long count = state.range(0);
+    std::vector<std::vector<double>> values(2, std::vector<double>(size_t(count)));
+    double y = 0.0;
+    for (long i = 0; i < count; ++i) {
+        values[0][size_t(i)] = double(i);
+        values[1][size_t(i)] = y += step(random);
+    }
+    orrery::kernel::DataSet data("Series", {"Time", "Signal"});
+    data.addZone("Series", values);
+    KernelDriver::resetKernel();
+    KernelDriver::setDataSet(data);
+    KernelDriver::setPlotType(PlotType_XYLine);
+    PlotView view;
+    QImage image(ImageSize, QImage::Format_RGB32);
+    for (auto _ : state) {
+        view.render(image);
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.counters["points/s"] =
+        benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(LineRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
 
 // One wheel notch in and one out about the centre, each drawn as the view draws after it.
 void PlotZoomStep(benchmark::State& state)

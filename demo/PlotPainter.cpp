@@ -1,7 +1,9 @@
 #include "demo/PlotPainter.h"
+#include "demo/LineReduction.h"
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <numeric>
 #include <QCoreApplication>
@@ -151,6 +153,59 @@ struct PlotPainter::Projection
         return QPointF(centre[0] + scale * (m[0][0] * n[0] + m[0][1] * n[1] + m[0][2] * n[2]),
                        centre[1] - scale * (m[1][0] * n[0] + m[1][1] * n[1] + m[1][2] * n[2]));
     }
+};
+
+// The order an XY line visits its points in: the scene's own while X never
+// falls with the index (a time series, read once and without a copy), else
+// sorted by X. Points without an X are left out.
+class PlotPainter::LineOrder
+{
+public:
+    LineOrder(const PlotScene& scene, long points, const double* x) : m_scene(scene), m_points(points), m_x(x) {}
+
+    // Visits the points in order; false, having sorted them, when X turned out
+    // to fall: the caller starts again.
+    template <typename Visit>
+    bool forEach(const Visit& visit) const
+    {
+        if (!m_sorted) {
+            for (long i : m_order)
+                visit(i);
+            return true;
+        }
+        double previous = -std::numeric_limits<double>::infinity();
+        bool rising = true;
+        m_scene.forEachIndex(m_points, [&](long i) {
+            if (!rising || !PlotScene::drawable(m_x[i]))
+                return;
+            rising = m_x[i] >= previous;
+            previous = m_x[i];
+            if (rising)
+                visit(i);
+        });
+        if (!rising)
+            sort();
+        return rising;
+    }
+
+private:
+    void sort() const
+    {
+        m_sorted = false;
+        m_order.reserve(size_t(m_scene.countIn(m_points)));
+        m_scene.forEachIndex(m_points, [&](long i) {
+            if (PlotScene::drawable(m_x[i]))
+                m_order.push_back(i);
+        });
+        const double* x = m_x;
+        std::stable_sort(m_order.begin(), m_order.end(), [x](long a, long b) { return x[a] < x[b]; });
+    }
+
+    const PlotScene& m_scene;
+    long m_points;
+    const double* m_x;
+    mutable bool m_sorted = true;
+    mutable std::vector<long> m_order;
 };
 
 PlotGeometry PlotPainter::paint(QPainter& painter, const QRectF& area) const
@@ -418,12 +473,7 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
         const PointColours mesh(zone.meshColour, zone.zone, scene.contour);
         if (scene.lines) {
             // In the order of the index variable (X); a missing Y leaves a gap.
-            std::vector<long> order;
-            scene.forEachIndex(zone.points, [&](long i) {
-                if (PlotScene::drawable(v[0][i]))
-                    order.push_back(i);
-            });
-            std::stable_sort(order.begin(), order.end(), [&](long a, long b) { return v[0][a] < v[0][b]; });
+            const LineOrder order(scene, zone.points, v[0]); // shared by the lines of the zone
             for (size_t line = 0; line < zone.lineValues.size(); ++line)
                 if (const double* y = zone.lineValues[line])
                     paintLine(painter, p, order, v[0], y,
@@ -548,37 +598,57 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
     painter.restore();
 }
 
-void PlotPainter::paintLine(QPainter& painter, const Projection& p, const std::vector<long>& order, const double* x,
+void PlotPainter::paintLine(QPainter& painter, const Projection& p, const LineOrder& order, const double* x,
                             const double* y, const QColor& colour) const
 {
-    auto at = [&](long i, QPointF& out) {
-        if (!PlotScene::drawable(x[i]) || !PlotScene::drawable(y[i]) || (p.log[0] && x[i] <= 0)
-            || (p.log[1] && y[i] <= 0))
-            return false;
-        out = p.map(x[i], y[i]);
-        return true;
+    // Reduced in the device's pixels, so that an export at a higher resolution keeps more of the line.
+    const QTransform toDevice = painter.deviceTransform();
+    const QTransform fromDevice = toDevice.inverted();
+    const auto device = [&toDevice](const QPointF& q) { // QTransform::map without its call and type checks
+        return QPointF(toDevice.m11() * q.x() + toDevice.m21() * q.y() + toDevice.dx(),
+                       toDevice.m12() * q.x() + toDevice.m22() * q.y() + toDevice.dy());
     };
-    QPainterPath path;
-    bool open = false;
-    QPointF q;
-    for (long i : order) {
-        if (!at(i, q)) {
-            open = false;
-            continue;
-        }
-        open ? path.lineTo(q) : path.moveTo(q);
-        open = true;
+    // Where a piece has more points than columns it is a band of strokes: drawn without smoothing, which
+    // looks the same there and costs a tenth.
+    QPainterPath smooth, dense;
+    QPolygonF lonePoints;
+    LineReduction reduction;
+    const auto endPiece = [&] {
+        const std::vector<QPointF> piece = reduction.take();
+        if (piece.empty())
+            return;
+        if (piece.size() == 1) // a lone value between gaps is still a value: a dot marks it
+            lonePoints << fromDevice.map(piece.front());
+        const double columns = std::abs(piece.back().x() - piece.front().x()) + 1.0;
+        QPainterPath& path = double(piece.size()) > 2.0 * columns ? dense : smooth;
+        path.moveTo(fromDevice.map(piece.front()));
+        for (size_t k = 1; k < piece.size(); ++k)
+            path.lineTo(fromDevice.map(piece[k]));
+    };
+    const auto visit = [&](long i) {
+        const double u = x[i], v = y[i];
+        if (!PlotScene::drawable(v) || (p.log[0] && u <= 0) || (p.log[1] && v <= 0))
+            endPiece(); // a missing value leaves a gap
+        else
+            reduction.add(device(p.map(u, v)));
+    };
+    if (!order.forEach(visit)) { // X fell somewhere: again, in the order of X
+        reduction.take();
+        smooth = dense = QPainterPath();
+        lonePoints.clear();
+        order.forEach(visit);
     }
-    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    endPiece();
+    painter.save();
     painter.setBrush(Qt::NoBrush);
-    painter.drawPath(path);
-    // A lone point between gaps is still a value: a dot marks it.
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(smooth);
     painter.setPen(QPen(colour, 4, Qt::SolidLine, Qt::RoundCap));
-    for (size_t k = 0; k < order.size(); ++k) {
-        const bool before = k > 0 && at(order[k - 1], q), after = k + 1 < order.size() && at(order[k + 1], q);
-        if (!before && !after && at(order[k], q))
-            painter.drawPoint(q);
-    }
+    painter.drawPoints(lonePoints);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.drawPath(dense);
+    painter.restore();
 }
 
 void PlotPainter::paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const

@@ -35,8 +35,9 @@ private:
                      const AxisTicks::Scale& y) const;
     void paintBox3D(QPainter& painter, const Projection& projection, const PlotScene& scene) const;
     void paintLayers(QPainter& painter, const QRectF& plot, const Projection& projection, const PlotScene& scene) const;
+    class LineOrder;
     // One Y variable of an XY line plot against X, points in the given order.
-    void paintLine(QPainter& painter, const Projection& projection, const std::vector<long>& order, const double* x,
+    void paintLine(QPainter& painter, const Projection& projection, const LineOrder& order, const double* x,
                    const double* y, const QColor& colour) const;
     void paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const;
     void paintMessage(QPainter& painter, const QRectF& area, const QString& text) const;

@@ -167,6 +167,24 @@ TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
     EXPECT_FALSE(view.zoomed());
 }
 
+TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
+{
+    PlotView view;
+    const auto picture = [&](const std::vector<double>& x, const std::vector<double>& y) {
+        orrery::kernel::DataSet data("Series", {"t", "v"});
+        data.addZone("Series", {x, y});
+        Kernel::setDataSet(data);
+        Kernel::setPlotType(PlotType_XYLine);
+        QImage image(Size, QImage::Format_RGB32);
+        view.render(image);
+        return image;
+    };
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const QImage inOrder = picture({0, 1, 2, 3, 4, 5, 6}, {0, 3, 1, nan, 2, 5, 4});
+    EXPECT_EQ(picture({3, 0, 6, 1, 5, 2, 4}, {nan, 0, 4, 3, 5, 1, 2}), inOrder) << "rows in another order";
+    EXPECT_NE(picture({0, 1, 2, 3, 4, 5, 6}, {0, 3, 1, 9, 2, 5, 4}), inOrder) << "the gap is drawn as a gap";
+}
+
 TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
 {
     PlotView view;
