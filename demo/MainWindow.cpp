@@ -20,6 +20,7 @@
 #include <QTimer>
 #include "demo/FileDrops.h"
 #include "demo/HostStyle.h"
+#include "demo/NewFigure.h"
 #include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
@@ -211,7 +212,14 @@ MainWindow::MainWindow()
     m_journalGrew = Kernel::instance().journal().lineAdded().connect(
         [journalLines](const std::string& line) { journalLines->add(QString::fromStdString(line)); });
     m_stateChanged = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-        [this](const auto&) { refreshActionsWhenIdle(); });
+        [this](const orrery::sdk::integration::StateChangeEventInterface& change) {
+            if (change.code() == StateChange_DataSetReset) {
+                const QString reset = NewFigure::summary(Kernel::instance().newFigureReset());
+                if (!reset.isEmpty())
+                    report(reset);
+            }
+            refreshActionsWhenIdle();
+        });
     refreshUndoActions();
     refreshViewActions();
     m_title = new WindowTitle(*this);

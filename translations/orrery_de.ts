@@ -748,6 +748,53 @@ Die Datei so laden, wie sie jetzt ist?</translation>
     </message>
 </context>
 <context>
+    <name>NewFigure</name>
+    <message>
+        <source>the index range</source>
+        <translation>den Indexbereich</translation>
+    </message>
+    <message>
+        <source>the zone picked out</source>
+        <translation>die hervorgehobene Zone</translation>
+    </message>
+    <message>
+        <source>the title</source>
+        <translation>den Titel</translation>
+    </message>
+    <message>
+        <source>the logarithmic X axis</source>
+        <translation>die logarithmische X-Achse</translation>
+    </message>
+    <message>
+        <source>the logarithmic Y axis</source>
+        <translation>die logarithmische Y-Achse</translation>
+    </message>
+    <message>
+        <source>the axis variables</source>
+        <translation>die Achsenvariablen</translation>
+    </message>
+    <message>
+        <source>the RGB channel variables</source>
+        <translation>die RGB-Kanalvariablen</translation>
+    </message>
+    <message>
+        <source>the vector variables</source>
+        <translation>die Vektorvariablen</translation>
+    </message>
+    <message>
+        <source>the colouring variable</source>
+        <translation>die Färbungsvariable</translation>
+    </message>
+    <message>
+        <source>the scatter size variable</source>
+        <translation>die Variable der Streusymbolgröße</translation>
+    </message>
+    <message>
+        <source>A new data set starts a new figure: reset %1.</source>
+        <translation>Ein neuer Datensatz beginnt eine neue Abbildung: zurückgesetzt wurden %1.</translation>
+    </message>
+</context>
+<context>
     <name>OptionTables</name>
     <message>
         <source>Contour Group Levels</source>

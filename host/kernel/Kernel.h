@@ -27,9 +27,11 @@ public:
     void reset();
 
     const DataSet& dataSet() const { return m_dataSet; }
-    // Every frame then uses all zones and variables, its variable choices are
-    // fitted to the new data set (VariableFit) and the undo history starts afresh.
+    // Every frame then starts a new figure (startNewFigure) and the undo
+    // history starts afresh.
     void setDataSet(DataSet dataSet);
+    // The style paths the last new data set reset in the current frame.
+    const std::vector<std::string>& newFigureReset() const { return m_newFigureReset; }
 
     int pageCount() const { return m_pageCount; }
     // Without pages there are no frames.
@@ -71,7 +73,7 @@ private:
     Kernel();
     void addFrame();
     void useWholeDataSet(Frame& frame) const;
-    void fitZoneChoices(Frame& frame) const;
+    std::vector<std::string> startNewFigure(Frame& frame) const;
     // Enables those of the wanted zones or variables that exist in the current
     // frame; announces the change only when the enabled set changed.
     void setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,
@@ -89,6 +91,7 @@ private:
     size_t m_current = 0;
     long m_nextFrameID = 1;
     std::optional<std::string> m_lastError;
+    std::vector<std::string> m_newFigureReset;
 };
 
 } // namespace kernel
