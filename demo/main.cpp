@@ -1,3 +1,4 @@
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -10,6 +11,7 @@
 #include "demo/SessionAutosave.h"
 #include "demo/StdinJournal.h"
 #include "demo/Tour.h"
+#include "demo/TourWatchdog.h"
 #include "demo/Translations.h"
 #include "demo/WindowLayout.h"
 #include "host/kernel/FileLoad.h"
@@ -91,6 +93,11 @@ int main(int argc, char** argv)
         }
     }
 
+    // A dialog nobody closes would keep a tour waiting for ever.
+    std::unique_ptr<TourWatchdog> watchdog;
+    if (parser.isSet(tour))
+        watchdog = std::make_unique<TourWatchdog>(std::chrono::seconds(60));
+
     MainWindow window;
     const bool exporting = parser.isSet(exportPlot);
     const bool touring = parser.isSet(tour) || exporting;
@@ -112,6 +119,8 @@ int main(int argc, char** argv)
     const std::unique_ptr<SessionAutosave> autosave =
         touring ? nullptr : SessionAutosave::startFor(window, parser.isSet(recover), headless, restoreFailed);
     // Without a window to show them in, failures end the run.
+    if (watchdog && !files.isEmpty())
+        watchdog->at("loading " + files.front());
     const bool fileLoaded =
         files.isEmpty() || (touring ? Tour::loadFile(window, files.front()) : window.loadFile(files.front()));
     if (!fileLoaded && touring)
@@ -131,6 +140,8 @@ int main(int argc, char** argv)
             autosave->finish();
         return saved ? 0 : 1;
     }
+    if (watchdog && parser.isSet(replay))
+        watchdog->at("replaying " + parser.value(replay));
     if (parser.isSet(replay) && !window.replayJournal(parser.value(replay)) && touring)
         return 1;
     if (exporting) {
@@ -149,7 +160,7 @@ int main(int argc, char** argv)
         return 0;
     }
     if (touring)
-        return Tour::run(window, parser.value(tour));
+        return Tour::run(window, parser.value(tour), *watchdog);
     if (parser.isSet(commands))
         new StdinJournal(&window);
     WindowLayout::restore(window);
