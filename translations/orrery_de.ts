@@ -1846,6 +1846,41 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
     </message>
 </context>
 <context>
+    <name>RegularFile</name>
+    <message>
+        <source>a folder</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>a FIFO</source>
+        <translation>ein FIFO</translation>
+    </message>
+    <message>
+        <source>a character device</source>
+        <translation>ein zeichenorientiertes Gerät</translation>
+    </message>
+    <message>
+        <source>a block device</source>
+        <translation>ein blockorientiertes Gerät</translation>
+    </message>
+    <message>
+        <source>a socket</source>
+        <translation>ein Socket</translation>
+    </message>
+    <message>
+        <source>a symbolic link</source>
+        <translation>ein symbolischer Link</translation>
+    </message>
+    <message>
+        <source>of an unknown kind</source>
+        <translation>unbekannter Art</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file (%2)</source>
+        <translation>%1 ist keine reguläre Datei (%2)</translation>
+    </message>
+</context>
+<context>
     <name>ScatterSizeFont</name>
     <message>
         <source>Scatter Size/Font</source>

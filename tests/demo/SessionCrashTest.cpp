@@ -11,6 +11,7 @@
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
+#include "tests/support/DemoProcess.h"
 #include "tests/support/KernelSnapshot.h"
 #include "tests/support/TestSupport.h"
 
@@ -21,40 +22,10 @@ using testsupport::kernelSnapshot;
 
 namespace {
 
-// The demo as its own process, with its data and settings in a scratch home.
-class SessionCrash : public testsupport::SampleKernelTest
+// A demo killed in the middle of its work, and its next start.
+class SessionCrash : public testsupport::SampleKernelTest, public testsupport::DemoProcess
 {
 protected:
-    QString at(const QString& name) const { return QDir(home.path()).filePath(name); }
-    QString autosave() const { return at("data/orrery-demo/autosave.orrery-journal"); }
-
-    void start(QProcess& demo, const QStringList& arguments)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", home.path());
-        environment.insert("XDG_DATA_HOME", at("data"));
-        environment.insert("XDG_CONFIG_HOME", at("config"));
-        environment.insert("ORRERY_SETTINGS_DIR", at("config"));
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        demo.setProcessEnvironment(environment);
-        demo.start(ORRERY_DEMO, QStringList{"--lang", "en"} + arguments);
-        ASSERT_TRUE(demo.waitForStarted());
-    }
-
-    // Runs the demo to its end; its exit code, with what it said on failure.
-    int run(const QStringList& arguments, std::string* said = nullptr)
-    {
-        QProcess demo;
-        start(demo, arguments);
-        EXPECT_TRUE(demo.waitForFinished(40000));
-        const std::string output = demo.readAllStandardError().toStdString();
-        if (said)
-            *said = output;
-        if (demo.exitCode() != 0 && !said)
-            ADD_FAILURE() << output;
-        return demo.exitCode();
-    }
-
     // The state a session leaves on a fresh demo's starting point.
     std::string replayed(const QString& session)
     {
@@ -67,10 +38,9 @@ protected:
 
     QStringList keptAside() const
     {
-        return QDir(at("data/orrery-demo")).entryList({"autosave.orrery-journal.*"}, QDir::Files);
+        return QDir(at("data/orrery-demo"))
+            .entryList({"autosave.orrery-journal.*"}, QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     }
-
-    QTemporaryDir home;
 };
 
 const char* const LinesTyped = "style GlobalRGB/RedChannelVar 2\n"
