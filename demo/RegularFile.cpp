@@ -1,6 +1,10 @@
 #include "demo/RegularFile.h"
-#include <sys/stat.h>
 #include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -26,6 +30,11 @@ QString notRegular(const QString& path, mode_t mode)
     return RegularFile::tr("%1 is not a regular file (%2)").arg(path, kindOf(mode));
 }
 
+QString systemError(int code)
+{
+    return QString::fromLocal8Bit(std::strerror(code));
+}
+
 } // namespace
 
 QString RegularFile::problem(const QString& path, bool followLinks)
@@ -35,4 +44,29 @@ QString RegularFile::problem(const QString& path, bool followLinks)
     if ((followLinks ? ::stat(name.constData(), &status) : ::lstat(name.constData(), &status)) != 0)
         return QString();
     return S_ISREG(status.st_mode) ? QString() : notRegular(path, status.st_mode);
+}
+
+// Opened without blocking (a FIFO with nobody at the other end would), checked
+// on the descriptor itself, so that nothing can be swapped in between, and
+// truncated only then.
+int RegularFile::openForWriting(const QString& path, QString& why)
+{
+    const QByteArray name = QFile::encodeName(path);
+    const int fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0666);
+    struct stat status;
+    if (fd < 0) {
+        const int code = errno;
+        // A link (ELOOP), a FIFO without a reader (ENXIO), a folder (EISDIR).
+        why = ::lstat(name.constData(), &status) == 0 && !S_ISREG(status.st_mode) ? notRegular(path, status.st_mode)
+                                                                                  : systemError(code);
+        return -1;
+    }
+    const bool known = ::fstat(fd, &status) == 0;
+    if (!known || !S_ISREG(status.st_mode) || ::ftruncate(fd, 0) != 0) {
+        why = known && !S_ISREG(status.st_mode) ? notRegular(path, status.st_mode) : systemError(errno);
+        ::close(fd);
+        return -1;
+    }
+    ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+    return fd;
 }

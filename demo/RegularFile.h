@@ -13,4 +13,7 @@ public:
     // "<path> is not a regular file (a FIFO)". followLinks: a symbolic link
     // counts as what it points to; otherwise a link is refused too.
     static QString problem(const QString& path, bool followLinks);
+    // Opens path for writing, creating a regular file or truncating one; never
+    // a link, a FIFO, a device or a folder. -1, with why, when it cannot.
+    static int openForWriting(const QString& path, QString& why);
 };

@@ -746,6 +746,10 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>Sessions (*.orrery-journal *.orj);;All files (*)</source>
         <translation>Sitzungen (*.orrery-journal *.orj);;Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>There is no autosaved session to restore in %1.</source>
+        <translation>In %1 gibt es keine automatisch gesicherte Sitzung zum Wiederherstellen.</translation>
+    </message>
 </context>
 <context>
     <name>NewFigure</name>
@@ -1781,6 +1785,22 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
 %1
 Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>it is not locked</source>
+        <translation>sie ist nicht gesperrt</translation>
+    </message>
+    <message>
+        <source>The session is autosaved again in %1.</source>
+        <translation>Die Sitzung wird wieder automatisch in %1 gesichert.</translation>
+    </message>
+    <message>
+        <source>The session cannot be autosaved in %1 for now: %2. It is tried again at the next change.</source>
+        <translation>Die Sitzung kann vorerst nicht automatisch in %1 gesichert werden: %2. Bei der nächsten Änderung wird es erneut versucht.</translation>
+    </message>
+    <message>
+        <source>%1: nothing was restored, and the session is not autosaved while it is there.</source>
+        <translation>%1: Es wurde nichts wiederhergestellt, und die Sitzung wird nicht automatisch gesichert, solange es dort liegt.</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <QDir>
 #include <QDirIterator>
 #include <QElapsedTimer>
@@ -128,6 +130,28 @@ TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndABrokenOneIsK
     EXPECT_NE(said.find(autosave().toStdString() + ", line 1: the line holds control characters"), std::string::npos)
         << said;
     EXPECT_EQ(keptAside().size(), 2) << said;
+}
+
+TEST_F(SessionCrash, AFifoOrAFolderInTheAutosavesPlaceIsNamedLeftAloneAndFailsTheRecovery)
+{
+    ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
+    const QByteArray name = QFile::encodeName(autosave());
+    ASSERT_EQ(::mkfifo(name.constData(), 0600), 0);
+    std::string said;
+    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1) << said;
+    EXPECT_NE(said.find(autosave().toStdString() + " is not a regular file (a FIFO)"), std::string::npos) << said;
+    struct stat status;
+    ASSERT_EQ(::lstat(name.constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+    EXPECT_FALSE(QFile::exists(at("out.orrery-journal")));
+
+    ASSERT_EQ(::unlink(name.constData()), 0);
+    ASSERT_TRUE(QDir().mkdir(autosave()));
+    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1) << said;
+    EXPECT_NE(said.find(autosave().toStdString() + " is not a regular file (a folder)"), std::string::npos) << said;
+    EXPECT_EQ(said.find("Restored"), std::string::npos) << said;
+    EXPECT_TRUE(QFileInfo(autosave()).isDir());
+    EXPECT_TRUE(keptAside().isEmpty()) << keptAside().join(" ").toStdString();
 }
 
 } // namespace
