@@ -750,6 +750,10 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>There is no autosaved session to restore in %1.</source>
         <translation>In %1 gibt es keine automatisch gesicherte Sitzung zum Wiederherstellen.</translation>
     </message>
+    <message>
+        <source>The restored session stays in %1 until it is saved.</source>
+        <translation>Die wiederhergestellte Sitzung bleibt in %1, bis sie gespeichert wird.</translation>
+    </message>
 </context>
 <context>
     <name>NewFigure</name>

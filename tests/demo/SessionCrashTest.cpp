@@ -132,6 +132,25 @@ TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndABrokenOneIsK
     EXPECT_EQ(keptAside().size(), 2) << said;
 }
 
+TEST_F(SessionCrash, ARestoredSessionIsWhatAnExportShowsAndItsAutosaveStaysUntilItIsSaved)
+{
+    ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
+    std::ofstream(autosave().toStdString()) << "sample \"Sample\"\nstyle FrameLayout/Title \"Restored here\"\n";
+    std::string said;
+    ASSERT_EQ(run({"--recover", "--export", at("plot.svg")}, &said), 0) << said;
+    QFile plot(at("plot.svg"));
+    ASSERT_TRUE(plot.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(plot.readAll().contains(">Restored here<")) << "the restored session, not the sample";
+    EXPECT_TRUE(QFile::exists(autosave())) << "the restored session is saved nowhere else";
+
+    ASSERT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}), 0);
+    EXPECT_FALSE(QFile::exists(autosave()));
+    // Nothing left to restore: the run fails rather than export the sample.
+    EXPECT_EQ(run({"--recover", "--export", at("sample.svg")}, &said), 1);
+    EXPECT_NE(said.find("There is no autosaved session to restore"), std::string::npos) << said;
+    EXPECT_FALSE(QFile::exists(at("sample.svg")));
+}
+
 TEST_F(SessionCrash, AFifoOrAFolderInTheAutosavesPlaceIsNamedLeftAloneAndFailsTheRecovery)
 {
     ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
