@@ -259,6 +259,8 @@ std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, b
         if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
             restoreFailed = !autosave->restore(window.replayOptions(), message);
             tell(message, restoreFailed);
+            if (!restoreFailed) // the session restored is saved nowhere else yet
+                window.setWindowModified(true);
             return autosave->running() ? std::move(autosave) : nullptr;
         }
         tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);

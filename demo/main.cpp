@@ -150,11 +150,10 @@ int main(int argc, char** argv)
         return Tour::run(window, options.tour, *watchdog);
     if (options.commandsOnStdin)
         new StdinJournal(&window);
+    window.adoptAutosave(std::move(autosave));
     WindowLayout::restore(window);
     window.show();
     const int code = app.exec();
     WindowLayout::save(window);
-    if (autosave)
-        autosave->finish();
     return code;
 }

@@ -754,6 +754,14 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>The restored session stays in %1 until it is saved.</source>
         <translation>Die wiederhergestellte Sitzung bleibt in %1, bis sie gespeichert wird.</translation>
     </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The session has changes that are not saved. Save them before closing?</source>
+        <translation>Die Sitzung hat Änderungen, die nicht gespeichert sind. Vor dem Schließen speichern?</translation>
+    </message>
 </context>
 <context>
     <name>NewFigure</name>
