@@ -14,6 +14,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QCloseEvent>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QStatusBar>
@@ -21,10 +23,12 @@
 #include "demo/FileDrops.h"
 #include "demo/HostStyle.h"
 #include "demo/Mnemonics.h"
+#include "demo/NewFigure.h"
 #include "demo/PlotEffects.h"
 #include "demo/PlotMenus.h"
 #include "demo/PlotView.h"
 #include "demo/RecentFiles.h"
+#include "demo/SessionAutosave.h"
 #include "demo/StateView.h"
 #include "demo/WindowLayout.h"
 #include "demo/WindowTitle.h"
@@ -139,7 +143,9 @@ MainWindow::MainWindow()
     file->addSeparator();
     QAction* quit = new QAction(tr("&Quit"), this);
     quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, qApp, &QApplication::quit);
+    quit->setObjectName("fileQuit");
+    // Through the window's closing, which asks about unsaved changes.
+    connect(quit, &QAction::triggered, this, &QWidget::close);
 
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     m_undo = edit->addAction(tr("&Undo"), this, [] {
@@ -216,7 +222,14 @@ MainWindow::MainWindow()
     m_journalGrew = Kernel::instance().journal().lineAdded().connect(
         [journalLines](const std::string& line) { journalLines->add(QString::fromStdString(line)); });
     m_stateChanged = orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-        [this](const auto&) { refreshActionsWhenIdle(); });
+        [this](const orrery::sdk::integration::StateChangeEventInterface& change) {
+            if (change.code() == StateChange_DataSetReset) {
+                const QString reset = NewFigure::summary(Kernel::instance().newFigureReset());
+                if (!reset.isEmpty())
+                    report(reset);
+            }
+            refreshActionsWhenIdle();
+        });
     refreshUndoActions();
     refreshViewActions();
     m_title = new WindowTitle(*this);
@@ -401,6 +414,7 @@ bool MainWindow::replayJournal(const QString& path)
     }
     report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));
     RecentFiles::add(path);
+    m_sessionPath = path;
     m_title->markSaved();
     return true;
 }
@@ -440,6 +454,7 @@ bool MainWindow::saveJournal(const QString& path)
     }
     report(tr("Saved the session to %1").arg(path));
     RecentFiles::add(path);
+    m_sessionPath = path;
     m_title->markSaved();
     return true;
 }
@@ -453,12 +468,42 @@ void MainWindow::openFile()
         open(path);
 }
 
-void MainWindow::saveJournalAs()
+bool MainWindow::saveJournalAs()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Save Session"), "session.orrery-journal",
                                                       tr("Sessions (*.orrery-journal);;All files (*)"));
-    if (!path.isEmpty())
-        saveJournal(path);
+    return !path.isEmpty() && saveJournal(path);
+}
+
+void MainWindow::adoptAutosave(std::unique_ptr<SessionAutosave> autosave)
+{
+    m_autosave = std::move(autosave);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!settleUnsavedChanges())
+        return event->ignore();
+    if (m_autosave)
+        m_autosave->finish();
+    QMainWindow::closeEvent(event);
+}
+
+// True when nothing unsaved is left: the changes were saved or given up.
+bool MainWindow::settleUnsavedChanges()
+{
+    if (!isWindowModified())
+        return true;
+    QMessageBox question(QMessageBox::Warning, tr("Unsaved Changes"),
+                         tr("The session has changes that are not saved. Save them before closing?"),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setObjectName("unsavedChanges");
+    question.setDefaultButton(QMessageBox::Save);
+    switch (question.exec()) {
+    case QMessageBox::Save: return m_sessionPath.isEmpty() ? saveJournalAs() : saveJournal(m_sessionPath);
+    case QMessageBox::Discard: setWindowModified(false); return true;
+    default: return false;
+    }
 }
 
 void MainWindow::replayJournalFrom()

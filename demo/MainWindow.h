@@ -1,4 +1,5 @@
 #pragma once
+#include <memory>
 #include <boost/signals2/connection.hpp>
 #include <QMainWindow>
 #include "demo/DialogCatalog.h"
@@ -6,9 +7,11 @@
 
 class QAction;
 class QActionGroup;
+class QCloseEvent;
 class QPlainTextEdit;
 class PlotMenus;
 class PlotView;
+class SessionAutosave;
 class StateView;
 class WindowTitle;
 
@@ -52,13 +55,25 @@ public:
     void complain(const QString& text);
 
     PlotView& plot() const { return *m_plot; }
+    // Where Save puts the session: the file it was last saved to or opened
+    // from; empty until then.
+    const QString& sessionPath() const { return m_sessionPath; }
+    // The autosave of this window's session: it goes when the window closes
+    // with nothing unsaved (saved, given up or never changed), and only then.
+    void adoptAutosave(std::unique_ptr<SessionAutosave> autosave);
+
+protected:
+    // With changes not saved, asks whether to save them first; Cancel, or a
+    // save that did not happen, keeps the window open.
+    void closeEvent(QCloseEvent* event) override;
     // Folders searched for the sample files, first match wins.
     static QStringList sampleFolders();
 
 private:
     void openFile();
     void buildSampleMenu(QMenu& menu);
-    void saveJournalAs();
+    bool saveJournalAs();
+    bool settleUnsavedChanges();
     void replayJournalFrom();
     void refreshActionsWhenIdle();
     void refreshUndoActions();
@@ -72,6 +87,8 @@ private:
     StateView* m_state;
     WindowTitle* m_title;
     ChangedFiles m_changedFiles = ChangedFiles::Ask;
+    QString m_sessionPath;
+    std::unique_ptr<SessionAutosave> m_autosave;
     QAction* m_undo;
     QAction* m_redo;
     QActionGroup* m_plotTypes;

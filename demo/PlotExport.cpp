@@ -9,6 +9,7 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 #include "demo/PlotView.h"
+#include "demo/RegularFile.h"
 
 namespace {
 
@@ -46,6 +47,11 @@ bool PlotExport::write(const PlotView& view, const QString& path, const QSize& s
     };
     if (size.isEmpty() || !(ratio > 0.0))
         return fail(tr("the picture has no size"));
+    // An export makes or replaces a regular file only: a device node or a FIFO,
+    // also behind a link, would be replaced by the picture.
+    const QString notRegular = RegularFile::problem(path, true);
+    if (!notRegular.isEmpty())
+        return fail(notRegular);
     if (suffix == "png") {
         // Written aside and renamed, so that a failed export leaves no half file.
         QSaveFile file(path);

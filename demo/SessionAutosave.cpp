@@ -3,12 +3,16 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include "demo/MainWindow.h"
+#include "demo/RegularFile.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/AppLock.h"
@@ -17,13 +21,30 @@ using orrery::kernel::JournalReplayer;
 using orrery::kernel::Kernel;
 using orrery::sdk::AppLock;
 
+namespace {
+
+QString systemError(int code)
+{
+    return QString::fromLocal8Bit(std::strerror(code));
+}
+
+} // namespace
+
 SessionAutosave::SessionAutosave(const QString& folder)
     : m_folder(folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) : folder)
 {}
 
 SessionAutosave::~SessionAutosave()
 {
+    close();
     delete m_lock;
+}
+
+void SessionAutosave::close()
+{
+    if (m_fd >= 0)
+        ::close(m_fd);
+    m_fd = -1;
 }
 
 QString SessionAutosave::path() const
@@ -53,53 +74,93 @@ bool SessionAutosave::lock(QString& error)
 
 bool SessionAutosave::leftOver() const
 {
-    return m_lock && !m_file.isOpen() && QFileInfo::exists(path());
+    struct stat status;
+    return m_lock && m_fd < 0 && ::lstat(QFile::encodeName(path()).constData(), &status) == 0;
 }
 
 bool SessionAutosave::start(QString& error)
 {
-    m_file.setFileName(path());
-    if (!m_lock || !m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-        error = QObject::tr("Cannot write the autosaved session %1: %2").arg(path(), m_file.errorString());
+    QString why = QObject::tr("it is not locked");
+    if (m_lock)
+        m_fd = RegularFile::openForWriting(path(), why);
+    if (m_fd < 0) {
+        error = QObject::tr("Cannot write the autosaved session %1: %2").arg(path(), why);
         return false;
     }
+    m_whole = 0;
+    m_pending.clear();
+    m_failing = false;
     orrery::kernel::Journal& journal = Kernel::instance().journal();
     for (const std::string& line : journal.lines())
         write(line);
     sync();
     m_lines = journal.lineAdded().connect([this](const std::string& line) { write(line); });
     m_idle = AppLock::becameIdleSignal().connect([this] { sync(); });
-    return m_file.isOpen();
+    return true;
 }
 
 void SessionAutosave::write(const std::string& line)
 {
-    if (!m_file.isOpen())
+    if (m_fd < 0)
         return;
     // A step's lines arrive together once it is complete; they are written in
     // one go, so that a crash leaves a step whole or cuts one line of it.
     if (!m_step.add(line))
         return;
-    const std::string step = m_step.take();
-    if (m_file.write(step.data(), qint64(step.size())) != qint64(step.size()))
-        return fail(m_file.errorString());
+    m_pending += m_step.take();
+    if (!writePending())
+        return;
     m_unsynced = true;
     if (!AppLock::isBusy())
         sync();
 }
 
-void SessionAutosave::sync()
+// A write cut short (a full disk) is cut back to the last whole step, and the
+// steps waiting are tried again with the next one.
+bool SessionAutosave::writePending()
 {
-    if (m_unsynced && m_file.isOpen() && ::fsync(m_file.handle()) != 0)
-        return fail(QString::fromLocal8Bit(std::strerror(errno)));
-    m_unsynced = false;
+    if (m_failing && !cutBack())
+        return false;
+    size_t done = 0;
+    while (done < m_pending.size()) {
+        const ssize_t written = ::write(m_fd, m_pending.data() + done, m_pending.size() - done);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0) {
+            failed(systemError(written < 0 ? errno : EIO));
+            cutBack();
+            return false;
+        }
+        done += size_t(written);
+    }
+    m_whole += off_t(done);
+    m_pending.clear();
+    return true;
 }
 
-void SessionAutosave::fail(const QString& why)
+// So that a crash never finds half a step.
+bool SessionAutosave::cutBack()
 {
-    std::fprintf(stderr, "orrery-demo: the session is no longer autosaved: %s: %s\n", qPrintable(path()),
-                 qPrintable(why));
-    m_file.close();
+    return ::ftruncate(m_fd, m_whole) == 0 && ::lseek(m_fd, m_whole, SEEK_SET) == m_whole;
+}
+
+void SessionAutosave::sync()
+{
+    if (!m_unsynced || m_fd < 0)
+        return;
+    if (::fsync(m_fd) != 0)
+        return failed(systemError(errno));
+    m_unsynced = false;
+    if (m_pending.empty() && std::exchange(m_failing, false) && m_tell)
+        m_tell(QObject::tr("The session is autosaved again in %1.").arg(path()));
+}
+
+void SessionAutosave::failed(const QString& why)
+{
+    if (std::exchange(m_failing, true) || !m_tell)
+        return;
+    m_tell(QObject::tr("The session cannot be autosaved in %1 for now: %2. It is tried again at the next change.")
+               .arg(path(), why));
 }
 
 QString SessionAutosave::moveAside(const QString& reason)
@@ -110,6 +171,13 @@ QString SessionAutosave::moveAside(const QString& reason)
 
 bool SessionAutosave::restore(const JournalReplayer::Options& options, QString& message)
 {
+    // A FIFO would block the start for ever, a folder restore nothing.
+    const QString notRegular = RegularFile::problem(path(), false);
+    if (!notRegular.isEmpty()) {
+        message = QObject::tr("%1: nothing was restored, and the session is not autosaved while it is there.")
+                      .arg(notRegular);
+        return false;
+    }
     // The left-over file is read from beside the new autosave, and kept until it
     // has been played back whole.
     const QString taken = moveAside("restoring");
@@ -153,9 +221,9 @@ void SessionAutosave::finish()
 {
     m_lines.disconnect();
     m_idle.disconnect();
-    if (m_file.isOpen()) {
-        m_file.close();
-        m_file.remove();
+    if (m_fd >= 0) {
+        close();
+        QFile::remove(path());
     }
 }
 
@@ -173,8 +241,14 @@ std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, b
     };
     if (!autosave->lock(message)) {
         tell(message, true);
+        restoreFailed = recover;
         return nullptr;
     }
+    // Said in the window, not in a message box: the work goes on meanwhile.
+    autosave->setReporter([&window](const QString& text) {
+        std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
+        window.report(text);
+    });
     if (autosave->leftOver()) {
         if (!recover && headless) {
             tell(QString("An autosaved session is waiting in %1; --recover restores it.").arg(autosave->path()), false);
@@ -185,9 +259,14 @@ std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, b
         if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
             restoreFailed = !autosave->restore(window.replayOptions(), message);
             tell(message, restoreFailed);
-            return autosave;
+            if (!restoreFailed) // the session restored is saved nowhere else yet
+                window.setWindowModified(true);
+            return autosave->running() ? std::move(autosave) : nullptr;
         }
         tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);
+    } else if (recover) {
+        tell(MainWindow::tr("There is no autosaved session to restore in %1.").arg(autosave->path()), true);
+        restoreFailed = true;
     }
     if (!autosave->start(message)) {
         tell(message, true);

@@ -121,7 +121,9 @@ SimplePrompts::ChooseLoaderDialog* SimplePrompts::openLoaderChooser(QWidget& par
 
 void SimplePrompts::driveLoaderChooser(ChooseLoaderDialog& d)
 {
-    DemoUser::selectRow(*d.findChild<QListView*>("LoadersList"), "Text table");
+    // The list shows the loaders' names in the user's language.
+    DemoUser::selectRow(*d.findChild<QListView*>("LoadersList"),
+                        QCoreApplication::translate("ChooseLoader", "Text table"));
 }
 
 QString SimplePrompts::loaderChooserAnswers(ChooseLoaderDialog& d)

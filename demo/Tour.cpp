@@ -13,6 +13,7 @@
 #include "demo/PlotExport.h"
 #include "demo/PlotView.h"
 #include "demo/TextFit.h"
+#include "demo/TourWatchdog.h"
 #include "platform/common/IdleQueue.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 
@@ -52,6 +53,18 @@ bool savePlot(const PlotView& plot, const QString& path)
     return saved;
 }
 
+// A dialog the tour could not close (its button missing or disabled) would wait
+// for a user for ever: it is closed here and the tour fails.
+bool close(QDialog& dialog, QDialogButtonBox::StandardButton button, const QString& name)
+{
+    DemoUser::press(dialog, button);
+    if (!dialog.isVisible())
+        return true;
+    std::fprintf(stderr, "%s: the tour could not close the dialog\n", qPrintable(name));
+    dialog.reject();
+    return false;
+}
+
 } // namespace
 
 bool Tour::loadFile(MainWindow& window, const QString& path)
@@ -75,8 +88,9 @@ bool Tour::loadFile(MainWindow& window, const QString& path)
     return loaded;
 }
 
-int Tour::run(MainWindow& window, const QString& screenshotDir)
+int Tour::run(MainWindow& window, const QString& screenshotDir, TourWatchdog& watchdog)
 {
+    watchdog.at("the start of the tour");
     if (!QDir().mkpath(screenshotDir)) {
         std::fprintf(stderr, "Cannot create %s\n", qPrintable(screenshotDir));
         return 1;
@@ -86,9 +100,12 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
     settle();
     bool allSaved = savePlot(window.plot(), dir.filePath("plot-start.png"));
     bool allFit = true;
+    bool allClosed = true;
     for (const DialogCatalog::Entry& entry : DialogCatalog::entries()) {
         std::printf("%s\n", qPrintable(entry.name));
+        watchdog.at(entry.name + ": opening it");
         const QString line = window.runDialog(entry, [&](DialogCatalog::Dialog& dialog) {
+            watchdog.at(entry.name + ": driving it");
             settle();
             entry.drive(dialog);
             settle();
@@ -97,14 +114,16 @@ int Tour::run(MainWindow& window, const QString& screenshotDir)
                 std::fprintf(stderr, "%s: text cut off: %s\n", qPrintable(entry.name), qPrintable(clipped));
                 allFit = false;
             }
-            DemoUser::press(dialog, entry.closeWith);
+            watchdog.at(entry.name + ": closing it");
+            allClosed &= close(dialog, entry.closeWith, entry.name);
         });
         std::printf("  %s\n", qPrintable(line));
+        watchdog.at(entry.name + ": drawing the plot after it");
         settle();
         allSaved &= savePlot(window.plot(), dir.filePath(fileNameFor(entry.name).replace(".png", "-plot.png")));
     }
     settle();
     allSaved &= save(window, dir.filePath("main-window.png"));
     std::fflush(stdout);
-    return allSaved && allFit ? 0 : 1;
+    return allSaved && allFit && allClosed ? 0 : 1;
 }

@@ -765,6 +765,69 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>Sessions (*.orrery-journal *.orj);;All files (*)</source>
         <translation>Sitzungen (*.orrery-journal *.orj);;Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>There is no autosaved session to restore in %1.</source>
+        <translation>In %1 gibt es keine automatisch gesicherte Sitzung zum Wiederherstellen.</translation>
+    </message>
+    <message>
+        <source>The restored session stays in %1 until it is saved.</source>
+        <translation>Die wiederhergestellte Sitzung bleibt in %1, bis sie gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The session has changes that are not saved. Save them before closing?</source>
+        <translation>Die Sitzung hat Änderungen, die nicht gespeichert sind. Vor dem Schließen speichern?</translation>
+    </message>
+</context>
+<context>
+    <name>NewFigure</name>
+    <message>
+        <source>the index range</source>
+        <translation>den Indexbereich</translation>
+    </message>
+    <message>
+        <source>the zone picked out</source>
+        <translation>die hervorgehobene Zone</translation>
+    </message>
+    <message>
+        <source>the title</source>
+        <translation>den Titel</translation>
+    </message>
+    <message>
+        <source>the logarithmic X axis</source>
+        <translation>die logarithmische X-Achse</translation>
+    </message>
+    <message>
+        <source>the logarithmic Y axis</source>
+        <translation>die logarithmische Y-Achse</translation>
+    </message>
+    <message>
+        <source>the axis variables</source>
+        <translation>die Achsenvariablen</translation>
+    </message>
+    <message>
+        <source>the RGB channel variables</source>
+        <translation>die RGB-Kanalvariablen</translation>
+    </message>
+    <message>
+        <source>the vector variables</source>
+        <translation>die Vektorvariablen</translation>
+    </message>
+    <message>
+        <source>the colouring variable</source>
+        <translation>die Färbungsvariable</translation>
+    </message>
+    <message>
+        <source>the scatter size variable</source>
+        <translation>die Variable der Streusymbolgröße</translation>
+    </message>
+    <message>
+        <source>A new data set starts a new figure: reset %1.</source>
+        <translation>Ein neuer Datensatz beginnt eine neue Abbildung: zurückgesetzt wurden %1.</translation>
+    </message>
 </context>
 <context>
     <name>OptionTables</name>
@@ -1805,6 +1868,22 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
 Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>it is not locked</source>
+        <translation>sie ist nicht gesperrt</translation>
+    </message>
+    <message>
+        <source>The session is autosaved again in %1.</source>
+        <translation>Die Sitzung wird wieder automatisch in %1 gesichert.</translation>
+    </message>
+    <message>
+        <source>The session cannot be autosaved in %1 for now: %2. It is tried again at the next change.</source>
+        <translation>Die Sitzung kann vorerst nicht automatisch in %1 gesichert werden: %2. Bei der nächsten Änderung wird es erneut versucht.</translation>
+    </message>
+    <message>
+        <source>%1: nothing was restored, and the session is not autosaved while it is there.</source>
+        <translation>%1: Es wurde nichts wiederhergestellt, und die Sitzung wird nicht automatisch gesichert, solange es dort liegt.</translation>
+    </message>
 </context>
 <context>
     <name>RGBColorOpts</name>
@@ -1866,6 +1945,41 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
     <message>
         <source>(none)</source>
         <translation>(keine)</translation>
+    </message>
+</context>
+<context>
+    <name>RegularFile</name>
+    <message>
+        <source>a folder</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>a FIFO</source>
+        <translation>ein FIFO</translation>
+    </message>
+    <message>
+        <source>a character device</source>
+        <translation>ein zeichenorientiertes Gerät</translation>
+    </message>
+    <message>
+        <source>a block device</source>
+        <translation>ein blockorientiertes Gerät</translation>
+    </message>
+    <message>
+        <source>a socket</source>
+        <translation>ein Socket</translation>
+    </message>
+    <message>
+        <source>a symbolic link</source>
+        <translation>ein symbolischer Link</translation>
+    </message>
+    <message>
+        <source>of an unknown kind</source>
+        <translation>unbekannter Art</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file (%2)</source>
+        <translation>%1 ist keine reguläre Datei (%2)</translation>
     </message>
 </context>
 <context>

@@ -64,6 +64,7 @@ void Kernel::reset()
     m_journal.clear();
     m_style.reset();
     m_lastError.reset();
+    m_newFigureReset.clear();
     m_messageBoxes.setHandler({});
     m_dataSet = DataSet();
     m_frames.clear();
@@ -72,17 +73,37 @@ void Kernel::reset()
     announce(StateChange_NewLayout);
 }
 
-// A zone picked out that the new data set lacks, or an index range that starts
-// past its points, would leave the plot pale or empty.
-void Kernel::fitZoneChoices(Frame& frame) const
+// A new data set starts a new figure: what belongs to the old data goes back
+// to its default (the part of each zone drawn, the zone picked out, a title
+// given to the old data, variables the new data lack, logarithmic axes over
+// values not all positive); preferences (colour map, symbol, the rest) carry
+// over. Frame must be the current frame: the default rules read it. Returns the
+// paths whose value changed.
+std::vector<std::string> Kernel::startNewFigure(Frame& frame) const
 {
-    if (std::get<long>(m_schema.valueIn(frame.style(), "FrameLayout/ActiveZone", 0)) > m_dataSet.numZones())
-        frame.style().store("FrameLayout/ActiveZone", 0, 0L);
-    size_t most = 0;
-    for (int zone = 1; zone <= m_dataSet.numZones(); ++zone)
-        most = std::max(most, m_dataSet.pointCount(zone));
-    if (std::get<long>(m_schema.valueIn(frame.style(), "IndexRange/Begin", 0)) > long(most))
-        frame.style().store("IndexRange/Begin", 0, 1L);
+    const StyleState before = frame.style();
+    useWholeDataSet(frame);
+    frame.style().dropMembersAfter(m_dataSet.numZones());
+    const auto valueOf = [&](const std::string& key) { return m_schema.valueIn(frame.style(), key, 0); };
+    VariableFit::apply(frame.style(), m_schema, m_dataSet.numVars(),
+                       static_cast<PlotType_e>(std::get<long>(valueOf(PlotTypeKey))));
+    // What names the old data: its points, zones, title, the further lines and the axis titles with their units.
+    for (const char* key :
+         {"IndexRange/Begin", "IndexRange/End", "IndexRange/Skip", "FrameLayout/ActiveZone", "FrameLayout/Title",
+          "TwoDAxis/YDetail/MoreVarNums", "TwoDAxis/XDetail/Title", "TwoDAxis/YDetail/Title", "ThreeDAxis/XDetail/Title",
+          "ThreeDAxis/YDetail/Title", "ThreeDAxis/ZDetail/Title"})
+        frame.style().store(key, 0, m_schema.find(key)->defaultValue);
+    for (const std::string axis : {"TwoDAxis/XDetail/", "TwoDAxis/YDetail/"}) {
+        double min = 0.0, max = 0.0;
+        const int var = static_cast<int>(std::get<long>(valueOf(axis + "VarNum")));
+        if (std::get<bool>(valueOf(axis + "IsLog")) && m_dataSet.range(var, frame.enabledZones, min, max) && min <= 0.0)
+            frame.style().store(axis + "IsLog", 0, false);
+    }
+    std::vector<std::string> changed;
+    for (const std::string& key : m_schema.keys())
+        if (m_schema.valueIn(before, key, 0) != valueOf(key))
+            changed.push_back(key);
+    return changed;
 }
 
 Kernel::DataSetGate Kernel::setDataSetGate(DataSetGate gate)
@@ -97,14 +118,12 @@ void Kernel::setDataSet(DataSet dataSet)
         return;
     m_dataSet = std::move(dataSet);
     const size_t current = m_current;
+    m_newFigureReset.clear();
     for (size_t i = 0; i < m_frames.size(); ++i) {
-        Frame& frame = m_frames[i];
-        useWholeDataSet(frame);
-        frame.style().dropMembersAfter(m_dataSet.numZones());
         m_current = i; // the default rules read the current frame
-        VariableFit::apply(frame.style(), m_schema, m_dataSet.numVars(),
-                           static_cast<PlotType_e>(std::get<long>(m_schema.valueIn(frame.style(), PlotTypeKey, 0))));
-        fitZoneChoices(frame);
+        std::vector<std::string> reset = startNewFigure(m_frames[i]);
+        if (i == current)
+            m_newFigureReset = std::move(reset);
     }
     m_current = current;
     // An undo step names variables and zones of the data set it was made on.

@@ -28,10 +28,12 @@ public:
     void reset();
 
     const DataSet& dataSet() const { return m_dataSet; }
-    // Every frame then uses all zones and variables, its variable choices are
-    // fitted to the new data set (VariableFit) and the undo history starts afresh.
-    // A gate, when one is set, is asked first; false keeps the current data set.
+    // Every frame then starts a new figure (startNewFigure) and the undo
+    // history starts afresh. A gate, when one is set, is asked first; false
+    // keeps the current data set.
     void setDataSet(DataSet dataSet);
+    // The style paths the last new data set reset in the current frame.
+    const std::vector<std::string>& newFigureReset() const { return m_newFigureReset; }
     // Set while a load checks the file it reads (see FileLoad); returns the
     // gate it replaces.
     typedef std::function<bool()> DataSetGate;
@@ -81,7 +83,7 @@ private:
     Kernel();
     void addFrame();
     void useWholeDataSet(Frame& frame) const;
-    void fitZoneChoices(Frame& frame) const;
+    std::vector<std::string> startNewFigure(Frame& frame) const;
     // Enables those of the wanted zones or variables that exist in the current
     // frame; announces the change only when the enabled set changed.
     void setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted, bool (DataSet::*exists)(int) const,
@@ -101,6 +103,7 @@ private:
     std::optional<std::string> m_lastError;
     DataSetGate m_dataSetGate;
     std::vector<std::string> m_settingsProblems;
+    std::vector<std::string> m_newFigureReset;
 };
 
 } // namespace kernel

@@ -1,5 +1,7 @@
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <QDir>
 #include <QDirIterator>
 #include <QElapsedTimer>
@@ -11,6 +13,7 @@
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
+#include "tests/support/DemoProcess.h"
 #include "tests/support/KernelSnapshot.h"
 #include "tests/support/TestSupport.h"
 
@@ -21,40 +24,10 @@ using testsupport::kernelSnapshot;
 
 namespace {
 
-// The demo as its own process, with its data and settings in a scratch home.
-class SessionCrash : public testsupport::SampleKernelTest
+// A demo killed in the middle of its work, and its next start.
+class SessionCrash : public testsupport::SampleKernelTest, public testsupport::DemoProcess
 {
 protected:
-    QString at(const QString& name) const { return QDir(home.path()).filePath(name); }
-    QString autosave() const { return at("data/orrery-demo/autosave.orrery-journal"); }
-
-    void start(QProcess& demo, const QStringList& arguments)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("HOME", home.path());
-        environment.insert("XDG_DATA_HOME", at("data"));
-        environment.insert("XDG_CONFIG_HOME", at("config"));
-        environment.insert("ORRERY_SETTINGS_DIR", at("config"));
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        demo.setProcessEnvironment(environment);
-        demo.start(ORRERY_DEMO, QStringList{"--lang", "en"} + arguments);
-        ASSERT_TRUE(demo.waitForStarted());
-    }
-
-    // Runs the demo to its end; its exit code, with what it said on failure.
-    int run(const QStringList& arguments, std::string* said = nullptr)
-    {
-        QProcess demo;
-        start(demo, arguments);
-        EXPECT_TRUE(demo.waitForFinished(40000));
-        const std::string output = demo.readAllStandardError().toStdString();
-        if (said)
-            *said = output;
-        if (demo.exitCode() != 0 && !said)
-            ADD_FAILURE() << output;
-        return demo.exitCode();
-    }
-
     // The state a session leaves on a fresh demo's starting point.
     std::string replayed(const QString& session)
     {
@@ -67,10 +40,9 @@ protected:
 
     QStringList keptAside() const
     {
-        return QDir(at("data/orrery-demo")).entryList({"autosave.orrery-journal.*"}, QDir::Files);
+        return QDir(at("data/orrery-demo"))
+            .entryList({"autosave.orrery-journal.*"}, QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
     }
-
-    QTemporaryDir home;
 };
 
 const char* const LinesTyped = "style GlobalRGB/RedChannelVar 2\n"
@@ -158,6 +130,47 @@ TEST_F(SessionCrash, AnAutosaveCutOffMidLineIsRestoredUpToTheCutAndABrokenOneIsK
     EXPECT_NE(said.find(autosave().toStdString() + ", line 1: the line holds control characters"), std::string::npos)
         << said;
     EXPECT_EQ(keptAside().size(), 2) << said;
+}
+
+TEST_F(SessionCrash, ARestoredSessionIsWhatAnExportShowsAndItsAutosaveStaysUntilItIsSaved)
+{
+    ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
+    std::ofstream(autosave().toStdString()) << "sample \"Sample\"\nstyle FrameLayout/Title \"Restored here\"\n";
+    std::string said;
+    ASSERT_EQ(run({"--recover", "--export", at("plot.svg")}, &said), 0) << said;
+    QFile plot(at("plot.svg"));
+    ASSERT_TRUE(plot.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(plot.readAll().contains(">Restored here<")) << "the restored session, not the sample";
+    EXPECT_TRUE(QFile::exists(autosave())) << "the restored session is saved nowhere else";
+
+    ASSERT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}), 0);
+    EXPECT_FALSE(QFile::exists(autosave()));
+    // Nothing left to restore: the run fails rather than export the sample.
+    EXPECT_EQ(run({"--recover", "--export", at("sample.svg")}, &said), 1);
+    EXPECT_NE(said.find("There is no autosaved session to restore"), std::string::npos) << said;
+    EXPECT_FALSE(QFile::exists(at("sample.svg")));
+}
+
+TEST_F(SessionCrash, AFifoOrAFolderInTheAutosavesPlaceIsNamedLeftAloneAndFailsTheRecovery)
+{
+    ASSERT_TRUE(QDir().mkpath(at("data/orrery-demo")));
+    const QByteArray name = QFile::encodeName(autosave());
+    ASSERT_EQ(::mkfifo(name.constData(), 0600), 0);
+    std::string said;
+    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1) << said;
+    EXPECT_NE(said.find(autosave().toStdString() + " is not a regular file (a FIFO)"), std::string::npos) << said;
+    struct stat status;
+    ASSERT_EQ(::lstat(name.constData(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+    EXPECT_FALSE(QFile::exists(at("out.orrery-journal")));
+
+    ASSERT_EQ(::unlink(name.constData()), 0);
+    ASSERT_TRUE(QDir().mkdir(autosave()));
+    EXPECT_EQ(run({"--recover", "--save-session", at("out.orrery-journal")}, &said), 1) << said;
+    EXPECT_NE(said.find(autosave().toStdString() + " is not a regular file (a folder)"), std::string::npos) << said;
+    EXPECT_EQ(said.find("Restored"), std::string::npos) << said;
+    EXPECT_TRUE(QFileInfo(autosave()).isDir());
+    EXPECT_TRUE(keptAside().isEmpty()) << keptAside().join(" ").toStdString();
 }
 
 } // namespace

@@ -1,8 +1,12 @@
 # Runs the demo's tour in a fresh folder and fails unless it exits 0, warns of
 # nothing, and its answers show the expected word of the chosen language.
 # cmake -DDEMO=<orrery-demo> -DDIR=<folder> -DLANG=<code> -DEXPECT=<word> -P RunTour.cmake
-file(REMOVE_RECURSE "${DIR}")
-execute_process(COMMAND "${DEMO}" --tour "${DIR}" --lang "${LANG}"
+# Its settings and data are its own and fresh, so that neither an earlier run
+# nor a test running beside it decides what the dialogs start with.
+file(REMOVE_RECURSE "${DIR}" "${DIR}-home")
+execute_process(COMMAND "${CMAKE_COMMAND}" -E env "ORRERY_SETTINGS_DIR=${DIR}-home/config"
+                        "XDG_CONFIG_HOME=${DIR}-home/config" "XDG_DATA_HOME=${DIR}-home/data"
+                        "${DEMO}" --tour "${DIR}" --lang "${LANG}"
                 RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
 message("${out}")
 if(NOT rc EQUAL 0)
