@@ -89,6 +89,11 @@ int main(int argc, char** argv)
         window.setChangedFiles(MainWindow::ChangedFiles::Refuse);
     orrery::kernel::FileLoad::loadSample(
         "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
+    // A setting the host cannot use is said, not replaced without a word.
+    for (const std::string& problem : orrery::kernel::Kernel::instance().settingsProblems()) {
+        say(QString::fromStdString(problem));
+        window.report(QString::fromStdString(problem));
+    }
 
     // 1. --recover. A tour or an export of the sample is a demonstration, not a
     // session worth keeping; an export of a restored session is.

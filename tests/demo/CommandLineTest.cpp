@@ -65,4 +65,17 @@ TEST_F(DemoRun, HelpAndVersionNeedNoDisplayAndARefusalEndsWithStatusTwo)
     EXPECT_FALSE(QFileInfo::exists(at("plot.png")) || QFileInfo::exists(at("tour")));
 }
 
+TEST_F(DemoRun, ASettingItCannotUseIsSaidAndTheDefaultTakesItsPlace)
+{
+    ASSERT_TRUE(QDir().mkpath(at("config")));
+    QFile settings(at("config/settings.ini"));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[General]\nUndoStepLimit=1e12\n");
+    settings.close();
+    std::string said;
+    EXPECT_EQ(run({"--save-session", at("s.orrery-journal")}, &said), 0);
+    EXPECT_THAT(said, HasSubstr("The setting UndoStepLimit = \"1e12\" is not a whole number from 1 to 1000000; Undo "
+                                "keeps 1000 steps."));
+}
+
 } // namespace
