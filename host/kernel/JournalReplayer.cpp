@@ -230,18 +230,25 @@ private:
                && m_options.acceptChangedFile(m_source + ", line " + std::to_string(line) + ": " + why);
     }
 
-    // The file a load line names, and its loader; false with error when the loader is gone.
-    bool resolve(const std::string& arguments, Journal::FileRecord& file, std::string& path,
-                 sdk::DataLoaderRepository::LoaderPtr& loader, std::string& error)
+    // What a load line names: the file as recorded, where it is now, and its loader.
+    struct LoadLine
     {
-        if (!Journal::parseLoad(arguments, file, error))
+        Journal::FileRecord recorded;
+        std::string path;
+        sdk::DataLoaderRepository::LoaderPtr loader;
+    };
+
+    // The file a load line names, and its loader; false with error when the loader is gone.
+    bool resolve(const std::string& arguments, LoadLine& load, std::string& error)
+    {
+        if (!Journal::parseLoad(arguments, load.recorded, error))
             return false;
-        std::filesystem::path named(file.path);
+        std::filesystem::path named(load.recorded.path);
         if (named.is_relative() && !m_options.folder.empty())
             named = std::filesystem::path(m_options.folder) / named;
-        path = named.string();
-        if (!(loader = sdk::DataLoaderRepository::getInstance().loaderNamed(file.loader))) {
-            error = "the loader \"" + file.loader + "\" for " + path + " is not installed.";
+        load.path = named.string();
+        if (!(load.loader = sdk::DataLoaderRepository::getInstance().loaderNamed(load.recorded.loader))) {
+            error = "the loader \"" + load.recorded.loader + "\" for " + load.path + " is not installed.";
             return false;
         }
         return true;
@@ -269,11 +276,11 @@ private:
 
     bool checkLoad(int line, const std::string& arguments, std::string& error)
     {
-        Journal::FileRecord recorded;
-        std::string path;
-        sdk::DataLoaderRepository::LoaderPtr loader;
-        if (!resolve(arguments, recorded, path, loader, error))
+        LoadLine load;
+        if (!resolve(arguments, load, error))
             return false;
+        const Journal::FileRecord& recorded = load.recorded;
+        const std::string& path = load.path;
         sdk::FileBlockReader file;
         std::string why;
         if (!file.open(path, why)) {
@@ -292,11 +299,11 @@ private:
 
     bool playLoad(int line, const std::string& arguments, std::string& error)
     {
-        Journal::FileRecord recorded;
-        std::string path;
-        sdk::DataLoaderRepository::LoaderPtr loader;
-        if (!resolve(arguments, recorded, path, loader, error))
+        LoadLine load;
+        if (!resolve(arguments, load, error))
             return false;
+        const Journal::FileRecord& recorded = load.recorded;
+        const std::string& path = load.path;
         bool changed = false;
         FileLoad::Expected expected;
         expected.size = recorded.size;
@@ -306,7 +313,7 @@ private:
             return acceptChanged(line, why);
         };
         std::string why;
-        if (FileLoad::load(*loader, path, why, m_acceptedLines.count(line) ? nullptr : &expected))
+        if (FileLoad::load(*load.loader, path, why, m_acceptedLines.count(line) ? nullptr : &expected))
             return true;
         error = changed ? why : "cannot load " + path + ": " + why;
         return false;
