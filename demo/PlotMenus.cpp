@@ -7,7 +7,7 @@
 #include <QMenu>
 #include "demo/AxisTitlesDialog.h"
 #include "demo/HostText.h"
-#include "demo/ColourRamp.h"
+#include "plot/ColourRamp.h"
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/Mnemonics.h"

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QWidget>
-#include "demo/PlotGeometry.h"
+#include "plot/PlotGeometry.h"
 
 class QPainter;
 class QRubberBand;

@@ -88,3 +88,8 @@ for layer in platform core framework prompts; do
   fi
 done
 echo "package: the library's layers link no host"
+# The figure stands alone: Qt is all its library needs.
+if readelf -d "$build/liborrery-plot-qt$major.so" | grep -q 'liborrery-'; then
+  echo "package: liborrery-plot-qt$major needs another of our libraries" >&2; exit 1
+fi
+echo "package: the plot library needs none of ours"

@@ -2,7 +2,7 @@
 #include <map>
 #include <random>
 #include <gtest/gtest.h>
-#include "demo/LineReduction.h"
+#include "plot/LineReduction.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 #include <QFont>
 #include <QRectF>
-#include "demo/AxisTicks.h"
+#include "plot/AxisTicks.h"
 
 struct PlotScene;
 class QPainter;

@@ -1,5 +1,5 @@
 #include "demo/PlotPainter.h"
-#include "demo/LineReduction.h"
+#include "plot/LineReduction.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,12 +11,12 @@
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
-#include "demo/AxisTicks.h"
-#include "demo/ColourRamp.h"
+#include "plot/AxisTicks.h"
+#include "plot/ColourRamp.h"
 #include "demo/PlotKey.h"
 #include "demo/PlotScene.h"
-#include "demo/PlotSymbol.h"
-#include "demo/PointRaster.h"
+#include "plot/PlotSymbol.h"
+#include "plot/PointRaster.h"
 #include "host/kernel/OrrUtilHost.h"
 
 namespace {

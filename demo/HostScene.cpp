@@ -6,7 +6,7 @@
 #include <tuple>
 #include <QCoreApplication>
 #include "demo/HostText.h"
-#include "demo/AxisTicks.h"
+#include "plot/AxisTicks.h"
 #include "demo/HostStyle.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"

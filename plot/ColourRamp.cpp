@@ -1,4 +1,4 @@
-#include "demo/ColourRamp.h"
+#include "plot/ColourRamp.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,8 +3,8 @@
 #include <QPointF>
 #include <QRectF>
 #include <QString>
-#include "demo/AxisTicks.h"
-#include "demo/PlotGeometry.h"
+#include "plot/AxisTicks.h"
+#include "plot/PlotGeometry.h"
 
 class QColor;
 class QPainter;

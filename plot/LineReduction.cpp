@@ -1,4 +1,4 @@
-#include "demo/LineReduction.h"
+#include "plot/LineReduction.h"
 #include <cmath>
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "demo/AxisTicks.h"
+#include "plot/AxisTicks.h"
 
 #include <algorithm>
 #include <cmath>

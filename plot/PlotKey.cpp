@@ -5,10 +5,10 @@
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
-#include "demo/AxisTicks.h"
-#include "demo/ColourRamp.h"
+#include "plot/AxisTicks.h"
+#include "plot/ColourRamp.h"
 #include "demo/PlotScene.h"
-#include "demo/PlotSymbol.h"
+#include "plot/PlotSymbol.h"
 
 namespace {
 

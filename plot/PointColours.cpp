@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include "demo/ColourRamp.h"
+#include "plot/ColourRamp.h"
 #include "demo/HostStyle.h"
 #include "host/kernel/OrrUtilHost.h"
 

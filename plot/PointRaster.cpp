@@ -1,4 +1,4 @@
-#include "demo/PointRaster.h"
+#include "plot/PointRaster.h"
 
 #include <algorithm>
 #include <cmath>

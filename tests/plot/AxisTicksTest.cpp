@@ -2,7 +2,7 @@
 #include <set>
 #include <QLocale>
 #include <gtest/gtest.h>
-#include "demo/AxisTicks.h"
+#include "plot/AxisTicks.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "demo/PlotSymbol.h"
+#include "plot/PlotSymbol.h"
 
 #include <QPainter>
 
