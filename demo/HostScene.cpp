@@ -1,13 +1,14 @@
-#include "demo/PlotScene.h"
+#include "demo/HostScene.h"
 
 #include <cmath>
 #include <limits>
 #include <map>
 #include <tuple>
 #include <QCoreApplication>
+#include "demo/HostStyle.h"
 #include "demo/HostText.h"
 #include "plot/AxisTicks.h"
-#include "demo/HostStyle.h"
+#include "plot/PlotScene.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/sdk/StateChangeEventObservable.h"
@@ -16,7 +17,7 @@ namespace {
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("PlotScene", text);
+    return QCoreApplication::translate("HostScene", text);
 }
 
 std::vector<std::string> namedCategories(int var)
@@ -160,46 +161,42 @@ int firstVaryingVar(const PlotScene& scene)
     return fallback ? fallback : scene.axes[1].var;
 }
 
+QRgb basicColour(int index)
+{
+    unsigned char r = 0, g = 0, b = 0;
+    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
+    return qRgb(r, g, b);
+}
+
+// The colours of one zone's layer from the host's colour index: a basic colour,
+// the colour map, or red, green and blue from the variables the style names.
+PointColours coloursOf(int index, int zone, const PointColours::Contour& contour)
+{
+    const QRgb fixed = basicColour(index < 0 ? 0 : index);
+    if (index == HostScene::RGBColoring) {
+        PointColours::Channels channels;
+        channels.mode = static_cast<int>(HostStyle::integer("GlobalRGB/RGBMode"));
+        channels.min = HostStyle::number("GlobalRGB/RangeMin", -1, 0.0);
+        channels.max = HostStyle::number("GlobalRGB/RangeMax", -1, 1.0);
+        const char* names[] = {"GlobalRGB/RedChannelVar", "GlobalRGB/GreenChannelVar", "GlobalRGB/BlueChannelVar"};
+        for (int c = 0; c < 3; ++c)
+            channels.values[size_t(c)] = OrrUtilVarGetValuesInZone(zone, int(HostStyle::integer(names[c])));
+        return PointColours::rgb(fixed, channels);
+    }
+    if (index < 0)
+        return PointColours::mapped(fixed, OrrUtilVarGetValuesInZone(zone, contour.var), contour);
+    return PointColours(fixed);
+}
+
 } // namespace
 
-bool PlotScene::drawable(double v)
-{
-    const double size = std::abs(v);
-    return size <= MostMagnitude && (size >= std::numeric_limits<double>::min() || v == 0.0);
-}
-
-bool PlotScene::anyScatter() const
-{
-    return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });
-}
-
-QRgb PlotScene::lineColour(size_t line, QRgb zoneColour)
-{
-    if (line == 0)
-        return zoneColour;
-    // Red, blue, green, purple, cyan: apart from each other and from white; not the zone's own.
-    static const int palette[] = {1, 3, 2, 6, 4};
-    std::vector<QRgb> colours;
-    for (int index : palette) {
-        unsigned char r = 0, g = 0, b = 0;
-        OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
-        if (qRgb(r, g, b) != zoneColour)
-            colours.push_back(qRgb(r, g, b));
-    }
-    return colours[(line - 1) % colours.size()];
-}
-
-bool PlotScene::anyRamp() const
-{
-    auto ramped = [](int index) { return index < 0 && index != PointColours::RGBColoring; };
-    return std::any_of(zones.begin(), zones.end(), [&](const Zone& z) {
-        return (z.mesh && ramped(z.meshColour)) || (z.scatter && ramped(z.scatterColour));
-    });
-}
-
-PlotScene PlotScene::fromHost()
+PlotScene HostScene::read()
 {
     PlotScene scene;
+    if (!OrrUtilDataSetIsAvailable() || OrrUtilFrameGetCount() < 1) {
+        scene.problem = tr("No data set: open a file or a sample.");
+        return scene;
+    }
     const PlotType_e type = OrrUtilFrameGetPlotType();
     if (type != PlotType_TwoD && type != PlotType_ThreeD && type != PlotType_XYLine) {
         scene.problem = tr("Plot type %1 shows no data in this demo.").arg(int(type));
@@ -220,12 +217,10 @@ PlotScene PlotScene::fromHost()
     for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone) {
         if (!OrrUtilZoneIsEnabled(zone))
             continue;
-        Zone z;
+        PlotScene::Zone z;
         z.zone = zone;
         z.name = takeHostText(OrrUtilZoneGetName(zone));
         z.points = OrrUtilZoneGetNumPoints(zone);
-        z.meshColour = int(HostStyle::integer("FieldMap/Mesh/Color", zone));
-        z.scatterColour = int(HostStyle::integer("FieldMap/Scatter/Color", zone));
         z.mesh = HostStyle::flag("FieldMap/Mesh/Show", zone, true);
         z.scatter = !scene.lines && HostStyle::flag("FieldMap/Scatter/Show", zone);
         z.faded = active > 0 && active != zone;
@@ -235,9 +230,9 @@ PlotScene PlotScene::fromHost()
     const QString dataTitle = takeHostText(OrrUtilDataSetGetTitle());
     if (OrrUtilDataSetGetNumZones() == 1 && scene.zones.size() == 1 && !dataTitle.isEmpty())
         scene.zones.front().name = dataTitle;
-    for (const Zone& z : scene.zones) {
-        if (z.scatter && scene.countIn(z.points) > MostSymbols) {
-            scene.notes << tr("Symbols are drawn for the first %1 points of a zone.").arg(MostSymbols);
+    for (const PlotScene::Zone& z : scene.zones) {
+        if (z.scatter && scene.countIn(z.points) > PlotScene::MostSymbols) {
+            scene.notes << tr("Symbols are drawn for the first %1 points of a zone.").arg(PlotScene::MostSymbols);
             break;
         }
     }
@@ -245,7 +240,7 @@ PlotScene PlotScene::fromHost()
     const std::string root = scene.threeD ? "ThreeDAxis/" : "TwoDAxis/";
     const char* names[] = {"XDetail", "YDetail", "ZDetail"};
     for (int a = 0; a < scene.dims; ++a) {
-        Axis& axis = scene.axes[a];
+        PlotScene::Axis& axis = scene.axes[a];
         axis.var = int(HostStyle::integer(root + names[a] + "/VarNum"));
         axis.name = takeHostText(OrrUtilVarGetName(axis.var));
         if (axis.name.isEmpty()) {
@@ -269,14 +264,14 @@ PlotScene PlotScene::fromHost()
                 scene.axes[1].title = scene.lineNames.join(", ");
         }
     }
-    for (Zone& z : scene.zones) {
+    for (PlotScene::Zone& z : scene.zones) {
         for (int a = 0; a < scene.dims; ++a)
             z.values[a] = OrrUtilVarGetValuesInZone(z.zone, scene.axes[a].var);
         for (int var : scene.lineVars)
             z.lineValues.push_back(OrrUtilVarGetValuesInZone(z.zone, var));
     }
     for (int a = 0; a < scene.dims; ++a) {
-        Axis& axis = scene.axes[a];
+        PlotScene::Axis& axis = scene.axes[a];
         const std::vector<int> vars = a == 1 && scene.lines ? scene.lineVars : std::vector<int>{axis.var};
         long leftOut = 0;
         const bool any = rangeOfAll(scene, vars, axis.log, axis.min, axis.max, &axis.integers, &leftOut);
@@ -312,10 +307,18 @@ PlotScene PlotScene::fromHost()
     scene.vectors = !scene.lines && HostStyle::flag("FieldLayers/ShowVector");
     const std::string vectorRoot = scene.threeD ? "GlobalThreeDVector/" : "GlobalTwoDVector/";
     const char* components[] = {"UVar", "VVar", "WVar"};
-    for (int c = 0; c < scene.dims; ++c)
-        scene.vectorVars[c] = int(HostStyle::integer(vectorRoot + components[c]));
-    scene.sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
-    scene.sizeName = takeHostText(OrrUtilVarGetName(scene.sizeVar));
+    const int sizeVar = int(HostStyle::integer("GlobalScatter/Var"));
+    for (PlotScene::Zone& z : scene.zones) {
+        for (int c = 0; c < scene.dims; ++c)
+            z.vectors[c] = OrrUtilVarGetValuesInZone(z.zone, int(HostStyle::integer(vectorRoot + components[c])));
+        z.sizes = OrrUtilVarGetValuesInZone(z.zone, sizeVar);
+        z.meshColours = coloursOf(int(HostStyle::integer("FieldMap/Mesh/Color", z.zone)), z.zone, scene.contour);
+        z.scatterColours = coloursOf(int(HostStyle::integer("FieldMap/Scatter/Color", z.zone)), z.zone, scene.contour);
+    }
+    // Red, blue, green, purple, cyan: apart from each other and from white.
+    for (int index : {1, 3, 2, 6, 4})
+        scene.linePalette.push_back(basicColour(index));
+    scene.sizeName = takeHostText(OrrUtilVarGetName(sizeVar));
     scene.relativeSize = HostStyle::number("GlobalScatter/RelativeSize", -1, 1.0);
     scene.sizeInCm = !HostStyle::flag("GlobalScatter/RelativeSizeInGridUnits", -1, true);
     scene.mediumPercent = HostStyle::number("BasicSize/SymbolSizes/Medium", -1, 2.5);

@@ -2,7 +2,7 @@
 
 #include <functional>
 #include "demo/HostStyle.h"
-#include "demo/PointColours.h"
+#include "demo/HostScene.h"
 #include "demo/Translations.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
@@ -41,9 +41,9 @@ bool anyRGB()
 {
     return anyZone([](int zone) {
         return (HostStyle::flag("FieldMap/Mesh/Show", zone, true)
-                && HostStyle::integer("FieldMap/Mesh/Color", zone) == PointColours::RGBColoring)
+                && HostStyle::integer("FieldMap/Mesh/Color", zone) == HostScene::RGBColoring)
                || (HostStyle::flag("FieldMap/Scatter/Show", zone)
-                   && HostStyle::integer("FieldMap/Scatter/Color", zone) == PointColours::RGBColoring);
+                   && HostStyle::integer("FieldMap/Scatter/Color", zone) == HostScene::RGBColoring);
     });
 }
 

@@ -13,7 +13,8 @@
 #include "demo/Mnemonics.h"
 #include "demo/PlotExport.h"
 #include "demo/PlotExportDialog.h"
-#include "demo/PlotScene.h"
+#include "demo/HostScene.h"
+#include "plot/PlotScene.h"
 #include "demo/PlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 
@@ -79,7 +80,7 @@ void PlotMenus::refresh()
 void PlotMenus::fillColourBy(QMenu& menu)
 {
     menu.clear();
-    const PlotScene scene = PlotScene::fromHost();
+    const PlotScene scene = HostScene::read();
     const long chosen = scene.anyRamp() ? HostStyle::integer("GlobalContour/Var") : -1;
     for (int var = 0; var <= OrrUtilDataSetGetNumVars(); ++var) {
         if (var > 0 && !OrrUtilVarIsEnabled(var))
@@ -102,7 +103,7 @@ void PlotMenus::fillColourBy(QMenu& menu)
 void PlotMenus::fillLines(QMenu& menu)
 {
     menu.clear();
-    const PlotScene scene = PlotScene::fromHost();
+    const PlotScene scene = HostScene::read();
     for (int var = 1; var <= OrrUtilDataSetGetNumVars(); ++var) {
         if (!OrrUtilVarIsEnabled(var) || var == scene.axes[0].var)
             continue;
@@ -117,7 +118,7 @@ void PlotMenus::fillLines(QMenu& menu)
 // The first line's variable is the Y axis's; the others are listed after it. At least one stays.
 void PlotMenus::showLine(int var, bool on)
 {
-    std::vector<int> vars = PlotScene::fromHost().lineVars;
+    std::vector<int> vars = HostScene::read().lineVars;
     vars.erase(std::remove(vars.begin(), vars.end(), var), vars.end());
     if (on)
         vars.push_back(var);

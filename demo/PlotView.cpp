@@ -6,7 +6,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRubberBand>
-#include "demo/PlotPainter.h"
+#include "demo/HostScene.h"
+#include "plot/PlotPainter.h"
+#include "plot/PlotScene.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 
 using orrery::sdk::integration::StateChangeEventInterface;
@@ -71,7 +73,7 @@ PlotGeometry PlotView::render(QPainter& painter, const QRectF& area) const
 {
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    return PlotPainter(m_yaw, m_pitch, m_window ? &*m_window : nullptr).paint(painter, area);
+    return PlotPainter(m_yaw, m_pitch, m_window ? &*m_window : nullptr).paint(painter, area, HostScene::read());
 }
 
 void PlotView::render(QImage& image) const

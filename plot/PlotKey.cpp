@@ -1,4 +1,4 @@
-#include "demo/PlotKey.h"
+#include "plot/PlotKey.h"
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -7,7 +7,7 @@
 #include <QPainter>
 #include "plot/AxisTicks.h"
 #include "plot/ColourRamp.h"
-#include "demo/PlotScene.h"
+#include "plot/PlotScene.h"
 #include "plot/PlotSymbol.h"
 
 namespace {
@@ -52,7 +52,7 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font, double height) : m_s
     m_zones = scene.anyScatter()
               || (scene.zones.size() > 1
                   && std::any_of(scene.zones.begin(), scene.zones.end(), [&](const PlotScene::Zone& z) {
-                         return z.faded || z.meshColour != scene.zones.front().meshColour;
+                         return z.faded || !z.meshColours.sameAs(scene.zones.front().meshColours);
                      }));
     if (m_zones)
         for (const PlotScene::Zone& zone : scene.zones)
@@ -149,10 +149,10 @@ double PlotKey::paintLines(QPainter& painter, const QRectF& column) const
     const QFontMetricsF metrics(m_font);
     const double row = metrics.height() + 3;
     const PlotScene::Zone& first = m_scene.zones.front();
-    const QRgb zoneColour = PointColours(first.meshColour, first.zone, m_scene.contour).fixed();
+    const QRgb zoneColour = first.meshColours.fixed();
     double y = column.top();
     for (int line = 0; line < m_scene.lineNames.size() && y + row <= column.bottom(); ++line, y += row) {
-        painter.setPen(QPen(QColor(PlotScene::lineColour(size_t(line), zoneColour)), 2));
+        painter.setPen(QPen(QColor(m_scene.lineColour(size_t(line), zoneColour)), 2));
         painter.drawLine(QPointF(column.left(), y + row / 2), QPointF(column.left() + 2 * Swatch, y + row / 2));
         painter.setPen(Qt::black);
         painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
@@ -170,7 +170,7 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
         if (y + row > column.bottom())
             break;
         const QPointF centre(column.left() + Swatch, y + row / 2);
-        const PointColours colours(zone.scatter ? zone.scatterColour : zone.meshColour, zone.zone, m_scene.contour);
+        const PointColours& colours = zone.scatter ? zone.scatterColours : zone.meshColours;
         QColor colour = colours.varies() ? QColor(ColourRamp::at(m_scene.contour.map, 0.7)) : QColor(colours.fixed());
         if (zone.faded)
             colour = QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 4, 255 - (255 - colour.value()) / 4);

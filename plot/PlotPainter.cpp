@@ -1,4 +1,4 @@
-#include "demo/PlotPainter.h"
+#include "plot/PlotPainter.h"
 #include "plot/LineReduction.h"
 
 #include <algorithm>
@@ -13,11 +13,10 @@
 #include <QPainterPath>
 #include "plot/AxisTicks.h"
 #include "plot/ColourRamp.h"
-#include "demo/PlotKey.h"
-#include "demo/PlotScene.h"
+#include "plot/PlotKey.h"
+#include "plot/PlotScene.h"
 #include "plot/PlotSymbol.h"
 #include "plot/PointRaster.h"
-#include "host/kernel/OrrUtilHost.h"
 
 namespace {
 
@@ -208,15 +207,10 @@ private:
     mutable std::vector<long> m_order;
 };
 
-PlotGeometry PlotPainter::paint(QPainter& painter, const QRectF& area) const
+PlotGeometry PlotPainter::paint(QPainter& painter, const QRectF& area, const PlotScene& scene) const
 {
     painter.fillRect(area, Qt::white);
     painter.setPen(Qt::black);
-    if (!OrrUtilDataSetIsAvailable() || OrrUtilFrameGetCount() < 1) {
-        paintMessage(painter, area, tr("No data set: open a file or a sample."));
-        return {};
-    }
-    const PlotScene scene = PlotScene::fromHost();
     if (!scene.problem.isEmpty()) {
         paintMessage(painter, area, scene.problem);
         return {};
@@ -240,9 +234,8 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     const QFontMetricsF metrics(painter.font());
     const double em = metrics.height();
     const double titleHeight = QFontMetricsF(titleFont(painter.font())).height() * 1.5;
-    const double top = scene.anchor <= AnchorAlignment_TopRight ? titleHeight : em;
-    const double bottom = (scene.threeD ? em : 2.4 * em + 10)
-                          + (scene.anchor >= AnchorAlignment_BottomLeft ? titleHeight : 0.0)
+    const double top = scene.anchor / 3 == 0 ? titleHeight : em;
+    const double bottom = (scene.threeD ? em : 2.4 * em + 10) + (scene.anchor / 3 == 2 ? titleHeight : 0.0)
                           + (scene.notes.isEmpty() ? 0.0 : em * scene.notes.size());
 
     Projection p;
@@ -470,14 +463,14 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
             out = p.map(x, y, z);
             return true;
         };
-        const PointColours mesh(zone.meshColour, zone.zone, scene.contour);
+        const PointColours& mesh = zone.meshColours;
         if (scene.lines) {
             // In the order of the index variable (X); a missing Y leaves a gap.
             const LineOrder order(scene, zone.points, v[0]); // shared by the lines of the zone
             for (size_t line = 0; line < zone.lineValues.size(); ++line)
                 if (const double* y = zone.lineValues[line])
                     paintLine(painter, p, order, v[0], y,
-                              QColor(faded(PlotScene::lineColour(line, mesh.fixed()), zone.faded)));
+                              QColor(faded(scene.lineColour(line, mesh.fixed()), zone.faded)));
             continue;
         }
 
@@ -527,8 +520,8 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
         }
 
         if (zone.scatter) {
-            const PointColours colours(zone.scatterColour, zone.zone, scene.contour);
-            const double* sizes = OrrUtilVarGetValuesInZone(zone.zone, scene.sizeVar);
+            const PointColours& colours = zone.scatterColours;
+            const double* sizes = zone.sizes;
             double largest = 0.0;
             if (sizes)
                 scene.forEachIndex(zone.points, [&](long i) {
@@ -556,9 +549,7 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
         }
 
         if (scene.vectors) {
-            const double* c[3] = {OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[0]),
-                                  OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[1]),
-                                  scene.threeD ? OrrUtilVarGetValuesInZone(zone.zone, scene.vectorVars[2]) : nullptr};
+            const double* const* c = zone.vectors;
             if (!c[0] || !c[1] || (scene.threeD && !c[2]))
                 continue;
             QPointF q;

@@ -10,10 +10,9 @@ class QColor;
 class QPainter;
 struct PlotScene;
 
-// Paints the current frame of the host onto a painter: axes with round ticks,
-// the zones' points, lines, symbols and vectors, the key and the title.
-// Everything is read from the host when paint() is called; the object holds
-// only how the user looks at it (3D angles, a 2D window).
+// Paints a scene onto a painter: axes with round ticks, the zones' points,
+// lines, symbols and vectors, the key and the title. The object holds only how
+// the user looks at it (3D angles, a 2D window).
 class PlotPainter
 {
 public:
@@ -22,7 +21,7 @@ public:
     {}
 
     // area in the painter's logical units; returns where the axes went.
-    PlotGeometry paint(QPainter& painter, const QRectF& area) const;
+    PlotGeometry paint(QPainter& painter, const QRectF& area, const PlotScene& scene) const;
 
     // Above this many points a layer is drawn through a raster of the axes box.
     static constexpr long ManyPoints = 20000;

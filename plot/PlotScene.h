@@ -5,11 +5,12 @@
 #include <QString>
 #include <QColor>
 #include <QStringList>
-#include "demo/PointColours.h"
+#include "plot/PointColours.h"
 
-// What the current frame asks to be drawn, read from the host in one go: the
-// axes with the range of the values to be drawn, the zones and their layers,
-// the colouring, title, symbol and index range.
+// What a figure shows, as a plain value: the axes with the range of the values
+// to be drawn, the zones and their layers (values, colours, sizes, vectors),
+// the colouring, title, symbol and index range. The columns it points to are
+// its maker's and must outlive it.
 struct PlotScene
 {
     struct Axis
@@ -30,8 +31,10 @@ struct PlotScene
         long points = 0;
         const double* values[3] = {nullptr, nullptr, nullptr};
         std::vector<const double*> lineValues; // of each of lineVars
-        int meshColour = 0;
-        int scatterColour = 0;
+        const double* sizes = nullptr;         // of the symbols; one size when none
+        const double* vectors[3] = {nullptr, nullptr, nullptr};
+        PointColours meshColours;
+        PointColours scatterColours;
         bool mesh = false;
         bool scatter = false;
         bool faded = false; // another zone is picked out
@@ -45,7 +48,7 @@ struct PlotScene
     int dims = 2;
     Axis axes[3];
     QString title;
-    int anchor = 1;
+    int anchor = 1; // the title's place: row * 3 + column in a grid of three by three, top left 0
     long begin = 1, end = 0, skip = 1;
     PointColours::Contour contour;
     int automaticContourVar = 0; // what colours the points when no variable is chosen
@@ -53,13 +56,13 @@ struct PlotScene
     bool contourIntegers = false;
     std::vector<std::string> contourCategories;
     bool vectors = false;
-    int vectorVars[3] = {0, 0, 0};
-    int sizeVar = 0;
     QString sizeName; // of the variable that sizes the symbols; empty for one size
     double relativeSize = 1.0;
     bool sizeInCm = false;
     double mediumPercent = 2.5;
     QString symbol;
+    // The colours of an XY line plot's further lines, in turn.
+    std::vector<QRgb> linePalette;
     std::vector<Zone> zones;
     // Why nothing can be drawn; empty when something can.
     QString problem;
@@ -74,15 +77,13 @@ struct PlotScene
     // Finite and neither too large nor too small to draw.
     static bool drawable(double v);
 
-    static PlotScene fromHost();
-
-    // Calls visit(i) for every point index of a zone of `points` within the chosen range.
     // How many of a zone's `points` are within the chosen range.
     long countIn(long points) const
     {
         const long last = end > 0 ? std::min(end, points) : points;
         return last >= begin ? (last - begin) / skip + 1 : 0;
     }
+    // Calls visit(i) for every point index of a zone of `points` within the chosen range.
     template <typename Visit>
     void forEachIndex(long points, const Visit& visit) const
     {
@@ -91,7 +92,8 @@ struct PlotScene
             visit(i);
     }
     bool anyScatter() const;
-    // The colour of a zone's line of the line-th Y variable: the zone's own for the first.
-    static QRgb lineColour(size_t line, QRgb zoneColour);
+    // The colour of a zone's line of the line-th Y variable: the zone's own for the first,
+    // then the palette's that differ from it.
+    QRgb lineColour(size_t line, QRgb zoneColour) const;
     bool anyRamp() const;
 };

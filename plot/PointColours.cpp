@@ -1,44 +1,31 @@
-#include "demo/PointColours.h"
+#include "plot/PointColours.h"
 
 #include <algorithm>
 #include <cmath>
 #include "plot/ColourRamp.h"
-#include "demo/HostStyle.h"
-#include "host/kernel/OrrUtilHost.h"
 
-namespace {
-
-QColor basicColor(int index)
+PointColours PointColours::mapped(QRgb fixed, const double* values, const Contour& contour)
 {
-    unsigned char r = 0, g = 0, b = 0;
-    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
-    return QColor(r, g, b);
+    PointColours colours(fixed);
+    colours.m_onMap = true;
+    colours.m_contour = contour;
+    colours.m_channels.values[0] = values;
+    if (values)
+        colours.m_kind = Kind::Ramp;
+    return colours;
 }
 
-} // namespace
-
-PointColours::PointColours(int colorIndex, int zone, const Contour& contour) : m_contour(contour)
+PointColours PointColours::rgb(QRgb fixed, const Channels& channels)
 {
-    if (colorIndex == RGBColoring) {
-        m_kind = Kind::RGB;
-        m_mode = static_cast<int>(HostStyle::integer("GlobalRGB/RGBMode"));
-        m_min = HostStyle::number("GlobalRGB/RangeMin", -1, 0.0);
-        m_max = HostStyle::number("GlobalRGB/RangeMax", -1, 1.0);
-        const char* channels[] = {"GlobalRGB/RedChannelVar", "GlobalRGB/GreenChannelVar", "GlobalRGB/BlueChannelVar"};
-        for (int c = 0; c < 3; ++c)
-            m_channel[c] = OrrUtilVarGetValuesInZone(zone, int(HostStyle::integer(channels[c])));
-    } else if (colorIndex < 0) {
-        m_kind = Kind::Ramp;
-        m_channel[0] = OrrUtilVarGetValuesInZone(zone, contour.var);
-        if (!m_channel[0])
-            m_kind = Kind::Fixed;
-    }
-    m_fixed = basicColor(colorIndex < 0 ? 0 : colorIndex).rgb();
+    PointColours colours(fixed);
+    colours.m_kind = Kind::RGB;
+    colours.m_channels = channels;
+    return colours;
 }
 
 double PointColours::valueAt(long i) const
 {
-    const double v = m_channel[0][i];
+    const double v = m_channels.values[0][i];
     if (!std::isfinite(v))
         return -1.0;
     const double span = m_contour.max - m_contour.min;
@@ -53,13 +40,14 @@ QRgb PointColours::at(long i) const
         const double t = valueAt(i);
         return t < 0.0 ? qRgb(160, 160, 160) : ColourRamp::at(m_contour.map, t);
     }
+    const Channels& ch = m_channels;
     double c[3];
     for (int k = 0; k < 3; ++k)
-        c[k] = m_channel[k] ? std::clamp((m_channel[k][i] - m_min) / (m_max > m_min ? m_max - m_min : 1.0), 0.0, 1.0)
-                            : 0.0;
-    // Modes 1 to 3 leave one channel to be calculated from the other two.
-    if (m_mode >= 1 && m_mode <= 3) {
-        const int calculated = m_mode == 1 ? 2 : m_mode == 2 ? 1 : 0;
+        c[k] = ch.values[k]
+                   ? std::clamp((ch.values[k][i] - ch.min) / (ch.max > ch.min ? ch.max - ch.min : 1.0), 0.0, 1.0)
+                   : 0.0;
+    if (ch.mode >= 1 && ch.mode <= 3) {
+        const int calculated = ch.mode == 1 ? 2 : ch.mode == 2 ? 1 : 0;
         c[calculated] = std::clamp(1.0 - c[(calculated + 1) % 3] - c[(calculated + 2) % 3], 0.0, 1.0);
     }
     if (!std::isfinite(c[0]) || !std::isfinite(c[1]) || !std::isfinite(c[2]))
