@@ -1,5 +1,7 @@
 #include "demo/CommandLine.h"
 
+#include <algorithm>
+
 CommandLine::CommandLine()
     : m_replay("replay", "Play the session (a journal) back after loading the file.", "session"),
       m_replayChanged("replay-changed", "Load the data files a session names even where their content has changed."),
@@ -21,7 +23,12 @@ CommandLine::CommandLine()
                "Write the plot to <file> (.png, .svg or .pdf) after loading the file, any replay and any "
                "--save-session, then exit.",
                "file"),
-      m_dpi("dpi", "With --export to a PNG: <n> dots per inch (96 is one pixel a screen pixel).", "n", "96"),
+      m_dpi("dpi",
+            "With --export to a PNG: <n> dots per inch (96 is one pixel a screen pixel); the figure stays the same, "
+            "finer or coarser.",
+            "n", "96"),
+      m_size("size", "With --export: the figure's size in screen pixels (1/96 inch), <width>x<height>.", "WxH",
+             "800x600"),
       m_help({"h", "help"}, "Displays help on commandline options."),
       m_version({"v", "version"}, "Displays version information.")
 {
@@ -30,7 +37,7 @@ CommandLine::CommandLine()
         "Order: --recover, FILE, --plot-type, --replay, then --save-session and --export, or --tour.");
     m_parser.addPositionalArgument("file", "Data file to load instead of the built-in sample data set.", "[FILE]");
     m_parser.addOptions({m_replay, m_replayChanged, m_saveSession, m_recover, m_stdin, m_tour, m_plotType, m_language,
-                         m_export, m_dpi, m_help, m_version});
+                         m_export, m_dpi, m_size, m_help, m_version});
 }
 
 CommandLine::Outcome CommandLine::refuse(const QString& problem)
@@ -68,6 +75,13 @@ CommandLine::Outcome CommandLine::parse(const QStringList& arguments)
     dotsPerInch = m_parser.value(m_dpi).toDouble(&number);
     if (!number || !(dotsPerInch >= 24 && dotsPerInch <= 2400))
         return refuse("--dpi takes a number from 24 to 2400.");
+    const QStringList sides = m_parser.value(m_size).split('x');
+    bool wide = false, high = false;
+    plotSize = sides.size() == 2 ? QSize(sides[0].toInt(&wide), sides[1].toInt(&high)) : QSize();
+    // A PNG side beyond 32767 pixels cannot be painted.
+    const double largest = std::max(plotSize.width(), plotSize.height()) * dotsPerInch / 96.0;
+    if (!wide || !high || plotSize.width() < 100 || plotSize.height() < 100 || largest > 32000)
+        return refuse("--size takes <width>x<height>, each at least 100, at most 32000 pixels at the --dpi given.");
     return check();
 }
 
@@ -88,7 +102,8 @@ CommandLine::Outcome CommandLine::check()
         if (m_parser.isSet(conflict.first) && m_parser.isSet(conflict.second))
             return refuse(QString("--%1 cannot go with --%2: %3.")
                               .arg(conflict.first.names().front(), conflict.second.names().front(), conflict.reason));
-    if (m_parser.isSet(m_dpi) && !exporting())
-        return refuse("--dpi goes with --export.");
+    for (const QCommandLineOption* option : {&m_dpi, &m_size})
+        if (m_parser.isSet(*option) && !exporting())
+            return refuse(QString("--%1 goes with --export.").arg(option->names().front()));
     return Outcome::Run;
 }

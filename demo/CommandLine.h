@@ -1,5 +1,6 @@
 #pragma once
 #include <QCommandLineParser>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -38,6 +39,7 @@ public:
     QString language;
     QString exportPlot;
     double dotsPerInch = 96;
+    QSize plotSize{800, 600}; // of an export, in screen pixels
 
     bool exporting() const { return !exportPlot.isEmpty(); }
     bool touring() const { return !tour.isEmpty(); }
@@ -50,6 +52,6 @@ private:
 
     QCommandLineParser m_parser;
     QCommandLineOption m_replay, m_replayChanged, m_saveSession, m_recover, m_stdin, m_tour, m_plotType, m_language,
-        m_export, m_dpi, m_help, m_version;
+        m_export, m_dpi, m_size, m_help, m_version;
     QString m_problem;
 };

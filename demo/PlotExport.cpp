@@ -25,13 +25,17 @@ const int ScreenDpi = 96;
 
 QImage PlotExport::image(const PlotView& view, const QSize& size, double ratio)
 {
-    QImage picture(size * ratio, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(ratio);
-    // Texts are laid out at the screen's resolution, as on screen; the file
-    // then says how many of its pixels make an inch.
+    // Laid out at the screen's resolution, in logical pixels, then scaled as a
+    // whole: another ratio gives the same figure, ticks, texts and all, finer or
+    // coarser. The file then says how many of its pixels make an inch.
+    QImage picture(QSize(qRound(size.width() * ratio), qRound(size.height() * ratio)), QImage::Format_RGB32);
     picture.setDotsPerMeterX(int(ScreenDpi / 0.0254));
     picture.setDotsPerMeterY(int(ScreenDpi / 0.0254));
-    view.render(picture);
+    {
+        QPainter painter(&picture);
+        painter.scale(ratio, ratio);
+        view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    }
     picture.setDotsPerMeterX(int(ScreenDpi * ratio / 0.0254));
     picture.setDotsPerMeterY(int(ScreenDpi * ratio / 0.0254));
     return picture;

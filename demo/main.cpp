@@ -138,7 +138,7 @@ int main(int argc, char** argv)
     }
     if (options.exporting()) {
         QString problem;
-        if (!PlotExport::write(window.plot(), options.exportPlot, window.plot().sizeHint(), options.dotsPerInch / 96.0,
+        if (!PlotExport::write(window.plot(), options.exportPlot, options.plotSize, options.dotsPerInch / 96.0,
                                &problem)) {
             say(problem);
             return end(1);

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include "plot/AxisTicks.h"
@@ -434,11 +435,22 @@ void PlotPainter::paintBox3D(QPainter& painter, const Projection& p, const PlotS
     painter.restore();
 }
 
+double PlotPainter::rasterRatio(const QPainter& painter)
+{
+    const QTransform& world = painter.worldTransform();
+    const double scale = std::sqrt(std::abs(world.determinant()));
+    const double device = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    // A drawing or a document is printed or zoomed: its rastered layers get print resolution.
+    const QPaintEngine* engine = painter.paintEngine();
+    const bool vector = engine && (engine->type() == QPaintEngine::SVG || engine->type() == QPaintEngine::Pdf);
+    return std::max(device * (scale > 0.0 ? scale : 1.0), vector ? VectorRasterDpi / 96.0 : 0.0);
+}
+
 void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Projection& p, const PlotScene& scene) const
 {
     painter.save();
     painter.setClipRect(clip);
-    const double ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    const double ratio = rasterRatio(painter);
     const double baseRadius = std::max(2.0, scene.mediumPercent / 100.0 * std::min(clip.height(), clip.width()) / 2.0);
     const double largestRadius = std::max(baseRadius, std::min(clip.width(), clip.height()) / 12.0);
     const PlotSymbol symbol(scene.symbol, painter.font());

@@ -25,6 +25,10 @@ public:
 
     // Above this many points a layer is drawn through a raster of the axes box.
     static constexpr long ManyPoints = 20000;
+    // Rastered layers in an SVG or PDF are drawn at least this fine.
+    static constexpr double VectorRasterDpi = 300.0;
+    // Device pixels per logical unit for a raster drawn through painter.
+    static double rasterRatio(const QPainter& painter);
 
 private:
     struct Projection;

@@ -109,6 +109,35 @@ TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
     EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
 }
 
+// Share of the pixels of two pictures of one size that differ by more than a shade.
+double differing(const QImage& a, const QImage& b)
+{
+    long count = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            count += std::abs(qGray(p) - qGray(q)) > 64;
+        }
+    return double(count) / (a.width() * a.height());
+}
+
+TEST_F(Plot, AnyResolutionGivesTheSameFigureFinerOrCoarser)
+{
+    PlotView view;
+    const QImage screen = PlotExport::image(view, QSize(400, 300), 1.0);
+    for (double ratio : {2.0, 3.125, 0.5}) {
+        const QImage other = PlotExport::image(view, QSize(400, 300), ratio);
+        ASSERT_EQ(QSize(qRound(400 * ratio), qRound(300 * ratio)), other.size()) << ratio;
+        const QImage back = other.scaled(screen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const QImage reference = ratio >= 1.0
+                                     ? screen
+                                     : screen.scaled(other.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                           .scaled(screen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        // Ticks, texts and layout in the same places: only edges may differ.
+        EXPECT_LT(differing(back, reference), 0.01) << ratio;
+    }
+}
+
 TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
 {
     PlotView view;
