@@ -494,7 +494,9 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                     // The common case of millions of plain points, without a call a point.
                     const PointRaster::Mapping m = raster.mapping(p.sx, p.ox, p.sy, p.oy);
                     scene.forEachIndex(zone.points, [&](long i) {
-                        raster.addPixel(m.scale[0] * v[0][i] + m.offset[0], m.scale[1] * v[1][i] + m.offset[1], -1.0);
+                        const double x = v[0][i], y = v[1][i];
+                        if (PlotScene::drawable(x) && PlotScene::drawable(y))
+                            raster.addPixel(m.scale[0] * x + m.offset[0], m.scale[1] * y + m.offset[1], -1.0);
                     });
                 } else {
                     QPointF q;

@@ -1,14 +1,5 @@
 #include "plot/PlotScene.h"
 
-#include <cmath>
-#include <limits>
-
-bool PlotScene::drawable(double v)
-{
-    const double size = std::abs(v);
-    return size <= MostMagnitude && (size >= std::numeric_limits<double>::min() || v == 0.0);
-}
-
 bool PlotScene::anyScatter() const
 {
     return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });

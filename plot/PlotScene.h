@@ -1,5 +1,7 @@
 #pragma once
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <string>
 #include <vector>
 #include <QString>
@@ -75,7 +77,11 @@ struct PlotScene
     // are left out: the arithmetic of ranges and ticks cannot hold them.
     static constexpr double MostMagnitude = 1e306;
     // Finite and neither too large nor too small to draw.
-    static bool drawable(double v);
+    static bool drawable(double v)
+    {
+        const double size = std::abs(v);
+        return size <= MostMagnitude && (size >= std::numeric_limits<double>::min() || v == 0.0);
+    }
 
     // How many of a zone's `points` are within the chosen range.
     long countIn(long points) const
