@@ -22,7 +22,7 @@
 #include <QPainter>
 #include <QtEndian>
 #include "demo/MainWindow.h"
-#include "demo/PlotView.h"
+#include "demo/HostPlotView.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/KernelDriver.h"
@@ -102,7 +102,7 @@ void putPoints(long count)
 void PlotRedraw(benchmark::State& state)
 {
     putPoints(state.range(0));
-    PlotView view;
+    HostPlotView view;
     QImage image(ImageSize, QImage::Format_RGB32);
     for (auto _ : state) {
         view.render(image);
@@ -130,7 +130,7 @@ void LineRedraw(benchmark::State& state)
     KernelDriver::resetKernel();
     KernelDriver::setDataSet(data);
     KernelDriver::setPlotType(PlotType_XYLine);
-    PlotView view;
+    HostPlotView view;
     QImage image(ImageSize, QImage::Format_RGB32);
     for (auto _ : state) {
         view.render(image);
@@ -145,7 +145,7 @@ BENCHMARK(LineRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond
 void PlotZoomStep(benchmark::State& state)
 {
     putPoints(state.range(0));
-    PlotView view;
+    HostPlotView view;
     view.resize(ImageSize);
     QImage image(ImageSize, QImage::Format_RGB32);
     view.render(image);

@@ -26,7 +26,7 @@
 #include "demo/NewFigure.h"
 #include "demo/PlotEffects.h"
 #include "demo/PlotMenus.h"
-#include "demo/PlotView.h"
+#include "demo/HostPlotView.h"
 #include "demo/RecentFiles.h"
 #include "demo/SessionAutosave.h"
 #include "demo/StateView.h"
@@ -108,7 +108,7 @@ QDockWidget* dockFor(QMainWindow& window, const QString& title, const QString& n
 } // namespace
 
 MainWindow::MainWindow()
-    : m_plot(new PlotView), m_answers(new QPlainTextEdit), m_journal(new QPlainTextEdit), m_state(new StateView)
+    : m_plot(new HostPlotView), m_answers(new QPlainTextEdit), m_journal(new QPlainTextEdit), m_state(new StateView)
 {
     setObjectName("OrreryDemo");
     setWindowTitle(tr("Orrery Prompts demo"));
@@ -191,7 +191,7 @@ MainWindow::MainWindow()
     view->addSeparator();
     for (QDockWidget* dock : {stateDock, journalDock, answersDock})
         view->addAction(dock->toggleViewAction());
-    connect(m_plot, &PlotView::pointerMoved, this, [this](const QString& values) {
+    connect(m_plot, &HostPlotView::pointerMoved, this, [this](const QString& values) {
         if (values.isEmpty())
             statusBar()->clearMessage();
         else

@@ -10,7 +10,7 @@ class QActionGroup;
 class QCloseEvent;
 class QPlainTextEdit;
 class PlotMenus;
-class PlotView;
+class HostPlotView;
 class SessionAutosave;
 class StateView;
 class WindowTitle;
@@ -54,7 +54,7 @@ public:
     // Shows a message the way the host does (a message box, captured in tests).
     void complain(const QString& text);
 
-    PlotView& plot() const { return *m_plot; }
+    HostPlotView& plot() const { return *m_plot; }
     // Where Save puts the session: the file it was last saved to or opened
     // from; empty until then.
     const QString& sessionPath() const { return m_sessionPath; }
@@ -81,7 +81,7 @@ private:
     void setShowVectors(bool on);
     void setShowScatter(bool on);
 
-    PlotView* m_plot;
+    HostPlotView* m_plot;
     QPlainTextEdit* m_answers;
     QPlainTextEdit* m_journal;
     StateView* m_state;

@@ -8,7 +8,7 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
-#include "demo/PlotView.h"
+#include "plot/PlotView.h"
 #include "demo/RegularFile.h"
 
 namespace {

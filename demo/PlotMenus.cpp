@@ -15,7 +15,7 @@
 #include "demo/PlotExportDialog.h"
 #include "demo/HostScene.h"
 #include "plot/PlotScene.h"
-#include "demo/PlotView.h"
+#include "plot/PlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "demo/DemoUser.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/HostPlotView.h"
 #include "demo/TextFit.h"
 #include "demo/TourWatchdog.h"
 #include "platform/common/IdleQueue.h"
@@ -44,7 +44,7 @@ bool save(QWidget& widget, const QString& path)
 }
 
 // The plot as the dialog left it, so that the pictures show what each dialog did.
-bool savePlot(const PlotView& plot, const QString& path)
+bool savePlot(const HostPlotView& plot, const QString& path)
 {
     QString error;
     const bool saved =

@@ -6,7 +6,7 @@
 #include "demo/HostStyle.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/HostPlotView.h"
 #include "demo/SessionAutosave.h"
 #include "demo/StdinJournal.h"
 #include "demo/Tour.h"

@@ -11,7 +11,7 @@
 #include "demo/DialogCatalog.h"
 #include "demo/MainWindow.h"
 #include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/HostPlotView.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
@@ -27,7 +27,7 @@ namespace {
 
 const QSize Size(800, 600);
 
-Drawn drawn(const PlotView& view)
+Drawn drawn(const HostPlotView& view)
 {
     RecordingDevice device(Size);
     QPainter painter(&device);
@@ -72,7 +72,7 @@ protected:
 TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     const Drawn start = drawn(view);
     EXPECT_EQ(pointsInRange(1, 1000000, 1), start.points);
 
@@ -123,7 +123,7 @@ double differing(const QImage& a, const QImage& b)
 
 TEST_F(Plot, AnyResolutionGivesTheSameFigureFinerOrCoarser)
 {
-    PlotView view;
+    HostPlotView view;
     const QImage screen = PlotExport::image(view, QSize(400, 300), 1.0);
     for (double ratio : {2.0, 3.125, 0.5}) {
         const QImage other = PlotExport::image(view, QSize(400, 300), ratio);
@@ -140,7 +140,7 @@ TEST_F(Plot, AnyResolutionGivesTheSameFigureFinerOrCoarser)
 
 TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
 {
-    PlotView view;
+    HostPlotView view;
     QTemporaryDir folder;
     QString error;
     ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.png"), QSize(400, 300), 2.0, &error))
@@ -170,7 +170,7 @@ TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
 
 TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
 {
-    PlotView view;
+    HostPlotView view;
     view.resize(Size);
     view.grab();
     ASSERT_TRUE(view.geometry().navigable);
@@ -198,7 +198,7 @@ TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
 
 TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
 {
-    PlotView view;
+    HostPlotView view;
     const auto picture = [&](const std::vector<double>& x, const std::vector<double>& y) {
         orrery::kernel::DataSet data("Series", {"t", "v"});
         data.addZone("Series", {x, y});
@@ -216,7 +216,7 @@ TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
 
 TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
 {
-    PlotView view;
+    HostPlotView view;
     const double nan = std::numeric_limits<double>::quiet_NaN();
     // A constant, a single point and a column with no values at all.
     orrery::kernel::DataSet data("Odd", {"Constant", "Single", "Missing"});
@@ -269,7 +269,7 @@ size_t mappedColours(const Drawn& picture)
 TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     // View > Color Points By names what Automatic colours by, and ticks nothing while nothing is coloured.
     QMenu* colourBy = window.findChild<QMenu*>("viewColorBy");
     ASSERT_NE(colourBy, nullptr);
@@ -295,7 +295,7 @@ TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
 
 TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
 {
-    PlotView view;
+    HostPlotView view;
     auto screen = [&](const std::string& colourName) {
         orrery::kernel::DataSet data("Heated box", {"x", "y", colourName});
         data.addZone("STRUCTURED_POINTS", {{0, 1, 2}, {0, 1, 4}, {1, 2, 3}});
@@ -318,7 +318,7 @@ TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
 TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     auto titleAxes = [&](const QString& x, const QString& y) {
         QTimer::singleShot(0, &window, [&window, x, y] {
             auto* dialog = window.findChild<AxisTitlesDialog*>();
@@ -357,7 +357,7 @@ TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
 TEST_F(Plot, AnXYLinePlotDrawsSeveralYVariablesEachInItsColourWithALegend)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     Kernel::setPlotType(PlotType_XYLine);
     QMenu* lines = window.findChild<QMenu*>("viewLineVariables");
     ASSERT_NE(lines, nullptr);

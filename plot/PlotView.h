@@ -1,23 +1,28 @@
 #pragma once
 #include <optional>
-#include <boost/signals2/connection.hpp>
+#include <functional>
 #include <QImage>
 #include <QPoint>
 #include <QWidget>
 #include "plot/PlotGeometry.h"
+#include "plot/PlotScene.h"
 
 class QPainter;
 class QRubberBand;
 
-// The current frame drawn from the host's data set and style (see
-// PlotPainter), redrawn after every state change and kept between repaints.
+// A scene drawn by PlotPainter, kept between repaints and drawn anew when its
+// maker says the scene changed.
 // In 2D the wheel zooms about the cursor, dragging pans, Shift-dragging zooms
 // to a box and Home shows everything again; in 3D dragging turns the view.
 class PlotView : public QWidget
 {
     Q_OBJECT
 public:
-    explicit PlotView(QWidget* parent = nullptr);
+    // scene: called for what to draw, each time the picture is drawn anew.
+    explicit PlotView(std::function<PlotScene()> scene, QWidget* parent = nullptr);
+
+    // Draws anew; axesMoved (other variables or data) also shows all of the data.
+    void sceneChanged(bool axesMoved);
 
     // Draws the frame over area (logical units of the painter's device), as the view shows it.
     PlotGeometry render(QPainter& painter, const QRectF& area) const;
@@ -67,5 +72,5 @@ private:
     PlotGeometry m_geometry;
     QPoint m_dragFrom;
     QRubberBand* m_band = nullptr;
-    boost::signals2::scoped_connection m_stateChanges;
+    std::function<PlotScene()> m_scene;
 };

@@ -1,4 +1,4 @@
-#include "demo/PlotView.h"
+#include "plot/PlotView.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,26 +6,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRubberBand>
-#include "demo/HostScene.h"
 #include "plot/PlotPainter.h"
 #include "plot/PlotScene.h"
-#include "platform/sdk/StateChangeEventObservable.h"
-
-using orrery::sdk::integration::StateChangeEventInterface;
-using orrery::sdk::integration::StateChangeEventObservable;
 
 namespace {
-
-// A change that gives the axes other variables or other data makes a zoom meaningless.
-bool movesTheAxes(const StateChangeEventInterface& event)
-{
-    if (event.code() != StateChange_Style)
-        return event.code() != StateChange_NodeMapsAltered && event.code() != StateChange_EnabledZonesChanged;
-    for (const std::string& name : event.stylePath())
-        if (name == "VarNum" || name == "PlotType" || name == "IsLog")
-            return true;
-    return false;
-}
 
 // Both ends finite and far enough apart to be told apart and divided by.
 bool drawable(double min, double max)
@@ -54,26 +38,27 @@ QPointF position(const QMouseEvent* event)
 
 } // namespace
 
-PlotView::PlotView(QWidget* parent) : QWidget(parent)
+PlotView::PlotView(std::function<PlotScene()> scene, QWidget* parent) : QWidget(parent), m_scene(std::move(scene))
 {
     setObjectName("plotView");
     setMinimumSize(240, 180);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    m_stateChanges =
-        StateChangeEventObservable::getInstance().signal().connect([this](const StateChangeEventInterface& event) {
-            if (movesTheAxes(event))
-                m_window.reset();
-            invalidate();
-        });
+}
+
+void PlotView::sceneChanged(bool axesMoved)
+{
+    if (axesMoved)
+        m_window.reset();
+    invalidate();
 }
 
 PlotGeometry PlotView::render(QPainter& painter, const QRectF& area) const
 {
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setRenderHint(QPainter::TextAntialiasing, true);
-    return PlotPainter(m_yaw, m_pitch, m_window ? &*m_window : nullptr).paint(painter, area, HostScene::read());
+    return PlotPainter(m_yaw, m_pitch, m_window ? &*m_window : nullptr).paint(painter, area, m_scene());
 }
 
 void PlotView::render(QImage& image) const
