@@ -1,6 +1,7 @@
 #include "demo/HostScene.h"
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <map>
 #include <tuple>
@@ -11,7 +12,6 @@
 #include "plot/PlotScene.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
-#include "platform/sdk/StateChangeEventObservable.h"
 
 namespace {
 
@@ -29,8 +29,8 @@ std::vector<std::string> namedCategories(int var)
 }
 
 // The smallest and largest finite values of one variable in one zone's drawn
-// points, kept until the data change: a zoom, a turn or a style change redraws
-// ten million points without reading them twice more for their ranges.
+// points, kept while the data set is the same: a zoom, a turn or a style change
+// redraws ten million points without reading them twice more for their ranges.
 class RangeCache
 {
 public:
@@ -44,13 +44,19 @@ public:
 
     static RangeCache& instance()
     {
-        // Never destroyed: state changes may still arrive while the program ends.
+        // Never destroyed: a plot may still be drawn while the program ends.
         static RangeCache* cache = new RangeCache;
         return *cache;
     }
 
     Range of(const PlotScene& scene, int zone, int var, bool positiveOnly)
     {
+        // The data set is never changed in place, only replaced: its number names its values.
+        const std::uint64_t dataSet = orrery::kernel::Kernel::instance().dataSetNumber();
+        if (dataSet != m_dataSet) {
+            m_ranges.clear();
+            m_dataSet = dataSet;
+        }
         const Key key{zone, var, scene.begin, scene.end, scene.skip, positiveOnly};
         const auto found = m_ranges.find(key);
         if (found != m_ranges.end())
@@ -74,15 +80,7 @@ public:
 private:
     typedef std::tuple<int, int, long, long, long, bool> Key;
 
-    RangeCache()
-    {
-        orrery::sdk::integration::StateChangeEventObservable::getInstance().signal().connect(
-            [this](const orrery::sdk::integration::StateChangeEventInterface& event) {
-                if (event.code() != StateChange_Style && event.code() != StateChange_NodeMapsAltered)
-                    m_ranges.clear();
-            });
-    }
-
+    std::uint64_t m_dataSet = 0;
     std::map<Key, Range> m_ranges;
 };
 
