@@ -21,8 +21,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QtEndian>
-#include "demo/MainWindow.h"
-#include "demo/HostPlotView.h"
+#include "demo/window/MainWindow.h"
+#include "demo/scene/HostPlotView.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/KernelDriver.h"

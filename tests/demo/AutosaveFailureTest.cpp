@@ -8,8 +8,8 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include "demo/MainWindow.h"
-#include "demo/SessionAutosave.h"
+#include "demo/window/MainWindow.h"
+#include "demo/session/SessionAutosave.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/Kernel.h"
 #include "tests/support/TestSupport.h"

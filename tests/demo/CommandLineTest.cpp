@@ -1,6 +1,6 @@
 #include <QFileInfo>
 #include <gmock/gmock.h>
-#include "demo/CommandLine.h"
+#include "demo/window/CommandLine.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"
 

@@ -12,10 +12,10 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QUrl>
-#include "demo/MainWindow.h"
-#include "demo/HostPlotView.h"
-#include "demo/RecentFiles.h"
-#include "demo/WindowLayout.h"
+#include "demo/window/MainWindow.h"
+#include "demo/scene/HostPlotView.h"
+#include "demo/session/RecentFiles.h"
+#include "demo/window/WindowLayout.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"

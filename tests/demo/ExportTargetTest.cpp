@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <gmock/gmock.h>
-#include "demo/PlotExport.h"
-#include "demo/HostPlotView.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"
 

@@ -16,10 +16,10 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include "demo/HostStyle.h"
-#include "demo/MainWindow.h"
-#include "demo/PlotExport.h"
-#include "demo/HostPlotView.h"
+#include "demo/scene/HostStyle.h"
+#include "demo/window/MainWindow.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "tests/demo/InLanguage.h"
 #include "tests/demo/SvgTexts.h"

@@ -1,5 +1,5 @@
 #include <gtest/gtest.h>
-#include "demo/HostScene.h"
+#include "demo/scene/HostScene.h"
 #include "host/kernel/DataSet.h"
 #include "plot/PlotScene.h"
 #include "tests/support/TestSupport.h"

@@ -13,7 +13,7 @@
 #include <set>
 #include <tuple>
 #include <vector>
-#include "demo/Translations.h"
+#include "demo/window/Translations.h"
 
 namespace {
 
