@@ -96,7 +96,8 @@ int main(int argc, char** argv)
     std::unique_ptr<SessionAutosave> autosave =
         options.touring() || (options.exporting() && !options.recover)
             ? nullptr
-            : SessionAutosave::startFor(window, options.recover, headless, restoreFailed);
+            : SessionAutosave::startFor(window, window, window.replayOptions(), options.recover, headless,
+                                        restoreFailed);
     // A headless run ends here on failure; the autosave stays only while it
     // holds a restored session saved nowhere else.
     bool sessionSaved = false;

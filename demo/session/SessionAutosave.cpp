@@ -11,7 +11,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-#include "demo/window/MainWindow.h"
+#include <QCoreApplication>
+#include <QWidget>
+#include "demo/session/Messages.h"
 #include "demo/session/RegularFile.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
@@ -227,17 +229,18 @@ void SessionAutosave::finish()
     }
 }
 
-std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, bool recover, bool headless,
-                                                           bool& restoreFailed)
+std::unique_ptr<SessionAutosave> SessionAutosave::startFor(Messages& messages, QWidget& window,
+                                                           const orrery::kernel::JournalReplayer::Options& replay,
+                                                           bool recover, bool headless, bool& restoreFailed)
 {
     auto autosave = std::make_unique<SessionAutosave>();
     QString message;
     const auto tell = [&](const QString& text, bool problem) {
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
         if (problem && !headless)
-            window.complain(text);
+            messages.complain(text);
         else
-            window.report(text);
+            messages.report(text);
     };
     if (!autosave->lock(message)) {
         tell(message, true);
@@ -245,27 +248,31 @@ std::unique_ptr<SessionAutosave> SessionAutosave::startFor(MainWindow& window, b
         return nullptr;
     }
     // Said in the window, not in a message box: the work goes on meanwhile.
-    autosave->setReporter([&window](const QString& text) {
+    autosave->setReporter([&messages](const QString& text) {
         std::fprintf(stderr, "orrery-demo: %s\n", qPrintable(text));
-        window.report(text);
+        messages.report(text);
     });
     if (autosave->leftOver()) {
         if (!recover && headless) {
             tell(QString("An autosaved session is waiting in %1; --recover restores it.").arg(autosave->path()), false);
             return nullptr;
         }
-        const QString question =
-            MainWindow::tr("The demo did not end normally last time. Restore the session it was working on?");
+        const QString question = QCoreApplication::translate(
+            "MainWindow", "The demo did not end normally last time. Restore the session it was working on?");
         if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
-            restoreFailed = !autosave->restore(window.replayOptions(), message);
+            restoreFailed = !autosave->restore(replay, message);
             tell(message, restoreFailed);
             if (!restoreFailed) // the session restored is saved nowhere else yet
                 window.setWindowModified(true);
             return autosave->running() ? std::move(autosave) : nullptr;
         }
-        tell(MainWindow::tr("The autosaved session was kept as %1.").arg(autosave->moveAside("declined")), false);
+        tell(QCoreApplication::translate("MainWindow", "The autosaved session was kept as %1.")
+                 .arg(autosave->moveAside("declined")),
+             false);
     } else if (recover) {
-        tell(MainWindow::tr("There is no autosaved session to restore in %1.").arg(autosave->path()), true);
+        tell(QCoreApplication::translate("MainWindow", "There is no autosaved session to restore in %1.")
+                 .arg(autosave->path()),
+             true);
         restoreFailed = true;
     }
     if (!autosave->start(message)) {

@@ -16,19 +16,21 @@
 // is reported and tried again with the next step. A normal end removes the file; a
 // start that finds one left over can restore the session from it. A lock beside
 // the file keeps a second running instance out of it.
-class MainWindow;
+class Messages;
+class QWidget;
 
 class SessionAutosave
 {
 public:
     // Starts the autosave of window's session, first restoring one a dead run
-    // left behind when recover is set or, with someone at the keyboard, the user
+    // (replayed with replay's options) left behind when recover is set or, with someone at the keyboard, the user
     // agrees. Null when the session is not autosaved; problems are reported
     // (on stderr too), never fatal. headless: nobody is asked anything.
     // restoreFailed: a restore was wanted and failed, or with recover there was
     // nothing to restore or no autosave to be had.
-    static std::unique_ptr<SessionAutosave> startFor(MainWindow& window, bool recover, bool headless,
-                                                     bool& restoreFailed);
+    static std::unique_ptr<SessionAutosave> startFor(Messages& messages, QWidget& window,
+                                                     const orrery::kernel::JournalReplayer::Options& replay,
+                                                     bool recover, bool headless, bool& restoreFailed);
 
     // The file is autosave.orrery-journal in folder; empty: the application's
     // local data folder.

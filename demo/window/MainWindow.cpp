@@ -185,7 +185,7 @@ MainWindow::MainWindow()
     m_showScatter = view->addAction(tr("Show &Scatter Symbols"), this, &MainWindow::setShowScatter);
     m_showScatter->setCheckable(true);
     m_showScatter->setObjectName("viewShowScatter");
-    m_plotMenus = new PlotMenus(*this, *m_plot, *file, *edit, *view);
+    m_plotMenus = new PlotMenus(*this, *this, *m_plot, *file, *edit, *view);
     file->addSeparator();
     file->addAction(quit);
     view->addSeparator();

@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include "demo/launchers/DialogCatalog.h"
 #include "host/kernel/JournalReplayer.h"
+#include "demo/session/Messages.h"
 
 class QAction;
 class QActionGroup;
@@ -17,7 +18,7 @@ class WindowTitle;
 
 // The demo host: a live plot of the current frame, a menu of every dialog, the
 // host's state and journal beside them, undo and redo of the kernel's steps.
-class MainWindow : public QMainWindow
+class MainWindow : public QMainWindow, public Messages
 {
     Q_OBJECT
 public:
@@ -50,9 +51,9 @@ public:
     // Opens the dialog and runs it; returns the line that reports its answers.
     QString runDialog(const DialogCatalog::Entry& entry,
                       const std::function<void(DialogCatalog::Dialog&)>& whileOpen = nullptr);
-    void report(const QString& line);
+    void report(const QString& line) override;
     // Shows a message the way the host does (a message box, captured in tests).
-    void complain(const QString& text);
+    void complain(const QString& text) override;
 
     HostPlotView& plot() const { return *m_plot; }
     // Where Save puts the session: the file it was last saved to or opened

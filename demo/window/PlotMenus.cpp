@@ -9,7 +9,7 @@
 #include "demo/scene/HostText.h"
 #include "plot/ColourRamp.h"
 #include "demo/scene/HostStyle.h"
-#include "demo/window/MainWindow.h"
+#include "demo/session/Messages.h"
 #include "demo/window/Mnemonics.h"
 #include "demo/window/PlotExport.h"
 #include "demo/window/PlotExportDialog.h"
@@ -24,8 +24,8 @@ const char* const LogKeys[2] = {"TwoDAxis/XDetail/IsLog", "TwoDAxis/YDetail/IsLo
 
 } // namespace
 
-PlotMenus::PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view)
-    : QObject(&window), m_window(window), m_plot(plot)
+PlotMenus::PlotMenus(Messages& messages, QWidget& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view)
+    : QObject(&window), m_messages(messages), m_window(window), m_plot(plot)
 {
     QAction* exportAction = new QAction(tr("E&xport Plot..."), this);
     exportAction->setObjectName("fileExportPlot");
@@ -123,7 +123,7 @@ void PlotMenus::showLine(int var, bool on)
     if (on)
         vars.push_back(var);
     if (vars.empty()) {
-        m_window.complain(tr("An XY line plot draws at least one Y variable."));
+        m_messages.complain(tr("An XY line plot draws at least one Y variable."));
         return;
     }
     QStringList more;
@@ -139,7 +139,7 @@ void PlotMenus::showLine(int var, bool on)
         },
         &error);
     if (!ok)
-        m_window.complain(QString::fromStdString(error));
+        m_messages.complain(QString::fromStdString(error));
 }
 
 void PlotMenus::fillColourMap(QMenu& menu)
@@ -150,7 +150,7 @@ void PlotMenus::fillColourMap(QMenu& menu)
         QAction* action = menu.addAction(ColourRamp::name(map), this, [this, map] {
             std::string error;
             if (!HostStyle::setInteger("GlobalContour/ColorMap", map, &error))
-                m_window.complain(QString::fromStdString(error));
+                m_messages.complain(QString::fromStdString(error));
         });
         action->setCheckable(true);
         action->setChecked(map == chosen);
@@ -174,7 +174,7 @@ void PlotMenus::colourBy(int var)
         },
         &error);
     if (!ok)
-        m_window.complain(QString::fromStdString(error));
+        m_messages.complain(QString::fromStdString(error));
 }
 
 // All titles in one undoable step.
@@ -201,14 +201,14 @@ void PlotMenus::editAxisTitles()
         },
         &error);
     if (!ok)
-        m_window.complain(QString::fromStdString(error));
+        m_messages.complain(QString::fromStdString(error));
 }
 
 void PlotMenus::setLog(int axis, bool on)
 {
     std::string error;
     if (!HostStyle::setFlag(LogKeys[axis], on, &error))
-        m_window.complain(QString::fromStdString(error));
+        m_messages.complain(QString::fromStdString(error));
     refresh();
 }
 
@@ -222,13 +222,13 @@ void PlotMenus::exportPlot()
         return;
     QString error;
     if (PlotExport::write(m_plot, path, size.plotSize(), size.ratio(), &error))
-        m_window.report(tr("Exported the plot to %1").arg(path));
+        m_messages.report(tr("Exported the plot to %1").arg(path));
     else
-        m_window.complain(error);
+        m_messages.complain(error);
 }
 
 void PlotMenus::copyPlot()
 {
     QApplication::clipboard()->setImage(PlotExport::image(m_plot, m_plot.size(), m_plot.devicePixelRatioF()));
-    m_window.report(tr("Copied the plot to the clipboard"));
+    m_messages.report(tr("Copied the plot to the clipboard"));
 }

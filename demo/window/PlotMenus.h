@@ -1,7 +1,8 @@
 #pragma once
 #include <QObject>
 
-class MainWindow;
+class Messages;
+class QWidget;
 class PlotView;
 class QAction;
 class QMenu;
@@ -14,7 +15,8 @@ class PlotMenus : public QObject
 {
     Q_OBJECT
 public:
-    PlotMenus(MainWindow& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view);
+    // window: the parent of the menus' dialogs.
+    PlotMenus(Messages& messages, QWidget& window, PlotView& plot, QMenu& file, QMenu& edit, QMenu& view);
 
     // Brings the check marks up to date with the host's style.
     void refresh();
@@ -31,7 +33,8 @@ private:
     void colourBy(int var);
     void setLog(int axis, bool on);
 
-    MainWindow& m_window;
+    Messages& m_messages;
+    QWidget& m_window;
     PlotView& m_plot;
     QAction* m_log[2];
     QMenu* m_lines;
