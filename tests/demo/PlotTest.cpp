@@ -168,34 +168,6 @@ TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
     EXPECT_FALSE(QFile::exists(folder.filePath("missing/plot.png")));
 }
 
-TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
-{
-    HostPlotView view;
-    view.resize(Size);
-    view.grab();
-    ASSERT_TRUE(view.geometry().navigable);
-    const QPointF cursor(300, 200);
-    const double x = view.geometry().toValue(0, cursor.x()), y = view.geometry().toValue(1, cursor.y());
-    const PlotWindow before0 = view.geometry().shown;
-    view.zoomAt(cursor, 4.0);
-    view.grab();
-    EXPECT_TRUE(view.zoomed());
-    // Within the few pixels by which the new tick labels may move the axes.
-    EXPECT_NEAR(cursor.x(), view.geometry().toPixel(0, x), 8.0);
-    EXPECT_NEAR(cursor.y(), view.geometry().toPixel(1, y), 8.0);
-    EXPECT_LT(view.geometry().shown.max[0] - view.geometry().shown.min[0], 0.3 * (before0.max[0] - before0.min[0]));
-
-    const PlotWindow before = view.geometry().shown;
-    for (double width : {1e-300, 1e300, 0.0, std::nan("1")}) {
-        PlotWindow window = before;
-        window.max[0] = window.min[0] + width;
-        EXPECT_FALSE(view.setWindow(window)) << width;
-    }
-    EXPECT_EQ(before.max[0], view.geometry().shown.max[0]);
-    view.resetWindow();
-    EXPECT_FALSE(view.zoomed());
-}
-
 TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
 {
     HostPlotView view;
