@@ -10,9 +10,10 @@ TEST(PlotView, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
     Figure figure;
     for (int i = 0; i <= 100; ++i) {
         figure.x.push_back(i / 10.0);
-        figure.y.push_back(std::sin(i / 10.0));
+        figure.y.push_back(1500 + 400 * std::sin(i / 10.0));
     }
-    const PlotScene scene = figure.make(0, 10, -1, 1);
+    // Tick labels of Y as wide zoomed as not: the axes stay where they were.
+    const PlotScene scene = figure.make(0, 10, 1000, 2000);
     PlotView view([&] { return scene; });
     view.resize(800, 600);
     view.grab();
