@@ -21,8 +21,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QtEndian>
-#include "demo/MainWindow.h"
-#include "demo/PlotView.h"
+#include "demo/window/MainWindow.h"
+#include "demo/scene/HostPlotView.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/KernelDriver.h"
@@ -102,7 +102,7 @@ void putPoints(long count)
 // The plot of what the kernel holds, drawn again and again as the view draws it.
 void redrawRepeatedly(benchmark::State& state)
 {
-    PlotView view;
+    HostPlotView view;
     QImage image(ImageSize, QImage::Format_RGB32);
     for (auto _ : state) {
         view.render(image);
@@ -144,7 +144,7 @@ BENCHMARK(LineRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond
 void PlotZoomStep(benchmark::State& state)
 {
     putPoints(state.range(0));
-    PlotView view;
+    HostPlotView view;
     view.resize(ImageSize);
     QImage image(ImageSize, QImage::Format_RGB32);
     view.render(image);

@@ -86,6 +86,8 @@ function(orrery_install_package)
                        "Qt${ORRERY_QT_MAJOR}Widgets" prompts framework core platform)
   orrery_add_pkgconfig(orrery-host "Stand-in host for the Orrery prompt dialogs (Qt ${ORRERY_QT_MAJOR})"
                        "Qt${ORRERY_QT_MAJOR}Widgets" host platform)
+  orrery_add_pkgconfig(orrery-plot "Figures from a plain scene (Qt ${ORRERY_QT_MAJOR})"
+                       "Qt${ORRERY_QT_MAJOR}Widgets" plot)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/help/ DESTINATION ${CMAKE_INSTALL_DATADIR}/${ORRERY_INCLUDE_SUBDIR}/help
           COMPONENT runtime FILES_MATCHING PATTERN "*.html")
 endfunction()

@@ -2,17 +2,17 @@
 #include <cstdio>
 #include <memory>
 #include <QApplication>
-#include "demo/CommandLine.h"
-#include "demo/HostStyle.h"
-#include "demo/MainWindow.h"
-#include "demo/PlotExport.h"
-#include "demo/PlotView.h"
-#include "demo/SessionAutosave.h"
-#include "demo/StdinJournal.h"
-#include "demo/Tour.h"
-#include "demo/TourWatchdog.h"
-#include "demo/Translations.h"
-#include "demo/WindowLayout.h"
+#include "demo/window/CommandLine.h"
+#include "demo/scene/HostStyle.h"
+#include "demo/window/MainWindow.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
+#include "demo/session/SessionAutosave.h"
+#include "demo/session/StdinJournal.h"
+#include "demo/tour/Tour.h"
+#include "demo/tour/TourWatchdog.h"
+#include "demo/window/Translations.h"
+#include "demo/window/WindowLayout.h"
 #include "host/kernel/FileLoad.h"
 #include "host/kernel/Kernel.h"
 
@@ -101,7 +101,8 @@ int main(int argc, char** argv)
     std::unique_ptr<SessionAutosave> autosave =
         options.touring() || (options.exporting() && !options.recover)
             ? nullptr
-            : SessionAutosave::startFor(window, options.recover, headless, restoreFailed);
+            : SessionAutosave::startFor(window, window, window.replayOptions(), options.recover, headless,
+                                        restoreFailed);
     // A headless run ends here on failure; the autosave stays only while it
     // holds a restored session saved nowhere else.
     bool sessionSaved = false;
@@ -143,7 +144,7 @@ int main(int argc, char** argv)
     }
     if (options.exporting()) {
         QString problem;
-        if (!PlotExport::write(window.plot(), options.exportPlot, window.plot().sizeHint(), options.dotsPerInch / 96.0,
+        if (!PlotExport::write(window.plot(), options.exportPlot, options.plotSize, options.dotsPerInch / 96.0,
                                &problem)) {
             say(problem);
             return end(1);

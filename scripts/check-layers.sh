@@ -4,6 +4,7 @@
 #   platform: itself only           host: platform
 #   core: platform                  framework: platform, core
 #   prompts: platform, core, framework
+#   plot: itself only
 #   demo, examples, tests, bench, fuzz: anything
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -14,6 +15,7 @@ allowed() {
     core) echo "platform core" ;;
     framework) echo "platform core framework" ;;
     prompts) echo "platform core framework prompts" ;;
+    plot) echo "plot" ;;
   esac
 }
 bad=0
@@ -32,7 +34,7 @@ while IFS= read -r line; do
     from=$(cut -d/ -f2 <<<"$file"); to=$(cut -d/ -f2 <<<"$path")
     [ "$from" = "$to" ] || echo "$from $to" >>"$edges"
   fi
-done < <(git grep -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"[a-z]+/' -- platform host core framework prompts)
+done < <(git grep -nE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"[a-z]+/' -- platform host core framework prompts plot)
 # tsort names a loop on stderr when the include graph has one.
 if ! loops=$(sort -u "$edges" | tsort 2>&1 >/dev/null) || [ -n "$loops" ]; then
   echo "platform/ subfolders include each other in a loop: $loops" >&2

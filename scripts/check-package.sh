@@ -52,6 +52,14 @@ cmake --install "$build" --prefix "$scratch/prefix" >/dev/null
 build_example install "$scratch/prefix" "$major"
 echo "package: installed, found, linked and run"
 
+# The plot library alone plots a CSV file: a picture with something drawn on it.
+cmake -S examples/plot-csv -B "$scratch/plot-csv" -DCMAKE_PREFIX_PATH="$scratch/prefix" -DORRERY_QT_MAJOR="$major" >/dev/null
+cmake --build "$scratch/plot-csv" -j "$jobs" >/dev/null
+LD_LIBRARY_PATH="$scratch/prefix/lib" QT_QPA_PLATFORM=offscreen \
+  "$scratch/plot-csv/plot-csv" examples/plot-csv/waves.csv "$scratch/plot-csv/waves.png"
+[ "$(head -c 4 "$scratch/plot-csv/waves.png" | tail -c 3)" = PNG ] || { echo "package: plot-csv wrote no PNG" >&2; exit 1; }
+echo "package: the plot library alone plots a CSV file"
+
 (cd "$build" && cpack -G DEB -B "$PWD/packages" >/dev/null)
 root="$scratch/root"
 for deb in "$build"/packages/*.deb; do dpkg-deb -x "$deb" "$root"; done
@@ -88,3 +96,8 @@ for layer in platform core framework prompts; do
   fi
 done
 echo "package: the library's layers link no host"
+# The figure stands alone: Qt is all its library needs.
+if readelf -d "$build/liborrery-plot-qt$major.so" | grep NEEDED | grep -q 'liborrery-'; then
+  echo "package: liborrery-plot-qt$major needs another of our libraries" >&2; exit 1
+fi
+echo "package: the plot library needs none of ours"

@@ -19,5 +19,5 @@ ts_files=(translations/*.ts)
 for ts in "${ts_files[@]}"; do
   lang="$(basename "$ts" .ts)"; lang="${lang#orrery_}"
   "$lupdate" -silent -locations none -no-obsolete -extensions cpp,h,ui -I . \
-    -target-language "$lang" "$@" platform host core framework prompts demo -ts "$ts"
+    -target-language "$lang" "$@" platform host core framework prompts plot demo -ts "$ts"
 done

@@ -566,6 +566,41 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     </message>
 </context>
 <context>
+    <name>HostScene</name>
+    <message>
+        <source>No data set: open a file or a sample.</source>
+        <translation>Kein Datensatz: Öffnen Sie eine Datei oder ein Beispiel.</translation>
+    </message>
+    <message>
+        <source>Plot type %1 shows no data in this demo.</source>
+        <translation>Plottyp %1 zeigt in dieser Demo keine Daten.</translation>
+    </message>
+    <message>
+        <source>Symbols are drawn for the first %1 points of a zone.</source>
+        <translation>Symbole werden für die ersten %1 Punkte einer Zone gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Choose the axis variables (Dialogs &gt; Axis Variables).</source>
+        <translation>Wählen Sie die Achsenvariablen (Dialoge &gt; Achsenvariablen).</translation>
+    </message>
+    <message>
+        <source>%1: %2 value(s) beyond ±1e306 or closer to 0 than 2.2e-308 cannot be drawn and are left out.</source>
+        <translation>%1: %2 Wert(e) jenseits von ±1e306 oder näher an 0 als 2,2e-308 lassen sich nicht zeichnen und werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>%1 has no positive values: its axis is linear.</source>
+        <translation>%1 hat keine positiven Werte: seine Achse ist linear.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw: every value of %1 is beyond ±1e306 or closer to 0 than 2.2e-308.</source>
+        <translation>Nichts zu zeichnen: Jeder Wert von %1 liegt jenseits von ±1e306 oder näher an 0 als 2,2e-308.</translation>
+    </message>
+    <message>
+        <source>Nothing to draw: %1 has no values in the points chosen.</source>
+        <translation>Nichts zu zeichnen: %1 hat in den gewählten Punkten keine Werte.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Orrery Prompts demo</source>
@@ -1759,43 +1794,8 @@ Die Datei so laden, wie sie jetzt ist?</translation>
 <context>
     <name>PlotPainter</name>
     <message>
-        <source>No data set: open a file or a sample.</source>
-        <translation>Kein Datensatz: Öffnen Sie eine Datei oder ein Beispiel.</translation>
-    </message>
-    <message>
         <source>Too small for a plot</source>
         <translation>Zu klein für einen Plot</translation>
-    </message>
-</context>
-<context>
-    <name>PlotScene</name>
-    <message>
-        <source>Plot type %1 shows no data in this demo.</source>
-        <translation>Plottyp %1 zeigt in dieser Demo keine Daten.</translation>
-    </message>
-    <message>
-        <source>Symbols are drawn for the first %1 points of a zone.</source>
-        <translation>Symbole werden für die ersten %1 Punkte einer Zone gezeichnet.</translation>
-    </message>
-    <message>
-        <source>Choose the axis variables (Dialogs &gt; Axis Variables).</source>
-        <translation>Wählen Sie die Achsenvariablen (Dialoge &gt; Achsenvariablen).</translation>
-    </message>
-    <message>
-        <source>%1 has no positive values: its axis is linear.</source>
-        <translation>%1 hat keine positiven Werte: seine Achse ist linear.</translation>
-    </message>
-    <message>
-        <source>Nothing to draw: %1 has no values in the points chosen.</source>
-        <translation>Nichts zu zeichnen: %1 hat in den gewählten Punkten keine Werte.</translation>
-    </message>
-    <message>
-        <source>%1: %2 value(s) beyond ±1e306 or closer to 0 than 2.2e-308 cannot be drawn and are left out.</source>
-        <translation>%1: %2 Wert(e) jenseits von ±1e306 oder näher an 0 als 2,2e-308 lassen sich nicht zeichnen und werden ausgelassen.</translation>
-    </message>
-    <message>
-        <source>Nothing to draw: every value of %1 is beyond ±1e306 or closer to 0 than 2.2e-308.</source>
-        <translation>Nichts zu zeichnen: Jeder Wert von %1 liegt jenseits von ±1e306 oder näher an 0 als 2,2e-308.</translation>
     </message>
 </context>
 <context>

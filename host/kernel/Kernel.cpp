@@ -67,6 +67,7 @@ void Kernel::reset()
     m_newFigureReset.clear();
     m_messageBoxes.setHandler({});
     m_dataSet = DataSet();
+    ++m_dataSetNumber;
     m_frames.clear();
     m_pageCount = 1;
     addFrame();
@@ -90,8 +91,8 @@ std::vector<std::string> Kernel::startNewFigure(Frame& frame) const
     // What names the old data: its points, zones, title, the further lines and the axis titles with their units.
     for (const char* key :
          {"IndexRange/Begin", "IndexRange/End", "IndexRange/Skip", "FrameLayout/ActiveZone", "FrameLayout/Title",
-          "TwoDAxis/YDetail/MoreVarNums", "TwoDAxis/XDetail/Title", "TwoDAxis/YDetail/Title", "ThreeDAxis/XDetail/Title",
-          "ThreeDAxis/YDetail/Title", "ThreeDAxis/ZDetail/Title"})
+          "TwoDAxis/YDetail/MoreVarNums", "TwoDAxis/XDetail/Title", "TwoDAxis/YDetail/Title",
+          "ThreeDAxis/XDetail/Title", "ThreeDAxis/YDetail/Title", "ThreeDAxis/ZDetail/Title"})
         frame.style().store(key, 0, m_schema.find(key)->defaultValue);
     for (const std::string axis : {"TwoDAxis/XDetail/", "TwoDAxis/YDetail/"}) {
         double min = 0.0, max = 0.0;
@@ -117,6 +118,7 @@ void Kernel::setDataSet(DataSet dataSet)
     if (m_dataSetGate && !m_dataSetGate())
         return;
     m_dataSet = std::move(dataSet);
+    ++m_dataSetNumber;
     const size_t current = m_current;
     m_newFigureReset.clear();
     for (size_t i = 0; i < m_frames.size(); ++i) {

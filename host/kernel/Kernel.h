@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -28,6 +29,8 @@ public:
     void reset();
 
     const DataSet& dataSet() const { return m_dataSet; }
+    // Tells the data sets apart: a new number each time the data set is replaced.
+    std::uint64_t dataSetNumber() const { return m_dataSetNumber; }
     // Every frame then starts a new figure (startNewFigure) and the undo
     // history starts afresh. A gate, when one is set, is asked first; false
     // keeps the current data set.
@@ -96,6 +99,7 @@ private:
     Journal m_journal;
     MessageBoxPresenter m_messageBoxes;
     DataSet m_dataSet;
+    std::uint64_t m_dataSetNumber = 0;
     int m_pageCount = 0;
     std::vector<Frame> m_frames;
     size_t m_current = 0;

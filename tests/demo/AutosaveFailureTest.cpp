@@ -8,8 +8,8 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include "demo/MainWindow.h"
-#include "demo/SessionAutosave.h"
+#include "demo/window/MainWindow.h"
+#include "demo/session/SessionAutosave.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/Kernel.h"
 #include "tests/support/TestSupport.h"
@@ -51,7 +51,8 @@ TEST(AutosaveFailure, TheWindowSaysWhyAndTheAutosaveCatchesUpOnceItCanWriteAgain
     qputenv("XDG_DATA_HOME", data.path().toUtf8());
     MainWindow window;
     bool restoreFailed = false;
-    std::unique_ptr<SessionAutosave> autosave = SessionAutosave::startFor(window, false, false, restoreFailed);
+    std::unique_ptr<SessionAutosave> autosave =
+        SessionAutosave::startFor(window, window, window.replayOptions(), false, false, restoreFailed);
     ASSERT_TRUE(autosave);
     const auto play = [](const std::string& line) {
         std::istringstream in(line + "\n");

@@ -1,6 +1,6 @@
 #include <QFileInfo>
 #include <gmock/gmock.h>
-#include "demo/CommandLine.h"
+#include "demo/window/CommandLine.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"
 
@@ -31,6 +31,12 @@ TEST(CommandLine, PartsThatCannotAllHappenAreRefusedNamingBoth)
     }
     QString problem;
     EXPECT_EQ(parsed({"--dpi", "200"}, &problem), CommandLine::Outcome::Refused) << "nothing to give the dots to";
+    EXPECT_EQ(parsed({"--size", "400x300"}), CommandLine::Outcome::Refused) << "nothing to give the size to";
+    for (const char* size : {"400", "400x", "x300", "99x300", "400x-3", "axb", "20000x300"})
+        EXPECT_EQ(parsed({"--export", "p.png", "--size", size, "--dpi", "200"}), CommandLine::Outcome::Refused) << size;
+    CommandLine options;
+    ASSERT_EQ(options.parse({"orrery-demo", "--export", "p.png", "--size", "1024x200"}), CommandLine::Outcome::Run);
+    EXPECT_EQ(options.plotSize, QSize(1024, 200));
     EXPECT_EQ(parsed({"--plot-type", "4"}), CommandLine::Outcome::Refused);
     EXPECT_EQ(parsed({"a.csv", "b.csv"}), CommandLine::Outcome::Refused);
     EXPECT_EQ(parsed({"--no-such-option"}), CommandLine::Outcome::Refused);

@@ -12,10 +12,10 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QUrl>
-#include "demo/MainWindow.h"
-#include "demo/PlotView.h"
-#include "demo/RecentFiles.h"
-#include "demo/WindowLayout.h"
+#include "demo/window/MainWindow.h"
+#include "demo/scene/HostPlotView.h"
+#include "demo/session/RecentFiles.h"
+#include "demo/window/WindowLayout.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
@@ -61,7 +61,7 @@ int blendedColours(const testsupport::Drawn& drawn)
     return count;
 }
 
-testsupport::Drawn drawn(const PlotView& view)
+testsupport::Drawn drawn(const HostPlotView& view)
 {
     testsupport::RecordingDevice device(QSize(400, 300));
     QPainter painter(&device);
@@ -80,7 +80,7 @@ void writeFile(const QString& path, const QByteArray& bytes)
 class DemoHost : public SampleKernelTest
 {
 protected:
-    QImage shown(PlotView& view) { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QImage shown(HostPlotView& view) { return view.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     QAction& action(MainWindow& window, const char* name)
     {
         QAction* found = window.findChild<QAction*>(name);
@@ -91,7 +91,7 @@ protected:
 
 TEST_F(DemoHost, ThePlotIsDrawnAnewAfterEachStateChangeAndShowsWhatTheStyleSays)
 {
-    PlotView view;
+    HostPlotView view;
     view.resize(400, 300);
     const QRgb red = basic(1);
     const QImage black = shown(view);
@@ -128,7 +128,7 @@ TEST_F(DemoHost, ThePlotIsDrawnAnewAfterEachStateChangeAndShowsWhatTheStyleSays)
 
 TEST_F(DemoHost, VectorsLinesAndThe3DViewEachChangeThePicture)
 {
-    PlotView view;
+    HostPlotView view;
     view.resize(400, 300);
     const QImage points = shown(view);
 
@@ -232,7 +232,7 @@ TEST_F(DemoHost, PointsColouredByCategoriesGetALegendOfTheirNames)
         << error;
     Kernel::setStyle({"TwoDAxis", "XDetail", "VarNum"}, 2L);
     Kernel::setStyle({"TwoDAxis", "YDetail", "VarNum"}, 3L);
-    PlotView view;
+    HostPlotView view;
     view.resize(400, 300);
     // The first category's swatch, in the plot's top right corner.
     const QRgb firstCategory = qRgb(0, 0, 127);

@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <gmock/gmock.h>
-#include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"
 
@@ -33,7 +33,7 @@ TEST_F(ExportTarget, AFifoAFolderOrALinkToOneIsRefusedAndLeftAsItWas)
     EXPECT_TRUE(QFileInfo(at("folder.pdf")).isDir());
 
     // File > Export Plot writes through the same function.
-    PlotView view;
+    HostPlotView view;
     QString error;
     EXPECT_FALSE(PlotExport::write(view, at("link.svg"), QSize(200, 100), 1.0, &error));
     EXPECT_THAT(error.toStdString(), HasSubstr(at("link.svg").toStdString() + " is not a regular file (a FIFO)"));

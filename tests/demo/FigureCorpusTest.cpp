@@ -16,10 +16,10 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include "demo/HostStyle.h"
-#include "demo/MainWindow.h"
-#include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/scene/HostStyle.h"
+#include "demo/window/MainWindow.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "tests/demo/InLanguage.h"
 #include "tests/demo/SvgTexts.h"
@@ -457,7 +457,7 @@ TEST_P(Figures, ShowEveryLabelWholeTrueAndApartWhateverTheData)
     const QLocale locale = QString(GetParam()) == "de" ? QLocale(QLocale::German) : QLocale::c();
     QTemporaryDir folder;
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     const QSize size = view.sizeHint();
     QStringList failures;
     for (const Shape& shape : corpus()) {

@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
-#include "demo/Translations.h"
+#include "demo/window/Translations.h"
 
 class InLanguage
 {

@@ -9,11 +9,11 @@
 #include <QScreen>
 #include <QSpinBox>
 #include <QSet>
-#include "demo/AxisTitlesDialog.h"
-#include "demo/MainWindow.h"
-#include "demo/Mnemonics.h"
-#include "demo/PlotExportDialog.h"
-#include "demo/TextFit.h"
+#include "demo/launchers/AxisTitlesDialog.h"
+#include "demo/window/MainWindow.h"
+#include "demo/window/Mnemonics.h"
+#include "demo/window/PlotExportDialog.h"
+#include "demo/tour/TextFit.h"
 #include "tests/demo/InLanguage.h"
 #include "tests/support/TestSupport.h"
 

@@ -3,7 +3,7 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include "demo/MainWindow.h"
+#include "demo/window/MainWindow.h"
 #include "tests/support/TestSupport.h"
 
 using testsupport::Kernel;

@@ -9,7 +9,7 @@
 #include <QUrl>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
-#include "demo/MainWindow.h"
+#include "demo/window/MainWindow.h"
 #include "host/kernel/Kernel.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"

@@ -6,12 +6,12 @@
 #include <QTimer>
 #include <QPainter>
 #include <QTemporaryDir>
-#include "demo/AxisTitlesDialog.h"
-#include "demo/DemoUser.h"
-#include "demo/DialogCatalog.h"
-#include "demo/MainWindow.h"
-#include "demo/PlotExport.h"
-#include "demo/PlotView.h"
+#include "demo/launchers/AxisTitlesDialog.h"
+#include "demo/tour/DemoUser.h"
+#include "demo/launchers/DialogCatalog.h"
+#include "demo/window/MainWindow.h"
+#include "demo/window/PlotExport.h"
+#include "demo/scene/HostPlotView.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
@@ -27,7 +27,7 @@ namespace {
 
 const QSize Size(800, 600);
 
-Drawn drawn(const PlotView& view)
+Drawn drawn(const HostPlotView& view)
 {
     RecordingDevice device(Size);
     QPainter painter(&device);
@@ -72,7 +72,7 @@ protected:
 TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     const Drawn start = drawn(view);
     EXPECT_EQ(pointsInRange(1, 1000000, 1), start.points);
 
@@ -109,9 +109,38 @@ TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
     EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
 }
 
+// Share of the pixels of two pictures of one size that differ by more than a shade.
+double differing(const QImage& a, const QImage& b)
+{
+    long count = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            count += std::abs(qGray(p) - qGray(q)) > 64;
+        }
+    return double(count) / (a.width() * a.height());
+}
+
+TEST_F(Plot, AnyResolutionGivesTheSameFigureFinerOrCoarser)
+{
+    HostPlotView view;
+    const QImage screen = PlotExport::image(view, QSize(400, 300), 1.0);
+    for (double ratio : {2.0, 3.125, 0.5}) {
+        const QImage other = PlotExport::image(view, QSize(400, 300), ratio);
+        ASSERT_EQ(QSize(qRound(400 * ratio), qRound(300 * ratio)), other.size()) << ratio;
+        const QImage back = other.scaled(screen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const QImage reference = ratio >= 1.0
+                                     ? screen
+                                     : screen.scaled(other.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                           .scaled(screen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        // Ticks, texts and layout in the same places: only edges may differ.
+        EXPECT_LT(differing(back, reference), 0.01) << ratio;
+    }
+}
+
 TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
 {
-    PlotView view;
+    HostPlotView view;
     QTemporaryDir folder;
     QString error;
     ASSERT_TRUE(PlotExport::write(view, folder.filePath("plot.png"), QSize(400, 300), 2.0, &error))
@@ -139,37 +168,9 @@ TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
     EXPECT_FALSE(QFile::exists(folder.filePath("missing/plot.png")));
 }
 
-TEST_F(Plot, ZoomKeepsTheValueUnderTheCursorAndRefusesWidthsItCannotDraw)
-{
-    PlotView view;
-    view.resize(Size);
-    view.grab();
-    ASSERT_TRUE(view.geometry().navigable);
-    const QPointF cursor(300, 200);
-    const double x = view.geometry().toValue(0, cursor.x()), y = view.geometry().toValue(1, cursor.y());
-    const PlotWindow before0 = view.geometry().shown;
-    view.zoomAt(cursor, 4.0);
-    view.grab();
-    EXPECT_TRUE(view.zoomed());
-    // Within the few pixels by which the new tick labels may move the axes.
-    EXPECT_NEAR(cursor.x(), view.geometry().toPixel(0, x), 8.0);
-    EXPECT_NEAR(cursor.y(), view.geometry().toPixel(1, y), 8.0);
-    EXPECT_LT(view.geometry().shown.max[0] - view.geometry().shown.min[0], 0.3 * (before0.max[0] - before0.min[0]));
-
-    const PlotWindow before = view.geometry().shown;
-    for (double width : {1e-300, 1e300, 0.0, std::nan("1")}) {
-        PlotWindow window = before;
-        window.max[0] = window.min[0] + width;
-        EXPECT_FALSE(view.setWindow(window)) << width;
-    }
-    EXPECT_EQ(before.max[0], view.geometry().shown.max[0]);
-    view.resetWindow();
-    EXPECT_FALSE(view.zoomed());
-}
-
 TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
 {
-    PlotView view;
+    HostPlotView view;
     const auto picture = [&](const std::vector<double>& x, const std::vector<double>& y) {
         orrery::kernel::DataSet data("Series", {"t", "v"});
         data.addZone("Series", {x, y});
@@ -187,7 +188,7 @@ TEST_F(Plot, AnXYLineFollowsXWhateverTheOrderOfTheRowsAndKeepsItsGaps)
 
 TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
 {
-    PlotView view;
+    HostPlotView view;
     const double nan = std::numeric_limits<double>::quiet_NaN();
     // A constant, a single point and a column with no values at all.
     orrery::kernel::DataSet data("Odd", {"Constant", "Single", "Missing"});
@@ -240,7 +241,7 @@ size_t mappedColours(const Drawn& picture)
 TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     // View > Color Points By names what Automatic colours by, and ticks nothing while nothing is coloured.
     QMenu* colourBy = window.findChild<QMenu*>("viewColorBy");
     ASSERT_NE(colourBy, nullptr);
@@ -266,7 +267,7 @@ TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
 
 TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
 {
-    PlotView view;
+    HostPlotView view;
     auto screen = [&](const std::string& colourName) {
         orrery::kernel::DataSet data("Heated box", {"x", "y", colourName});
         data.addZone("STRUCTURED_POINTS", {{0, 1, 2}, {0, 1, 4}, {1, 2, 3}});
@@ -289,7 +290,7 @@ TEST_F(Plot, TextsAreDrawnWholeOnScreenAndTheLegendNamesTheData)
 TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     auto titleAxes = [&](const QString& x, const QString& y) {
         QTimer::singleShot(0, &window, [&window, x, y] {
             auto* dialog = window.findChild<AxisTitlesDialog*>();
@@ -328,7 +329,7 @@ TEST_F(Plot, AxisTitlesWithUnitsAreKeptJournalledUndoneAndExported)
 TEST_F(Plot, AnXYLinePlotDrawsSeveralYVariablesEachInItsColourWithALegend)
 {
     MainWindow window;
-    PlotView& view = window.plot();
+    HostPlotView& view = window.plot();
     Kernel::setPlotType(PlotType_XYLine);
     QMenu* lines = window.findChild<QMenu*>("viewLineVariables");
     ASSERT_NE(lines, nullptr);

@@ -8,8 +8,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gmock/gmock.h>
-#include "demo/MainWindow.h"
-#include "demo/SessionAutosave.h"
+#include "demo/window/MainWindow.h"
+#include "demo/session/SessionAutosave.h"
 #include "tests/support/TestSupport.h"
 
 namespace {

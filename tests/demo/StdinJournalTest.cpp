@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <unistd.h>
-#include "demo/StdinJournal.h"
+#include "demo/session/StdinJournal.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "tests/support/TestSupport.h"
 

@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QThread>
 #include <gmock/gmock.h>
-#include "demo/TourWatchdog.h"
+#include "demo/tour/TourWatchdog.h"
 
 using namespace std::chrono_literals;
 using testing::HasSubstr;

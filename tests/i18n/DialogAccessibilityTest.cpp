@@ -18,8 +18,8 @@
 #include <functional>
 #include <map>
 #include <set>
-#include "demo/TextFit.h"
-#include "demo/Translations.h"
+#include "demo/tour/TextFit.h"
+#include "demo/window/Translations.h"
 #include "tests/support/EveryDialog.h"
 #include "tests/support/TestSupport.h"
 

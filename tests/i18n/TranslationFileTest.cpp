@@ -13,7 +13,7 @@
 #include <set>
 #include <tuple>
 #include <vector>
-#include "demo/Translations.h"
+#include "demo/window/Translations.h"
 
 namespace {
 
@@ -161,7 +161,7 @@ TEST(GermanTranslation, MatchesTheTextsOfTheSources)
     QProcess run;
     run.setWorkingDirectory(ORRERY_SOURCE_DIR);
     run.start(lupdate, {"-silent", "-locations", "none", "-no-obsolete", "-extensions", "cpp,h,ui", "-I", ".",
-                        "platform", "host", "core", "framework", "prompts", "demo", "-ts", fresh});
+                        "platform", "host", "core", "framework", "prompts", "plot", "demo", "-ts", fresh});
     ASSERT_TRUE(run.waitForFinished(60000));
     ASSERT_EQ(run.exitCode(), 0) << run.readAllStandardError().toStdString();
 

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 #include <vector>
-#include "demo/DialogCatalog.h"
+#include "demo/launchers/DialogCatalog.h"
 
 namespace everydialog {
 
