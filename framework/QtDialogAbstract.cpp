@@ -6,7 +6,9 @@
 #include <QKeySequence>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <memory>
 #include "framework/HelpViewer.h"
+#include "platform/common/HostCall.h"
 
 namespace orrery {
 namespace dialogs {
@@ -15,6 +17,8 @@ namespace common {
 namespace {
 // Marks a button box whose buttons this frame has already wired.
 const char* const WiredMarker = "orreryFrameWired";
+// Marks a dialog that was dropped and only waits for its destruction.
+const char* const DroppedMarker = "orreryFrameDropped";
 
 // QObject::isSignalConnected is protected; a pointer to it taken through a
 // derived class may be applied to any object.
@@ -62,9 +66,42 @@ void QtDialogAbstract::launch()
 
 void QtDialogAbstract::drop()
 {
+    setProperty(DroppedMarker, true);
     if (isVisible())
         reject();
     deleteLater();
+}
+
+bool QtDialogAbstract::isDropped() const
+{
+    return property(DroppedMarker).toBool();
+}
+
+void QtDialogAbstract::openWith(std::function<void(int result)> whenFinished)
+{
+    const auto tell = [whenFinished](int result) {
+        if (whenFinished)
+            HostCall::run("whenFinished (given to QtDialogAbstract::openWith)", [&] { whenFinished(result); });
+    };
+    if (!isRelevant()) {
+        setResult(Rejected);
+        tell(Rejected);
+        return;
+    }
+    // Disconnected by its first call, so that a later run of this dialog does not call it again.
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = connect(this, &QDialog::finished, this, [connection, tell](int result) {
+        QObject::disconnect(*connection);
+        tell(result);
+    });
+    applyRelevance();
+    if (isModal())
+        open();
+    else {
+        show();
+        raise();
+        activateWindow();
+    }
 }
 
 void QtDialogAbstract::setHelpAction(QAction* action)

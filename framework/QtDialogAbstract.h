@@ -1,5 +1,6 @@
 #pragma once
 #include "framework/FrameworkExport.h"
+#include <functional>
 #include <vector>
 #include <QDialog>
 #include <QPointer>
@@ -34,8 +35,20 @@ public:
     /// Modal dialogs run until closed, others are shown and return. Does nothing
     /// (the result stays Rejected) while the dialog is not relevant.
     void launch() override;
-    /// Closes the dialog as rejected and schedules its destruction.
+    /// Closes the dialog as rejected and schedules its destruction. From then on the
+    /// dialog is no single instance's any more: the next getInstance builds a new one.
     void drop() override;
+    /// Whether drop() was called: the dialog only waits for its destruction.
+    bool isDropped() const;
+
+    /// Shows the dialog and returns at once, as QDialog::open() does for a modal dialog
+    /// (window-modal) and show() for a modeless one; \a whenFinished is called once,
+    /// with the result, when this run ends. A connection to finished() made by the
+    /// caller stays for later runs of a reused single-instance dialog and fires again;
+    /// this call does not. While the dialog is not relevant nothing is shown and
+    /// \a whenFinished is called at once with Rejected. An exception it throws is
+    /// stopped and told once, as a host fault.
+    void openWith(std::function<void(int result)> whenFinished);
 
     /// Whether the dialog's relevance holds now.
     bool isRelevant() const;

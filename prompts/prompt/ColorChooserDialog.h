@@ -23,8 +23,8 @@ class ORRERY_PROMPTS_EXPORT ColorChooserDialog : public common::QtDialogAbstract
 {
     Q_OBJECT
 public:
-    /// Every call moves the live dialog to the new parent and enables or
-    /// disables colouring by variable as asked.
+    /// Every call, later ones too, moves the live dialog to the new parent and
+    /// enables or disables colouring by variable as asked (see SingleInstanceDialog).
     static ColorChooserDialog* getInstance(QWidget& parent, bool enableVarColoring);
 
     /// The colour's name; shortForm abbreviates custom colours ("Cust 1" for
