@@ -1,7 +1,7 @@
 # Debian packages of the libraries, made by `cpack -G DEB` in the build folder:
-#   liborrery-prompts-qt<N>-0    the shared libraries (the stand-in host's too),
-#                                the translations and the help pages
-#   liborrery-prompts-qt<N>-dev  headers, the CMake package and the pkg-config files
+#   liborrery-prompts-qt<N>-<SOVERSION>  the shared libraries (the stand-in host's too),
+#                                        the translations and the help pages
+#   liborrery-prompts-qt<N>-dev          headers, the CMake package and the pkg-config files
 # Names carry the Qt major version, so the Qt 5 and Qt 6 packages install side by side.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME liborrery-prompts-${ORRERY_VARIANT})

@@ -1,17 +1,20 @@
 #pragma once
 #include "framework/FrameworkExport.h"
 #include <functional>
-#include <vector>
+#include <memory>
 #include <QDialog>
-#include <QPointer>
 #include <boost/shared_ptr.hpp>
-#include <boost/signals2/connection.hpp>
 #include "framework/DialogInterface.h"
-#include "core/propertymanager/RelevanceInterface.h"
 
 class QAction;
 
 namespace orrery {
+// Declared only: a host that includes a dialog does not parse the signals behind a
+// relevance, so that a dialog's header costs about what <QDialog> does.
+namespace sdk::ui::propertymanager {
+class RelevanceInterface;
+}
+
 namespace dialogs {
 namespace common {
 
@@ -55,7 +58,7 @@ public:
     /// Takes ownership of the action; it is triggered by F1 and by a Help button.
     void setHelpAction(QAction* action);
     /// The help action, or null when the dialog has none.
-    QAction* helpAction() const { return m_helpAction; }
+    QAction* helpAction() const;
 
 protected:
     /// Refuses to accept while the dialog is not relevant, and closes its help.
@@ -67,13 +70,8 @@ private:
     void applyRelevance();
     void wireButtonBoxes();
 
-    RelevancePtr m_relevance;
-    boost::signals2::scoped_connection m_relevanceConnection;
-    QAction* m_helpAction = nullptr;
-    /// The widgets this frame disabled for want of relevance; only these are
-    /// enabled again, so a widget disabled for its own reasons stays disabled.
-    std::vector<QPointer<QWidget>> m_heldDisabled;
-    bool m_holdingDisabled = false;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace common

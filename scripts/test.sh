@@ -17,6 +17,7 @@ if [ "$mode" = asan ]; then
   QT_QPA_PLATFORM=offscreen ctest --test-dir build/asan -j 2 --output-on-failure
 else
   QT_QPA_PLATFORM=offscreen ctest --test-dir "build/qt$mode" -j 2 --output-on-failure
+  bash scripts/header-cost.sh "build/qt$mode"
   bash scripts/check-package.sh "$mode"
   if [ "$mode" = 6 ]; then
     bash scripts/check-abi.sh self-test

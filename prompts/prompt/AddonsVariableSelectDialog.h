@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 #include <boost/shared_ptr.hpp>
-#include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
 #include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
+template <typename T>
+class PropertyAbstract;
+
 namespace dialogs {
 namespace prompt {
 

@@ -2,7 +2,6 @@
 #include "prompts/PromptsExport.h"
 #include <functional>
 #include <boost/shared_ptr.hpp>
-#include "core/propertymanager/RelevanceInterface.h"
 #include "platform/kernel/OrrTypes.h"
 #include "prompts/prompt/VariableSelectDialog.h"
 

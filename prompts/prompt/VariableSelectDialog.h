@@ -4,12 +4,14 @@
 #include <string>
 #include <vector>
 #include <boost/function.hpp>
-#include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
 #include "platform/toolbox/StringList.h"
 #include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
+template <typename T>
+class PropertyAbstract;
+
 namespace dialogs {
 namespace prompt {
 

@@ -1,7 +1,6 @@
 #pragma once
 #include "prompts/PromptsExport.h"
 #include <boost/shared_ptr.hpp>
-#include "core/propertymanager/RelevanceInterface.h"
 #include "platform/kernel/OrrTypes.h"
 #include "prompts/prompt/VariableSelectDialog.h"
 
