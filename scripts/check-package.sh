@@ -7,7 +7,9 @@
 #     installed on the machine) and the examples are built against them with CMake and with
 #     pkg-config; when the other Qt major version's packages were made too (build/qt<M>),
 #     they are unpacked into the same root and the examples are built against each;
-#  3. a variant or version that is not there is refused with CMake's and pkg-config's
+#  3. the packages are as Debian expects: libraries in the multiarch folder, stripped, their
+#     debug symbols in a -dbgsym package, no empty folder installed;
+#  4. a variant or version that is not there is refused with CMake's and pkg-config's
 #     ordinary messages, and the library's layers link no host.
 # Usage: scripts/check-package.sh [5|6]   (the Qt major version of build/qt<N>)
 set -euo pipefail
@@ -19,6 +21,8 @@ scratch="$PWD/$build/package-check"
 rm -rf "$scratch"
 mkdir -p "$scratch"
 jobs="${ORRERY_JOBS:-2}"
+# libdir <qt major>: where that build installs its libraries (lib/<multiarch triplet>).
+libdir() { sed -n 's/^CMAKE_INSTALL_LIBDIR:[A-Z]*=//p' "build/qt$1/CMakeCache.txt"; }
 
 # run <library dir> <program>: runs offscreen, showing its messages only when it fails.
 run() {
@@ -31,7 +35,7 @@ build_example() {
   for example in hello-host tiny-host; do
     cmake -S "examples/$example" -B "$scratch/$1/$example" -DCMAKE_PREFIX_PATH="$2" -DORRERY_QT_MAJOR="$3" >/dev/null
     cmake --build "$scratch/$1/$example" -j "$jobs" >/dev/null
-    run "$2/lib" "$scratch/$1/$example/$example"
+    run "$2/$(libdir "$3")" "$scratch/$1/$example/$example"
   done
 }
 
@@ -39,16 +43,17 @@ build_example() {
 # links no stand-in and hides its symbols.
 build_with_pkgconfig() {
   local flags
-  export PKG_CONFIG_PATH="$1/usr/lib/pkgconfig"
+  local lib="$1/usr/$(libdir "$2")"
+  export PKG_CONFIG_PATH="$lib/pkgconfig"
   flags=$(pkg-config --cflags --libs "orrery-prompts-qt$2" "orrery-host-qt$2")
   # shellcheck disable=SC2086 # the flags are words
   g++ -std=c++17 -fPIC examples/hello-host/main.cpp $flags -o "$scratch/hello-pc-qt$2"
-  run "$1/usr/lib" "$scratch/hello-pc-qt$2"
+  run "$lib" "$scratch/hello-pc-qt$2"
   flags=$(pkg-config --cflags --libs "orrery-prompts-qt$2")
   # shellcheck disable=SC2086 # the flags are words
   g++ -std=c++17 -fPIC -fvisibility=hidden -fvisibility-inlines-hidden examples/tiny-host/main.cpp \
       examples/tiny-host/TinyHost.cpp $flags -o "$scratch/tiny-pc-qt$2"
-  run "$1/usr/lib" "$scratch/tiny-pc-qt$2"
+  run "$lib" "$scratch/tiny-pc-qt$2"
   unset PKG_CONFIG_PATH
 }
 
@@ -64,12 +69,29 @@ expect_refusal() {
 cmake --install "$build" --prefix "$scratch/prefix" >/dev/null
 build_example install "$scratch/prefix" "$major"
 # What the tiny host's dialogs answered.
-LD_LIBRARY_PATH="$scratch/prefix/lib" QT_QPA_PLATFORM=offscreen "$scratch/install/tiny-host/tiny-host" 2>/dev/null | sed 's/^/  /'
+LD_LIBRARY_PATH="$scratch/prefix/$(libdir "$major")" QT_QPA_PLATFORM=offscreen "$scratch/install/tiny-host/tiny-host" 2>/dev/null | sed 's/^/  /'
 echo "package: installed, found, linked and run: the stand-in's example and the tiny host"
 
+rm -rf "$build/packages"
 (cd "$build" && cpack -G DEB -B "$PWD/packages" >/dev/null)
 root="$scratch/root"
 for deb in "$build"/packages/*.deb; do dpkg-deb -x "$deb" "$root"; done
+
+# Debian's expectations: multiarch, stripped, symbols apart, nothing empty.
+lib="$root/usr/$(libdir "$major")"
+[[ "$(libdir "$major")" == lib/*-* ]] || { echo "package: libraries in $(libdir "$major"), not the multiarch folder" >&2; exit 1; }
+for so in "$lib"/liborrery-*.so.*.*; do
+  if readelf -S "$so" | grep -q '\.debug_info'; then echo "package: $(basename "$so") is not stripped" >&2; exit 1; fi
+done
+symbols="$scratch/dbgsym"
+for ddeb in "$build"/packages/*.ddeb; do dpkg-deb -x "$ddeb" "$symbols"; done
+if ! find "$symbols/usr/lib/debug" -name '*.debug' 2>/dev/null | grep -q .; then
+  echo "package: no debug symbols package" >&2; exit 1
+fi
+for tree in "$scratch/prefix" "$root" "$symbols"; do
+  if empty=$(find "$tree" -type d -empty | grep .); then echo "package: empty folders installed: $empty" >&2; exit 1; fi
+done
+echo "package: libraries in $(libdir "$major"), stripped ($(du -sh "$lib" | cut -f1)), debug symbols apart ($(du -sh "$symbols" | cut -f1)), nothing empty"
 build_example deb "$root/usr" "$major"
 build_with_pkgconfig "$root" "$major"
 echo "package: $(cd "$build/packages" && ls ./*.deb | tr '\n' ' ')unpacked; the examples build with CMake and pkg-config"
@@ -77,9 +99,10 @@ echo "package: $(cd "$build/packages" && ls ./*.deb | tr '\n' ' ')unpacked; the 
 expect_refusal "a Qt $other variant that is not there" "OrreryPromptsQt$other" \
   cmake -S examples/hello-host -B "$scratch/missing" -DCMAKE_PREFIX_PATH="$root/usr" -DORRERY_QT_MAJOR="$other"
 expect_refusal "a pkg-config variant that is not there" "orrery-prompts-qt$other" \
-  env PKG_CONFIG_PATH="$root/usr/lib/pkgconfig" pkg-config --exists --print-errors "orrery-prompts-qt$other"
+  env PKG_CONFIG_PATH="$lib/pkgconfig" pkg-config --exists --print-errors "orrery-prompts-qt$other"
 mkdir -p "$scratch/newer-src"
-printf 'cmake_minimum_required(VERSION 3.25)\nproject(Newer NONE)\nfind_package(OrreryPromptsQt%s 9.0 CONFIG REQUIRED)\n' \
+# With a language, so that CMake knows the multiarch folder and looks there.
+printf 'cmake_minimum_required(VERSION 3.25)\nproject(Newer CXX)\nfind_package(OrreryPromptsQt%s 9.0 CONFIG REQUIRED)\n' \
   "$major" >"$scratch/newer-src/CMakeLists.txt"
 expect_refusal "a version newer than installed" "version: 0.1" \
   cmake -S "$scratch/newer-src" -B "$scratch/newer" -DCMAKE_PREFIX_PATH="$root/usr"

@@ -23,7 +23,7 @@ else
     bash scripts/check-abi.sh self-test
     bash scripts/check-abi.sh check
     bash scripts/install-deps.sh docs
-    # Finds Doxygen when it was just installed; strict even where an older cache turned it off.
+    # Strict even where an older cache turned it off.
     cmake -S . -B build/qt6 -DORRERY_DOCS_STRICT=ON >/dev/null
     cmake --build build/qt6 --target docs
   fi
