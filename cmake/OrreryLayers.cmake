@@ -1,14 +1,28 @@
+# Libraries go to the multiarch folder where the system has one (lib/x86_64-linux-gnu
+# on Debian), as the packages install them under /usr; the CMake package and the
+# pkg-config files follow them. A value given on the command line is kept; the plain
+# "lib" that GNUInstallDirs cached earlier is not.
+if(CMAKE_LIBRARY_ARCHITECTURE)
+  get_property(libdir_help CACHE CMAKE_INSTALL_LIBDIR PROPERTY HELPSTRING)
+  if(NOT DEFINED CACHE{CMAKE_INSTALL_LIBDIR} OR libdir_help STREQUAL "Object code libraries (lib)")
+    set(CMAKE_INSTALL_LIBDIR "lib/${CMAKE_LIBRARY_ARCHITECTURE}" CACHE PATH
+        "Object code libraries (lib/<multiarch triplet>)" FORCE)
+  endif()
+endif()
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 include(GenerateExportHeader)
 
 # Installed names carry the Qt major version, as Qt libraries' do, so that a Qt 5
-# and a Qt 6 build install side by side: liborrery-prompts-qt6.so.0,
+# and a Qt 6 build install side by side: liborrery-prompts-qt6.so.1,
 # include/orrery-qt6/, find_package(OrreryPromptsQt6), orrery-prompts-qt6.pc.
 set(ORRERY_VARIANT qt${ORRERY_QT_MAJOR})
 set(ORRERY_INCLUDE_SUBDIR orrery-${ORRERY_VARIANT})
 set(ORRERY_PACKAGE OrreryPromptsQt${ORRERY_QT_MAJOR})
-set(ORRERY_SOVERSION 0)
+# Raised with every incompatible change of the public ABI (scripts/check-abi.sh).
+# 1: the dialog frame keeps its state behind a private pointer, so that the public
+#    headers need no Boost.Signals2.
+set(ORRERY_SOVERSION 1)
 
 # One library per top-level folder; the folder alone decides what goes in it.
 # orrery_add_layer(<layer> [EXPORTED] DEPENDS <targets...> [EXTRA <files...>])
@@ -48,8 +62,13 @@ function(orrery_add_layer layer)
           LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev
           ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev
           RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
-  install(DIRECTORY "${dir}/" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}/${layer}
-          COMPONENT dev FILES_MATCHING PATTERN "*.h")
+  # Header by header, so that a folder without headers (resources/) is not installed empty.
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE "${dir}" "${dir}/*.h")
+  foreach(header IN LISTS headers)
+    get_filename_component(subdir "${header}" DIRECTORY)
+    install(FILES "${dir}/${header}" DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${ORRERY_INCLUDE_SUBDIR}/${layer}/${subdir}
+            COMPONENT dev)
+  endforeach()
 endfunction()
 
 # orrery_add_pkgconfig(<name> <description> <requires> <layers...>) writes

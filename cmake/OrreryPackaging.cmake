@@ -1,7 +1,9 @@
 # Debian packages of the libraries, made by `cpack -G DEB` in the build folder:
-#   liborrery-prompts-qt<N>-0    the shared libraries (the stand-in host's too),
-#                                the translations and the help pages
-#   liborrery-prompts-qt<N>-dev  headers, the CMake package and the pkg-config files
+#   liborrery-prompts-qt<N>-<SOVERSION>  the shared libraries (the stand-in host's too),
+#                                        the translations and the help pages
+#   liborrery-prompts-qt<N>-dev          headers, the CMake package and the pkg-config files
+#   liborrery-prompts-qt<N>-<SOVERSION>-dbgsym  the libraries' debug symbols (.ddeb), which
+#                                        are stripped from the runtime package
 # Names carry the Qt major version, so the Qt 5 and Qt 6 packages install side by side.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME liborrery-prompts-${ORRERY_VARIANT})
@@ -12,6 +14,8 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+# Stripped libraries; their debug symbols in a package of their own, found by build ID.
+set(CPACK_DEBIAN_RUNTIME_DEBUGINFO_PACKAGE ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 
 set(runtime_package ${CPACK_PACKAGE_NAME}-${ORRERY_SOVERSION})

@@ -6,7 +6,13 @@
 #include <QKeySequence>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <memory>
+#include <vector>
+#include <QPointer>
+#include <boost/signals2/connection.hpp>
+#include "core/propertymanager/RelevanceInterface.h"
 #include "framework/HelpViewer.h"
+#include "platform/common/HostCall.h"
 
 namespace orrery {
 namespace dialogs {
@@ -30,18 +36,33 @@ bool isConnected(const QDialogButtonBox& box, Signal signal)
 }
 } // namespace
 
-QtDialogAbstract::QtDialogAbstract(QWidget& parent, RelevancePtr relevance)
-    : QDialog(&parent), m_relevance(std::move(relevance))
+struct QtDialogAbstract::Impl
 {
-    if (m_relevance)
-        m_relevanceConnection = m_relevance->connectToRelevanceChangedSignal([this] { applyRelevance(); });
+    explicit Impl(RelevancePtr relevance) : relevance(std::move(relevance)) {}
+
+    RelevancePtr relevance;
+    boost::signals2::scoped_connection relevanceConnection;
+    QAction* helpAction = nullptr;
+    // The widgets this frame disabled for want of relevance; only these are
+    // enabled again, so a widget disabled for its own reasons stays disabled.
+    std::vector<QPointer<QWidget>> heldDisabled;
+    bool holdingDisabled = false;
+    // Dropped: it only waits for its destruction.
+    bool dropped = false;
+};
+
+QtDialogAbstract::QtDialogAbstract(QWidget& parent, RelevancePtr relevance)
+    : QDialog(&parent), m_impl(new Impl(std::move(relevance)))
+{
+    if (m_impl->relevance)
+        m_impl->relevanceConnection = m_impl->relevance->connectToRelevanceChangedSignal([this] { applyRelevance(); });
 }
 
 QtDialogAbstract::~QtDialogAbstract() = default;
 
 bool QtDialogAbstract::isRelevant() const
 {
-    return !m_relevance || m_relevance->isRelevant();
+    return !m_impl->relevance || m_impl->relevance->isRelevant();
 }
 
 void QtDialogAbstract::launch()
@@ -62,17 +83,55 @@ void QtDialogAbstract::launch()
 
 void QtDialogAbstract::drop()
 {
+    m_impl->dropped = true;
     if (isVisible())
         reject();
     deleteLater();
 }
 
+bool QtDialogAbstract::isDropped() const
+{
+    return m_impl->dropped;
+}
+
+void QtDialogAbstract::openWith(std::function<void(int result)> whenFinished)
+{
+    const auto tell = [whenFinished](int result) {
+        if (whenFinished)
+            HostCall::run("whenFinished (given to QtDialogAbstract::openWith)", [&] { whenFinished(result); });
+    };
+    if (!isRelevant()) {
+        setResult(Rejected);
+        tell(Rejected);
+        return;
+    }
+    // Disconnected by its first call, so that a later run of this dialog does not call it again.
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = connect(this, &QDialog::finished, this, [connection, tell](int result) {
+        QObject::disconnect(*connection);
+        tell(result);
+    });
+    applyRelevance();
+    if (isModal())
+        open();
+    else {
+        show();
+        raise();
+        activateWindow();
+    }
+}
+
+QAction* QtDialogAbstract::helpAction() const
+{
+    return m_impl->helpAction;
+}
+
 void QtDialogAbstract::setHelpAction(QAction* action)
 {
-    if (m_helpAction == action)
+    if (m_impl->helpAction == action)
         return;
-    delete m_helpAction;
-    m_helpAction = action;
+    delete m_impl->helpAction;
+    m_impl->helpAction = action;
     if (!action)
         return;
     action->setParent(this);
@@ -103,24 +162,24 @@ void QtDialogAbstract::applyRelevance()
 {
     const bool relevant = isRelevant();
     if (relevant) {
-        if (!m_holdingDisabled)
+        if (!m_impl->holdingDisabled)
             return;
-        m_holdingDisabled = false;
-        for (const QPointer<QWidget>& widget : m_heldDisabled)
+        m_impl->holdingDisabled = false;
+        for (const QPointer<QWidget>& widget : m_impl->heldDisabled)
             if (widget)
                 widget->setEnabled(true);
-        m_heldDisabled.clear();
+        m_impl->heldDisabled.clear();
         return;
     }
-    if (m_holdingDisabled)
+    if (m_impl->holdingDisabled)
         return;
-    m_holdingDisabled = true;
+    m_impl->holdingDisabled = true;
     const auto hold = [this](QWidget* widget) {
         // Qt keeps an explicit disable apart from one inherited from a parent.
         if (widget->testAttribute(Qt::WA_ForceDisabled))
             return;
         widget->setEnabled(false);
-        m_heldDisabled.emplace_back(widget);
+        m_impl->heldDisabled.emplace_back(widget);
     };
     // Disabling the dialog itself would take Cancel and Escape with it.
     for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -152,11 +211,11 @@ void QtDialogAbstract::wireButtonBoxes()
                 connect(box, &QDialogButtonBox::rejected, this, &QDialog::reject);
             // The action may be replaced later (some dialogs change page by state).
             connect(box, &QDialogButtonBox::helpRequested, this, [this] {
-                if (m_helpAction)
-                    m_helpAction->trigger();
+                if (m_impl->helpAction)
+                    m_impl->helpAction->trigger();
             });
         }
-        if (m_helpAction && !box->button(QDialogButtonBox::Help))
+        if (m_impl->helpAction && !box->button(QDialogButtonBox::Help))
             box->addButton(QDialogButtonBox::Help);
     }
 }

@@ -1,16 +1,20 @@
 #pragma once
 #include "framework/FrameworkExport.h"
-#include <vector>
+#include <functional>
+#include <memory>
 #include <QDialog>
-#include <QPointer>
 #include <boost/shared_ptr.hpp>
-#include <boost/signals2/connection.hpp>
 #include "framework/DialogInterface.h"
-#include "core/propertymanager/RelevanceInterface.h"
 
 class QAction;
 
 namespace orrery {
+// Declared only: a host that includes a dialog does not parse the signals behind a
+// relevance, so that a dialog's header costs about what <QDialog> does.
+namespace sdk::ui::propertymanager {
+class RelevanceInterface;
+}
+
 namespace dialogs {
 namespace common {
 
@@ -34,15 +38,27 @@ public:
     /// Modal dialogs run until closed, others are shown and return. Does nothing
     /// (the result stays Rejected) while the dialog is not relevant.
     void launch() override;
-    /// Closes the dialog as rejected and schedules its destruction.
+    /// Closes the dialog as rejected and schedules its destruction. From then on the
+    /// dialog is no single instance's any more: the next getInstance builds a new one.
     void drop() override;
+    /// Whether drop() was called: the dialog only waits for its destruction.
+    bool isDropped() const;
+
+    /// Shows the dialog and returns at once, as QDialog::open() does for a modal dialog
+    /// (window-modal) and show() for a modeless one; \a whenFinished is called once,
+    /// with the result, when this run ends. A connection to finished() made by the
+    /// caller stays for later runs of a reused single-instance dialog and fires again;
+    /// this call does not. While the dialog is not relevant nothing is shown and
+    /// \a whenFinished is called at once with Rejected. An exception it throws is
+    /// stopped and told once, as a host fault.
+    void openWith(std::function<void(int result)> whenFinished);
 
     /// Whether the dialog's relevance holds now.
     bool isRelevant() const;
     /// Takes ownership of the action; it is triggered by F1 and by a Help button.
     void setHelpAction(QAction* action);
     /// The help action, or null when the dialog has none.
-    QAction* helpAction() const { return m_helpAction; }
+    QAction* helpAction() const;
 
 protected:
     /// Refuses to accept while the dialog is not relevant, and closes its help.
@@ -54,13 +70,8 @@ private:
     void applyRelevance();
     void wireButtonBoxes();
 
-    RelevancePtr m_relevance;
-    boost::signals2::scoped_connection m_relevanceConnection;
-    QAction* m_helpAction = nullptr;
-    /// The widgets this frame disabled for want of relevance; only these are
-    /// enabled again, so a widget disabled for its own reasons stays disabled.
-    std::vector<QPointer<QWidget>> m_heldDisabled;
-    bool m_holdingDisabled = false;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace common

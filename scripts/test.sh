@@ -17,12 +17,13 @@ if [ "$mode" = asan ]; then
   QT_QPA_PLATFORM=offscreen ctest --test-dir build/asan -j 2 --output-on-failure
 else
   QT_QPA_PLATFORM=offscreen ctest --test-dir "build/qt$mode" -j 2 --output-on-failure
+  bash scripts/header-cost.sh "build/qt$mode"
   bash scripts/check-package.sh "$mode"
   if [ "$mode" = 6 ]; then
     bash scripts/check-abi.sh self-test
     bash scripts/check-abi.sh check
     bash scripts/install-deps.sh docs
-    # Finds Doxygen when it was just installed; strict even where an older cache turned it off.
+    # Strict even where an older cache turned it off.
     cmake -S . -B build/qt6 -DORRERY_DOCS_STRICT=ON >/dev/null
     cmake --build build/qt6 --target docs
   fi

@@ -7,6 +7,7 @@
 #include "prompts/prompt/EnterTextStringDialog.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
 #include "prompts/prompt/RGBColorOptsDialog.h"
+#include "prompts/prompt/ZoneSelectDialog.h"
 
 using namespace orrery::dialogs::prompt;
 
@@ -15,7 +16,7 @@ namespace examples {
 //! [plain value]
 IndexRange askForIndexRange(QWidget& mainWindow)
 {
-    // The first call makes the dialog; later calls refresh it from the new arguments.
+    // The first call makes the dialog; a later call returns it as the user left it.
     EnterThreeIntValuesDialog* dialog = EnterThreeIntValuesDialog::getInstance(mainWindow, 1, 100, 1, "Index range", "",
                                                                                "&Begin", "&End", "&Skip", 1, 1, 1);
     dialog->launch(); // modal: returns when the user closes it
@@ -29,6 +30,19 @@ IndexRange askForIndexRange(QWidget& mainWindow)
     return range;
 }
 //! [plain value]
+
+//! [open with]
+void pickZone(QWidget& mainWindow, int currentZone, std::function<void(int zone)> use)
+{
+    ZoneSelectDialog* dialog = ZoneSelectDialog::getInstance(mainWindow, currentZone);
+    // Returns at once; the function is called once, when this run ends. A connection
+    // to finished() would stay and be called again by the dialog's later runs.
+    dialog->openWith([dialog, use](int result) {
+        if (result == QDialog::Accepted)
+            use(dialog->selectedZone());
+    });
+}
+//! [open with]
 
 //! [text string]
 std::string askForFrameTitle(QWidget& mainWindow)

@@ -4,11 +4,13 @@
 #include <string>
 #include <vector>
 #include <boost/shared_ptr.hpp>
-#include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
 #include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
+template <typename T>
+class PropertyAbstract;
+
 namespace dialogs {
 namespace prompt {
 
@@ -24,8 +26,9 @@ public:
     typedef boost::shared_ptr<PropertyAbstract<int>> VarPropertyPtr;
 
     /// Texts are UTF-8. A null label is skipped, so the labels after it move up one row; rows
-    /// without a label are hidden, their properties still bound. The first call
-    /// fixes everything; a live dialog is returned unchanged. Throws
+    /// without a label are hidden, their properties still bound. Later calls
+    /// refresh nothing: a live dialog is returned unchanged (see
+    /// SingleInstanceDialog). Throws
     /// std::out_of_range without any label and std::invalid_argument for null
     /// instructions or properties.
     static AddonsVariableSelectDialog* getInstance(QWidget& parent, const char* instructions, const char* label1,

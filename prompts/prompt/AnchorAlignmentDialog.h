@@ -19,8 +19,8 @@ class ORRERY_PROMPTS_EXPORT AnchorAlignmentDialog : public common::QtDialogAbstr
 {
     Q_OBJECT
 public:
-    /// A live dialog keeps its buttons and answer; only the alignment that
-    /// Cancel restores is replaced.
+    /// Later calls refresh only the alignment that Cancel restores: a live dialog
+    /// keeps its buttons and answer (see SingleInstanceDialog).
     static AnchorAlignmentDialog* getInstance(AnchorAlignment_e initial, QWidget& parent);
 
     /// Builds the dialog directly, over \a parent, with \a initial checked; a host uses

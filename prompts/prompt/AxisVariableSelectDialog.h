@@ -2,7 +2,6 @@
 #include "prompts/PromptsExport.h"
 #include <functional>
 #include <boost/shared_ptr.hpp>
-#include "core/propertymanager/RelevanceInterface.h"
 #include "platform/kernel/OrrTypes.h"
 #include "prompts/prompt/VariableSelectDialog.h"
 
@@ -23,8 +22,9 @@ public:
                              PropertyAbstract<int>& var3) const override;
     };
 
-    /// The variable dialog for the axes of the current frame's plot type (see
-    /// VariableSelectDialog::getInstance for the reuse of a live dialog).
+    /// The variable dialog for the axes of the current frame's plot type. Later
+    /// calls refresh nothing: a live variable dialog is returned as it is, even
+    /// one built for other values (see SingleInstanceDialog).
     static VariableSelectDialog* getInstance(QWidget& parent);
     /// Relevant while the current page shows a frame with a 2D or 3D field plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();

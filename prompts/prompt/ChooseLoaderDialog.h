@@ -25,8 +25,9 @@ public:
     /// A loader registered with the host.
     typedef boost::shared_ptr<sdk::DataLoaderInterface> LoaderPtr;
 
-    /// Every call rebuilds the list, selection, title and prompt from the
-    /// arguments. Extensions are written with their dot (".csv").
+    /// Every call, later ones too, rebuilds the list, selection, title and prompt
+    /// from the arguments (see SingleInstanceDialog); only the parent of the first
+    /// call counts. Extensions are written with their dot (".csv").
     static ChooseLoaderDialog* getInstance(QWidget& parent, std::vector<LoaderPtr> const& suggestedLoaders,
                                            std::set<std::string> const& extensions);
 

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include "framework/LaunchHelpAction.h"
 #include "platform/common/HostCall.h"
+#include "platform/common/SignalConnectionCollection.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
@@ -89,14 +90,15 @@ const QString& ColorChooserDialog::multiColorIconPath()
 }
 
 ColorChooserDialog::ColorChooserDialog(QWidget& parent)
-    : QtDialogAbstract(parent, RelevancePtr()), m_ui(new Ui_ColorChooser), m_selectedColor(0)
+    : QtDialogAbstract(parent, RelevancePtr()), m_ui(new Ui_ColorChooser), m_selectedColor(0),
+      m_connections(new SignalConnectionCollection)
 {
     setHelpAction(new common::LaunchHelpAction("select_color.html", *this));
     m_ui->setupUi(this);
     auto* frameLayout = new QGridLayout(m_ui->buttonGridFrame);
     auto* grid = new ColorChooserWidget(m_ui->buttonGridFrame);
     frameLayout->addWidget(grid, 0, 0);
-    m_connections.add(grid->connectToColorSelectedSignal([this](int colorIndex) { colorSelected(colorIndex); }));
+    m_connections->add(grid->connectToColorSelectedSignal([this](int colorIndex) { colorSelected(colorIndex); }));
     m_ui->C1->setIcon(QIcon(multiColorIconPath()));
     // The swatches name their colours; these name what they colour by.
     QToolButton* const multi[8] = {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8};

@@ -5,12 +5,13 @@
 #include <string>
 #include <QString>
 #include "framework/QtDialogAbstract.h"
-#include "platform/common/SignalConnectionCollection.h"
 #include "framework/SingleInstanceDialog.h"
 
 class Ui_ColorChooser;
 
 namespace orrery {
+class SignalConnectionCollection;
+
 namespace dialogs {
 namespace prompt {
 
@@ -23,8 +24,8 @@ class ORRERY_PROMPTS_EXPORT ColorChooserDialog : public common::QtDialogAbstract
 {
     Q_OBJECT
 public:
-    /// Every call moves the live dialog to the new parent and enables or
-    /// disables colouring by variable as asked.
+    /// Every call, later ones too, moves the live dialog to the new parent and
+    /// enables or disables colouring by variable as asked (see SingleInstanceDialog).
     static ColorChooserDialog* getInstance(QWidget& parent, bool enableVarColoring);
 
     /// The colour's name; shortForm abbreviates custom colours ("Cust 1" for
@@ -76,7 +77,7 @@ private:
     std::unique_ptr<Ui_ColorChooser> m_ui;
     int m_selectedColor;
     std::set<int> m_keysPressedHere;
-    SignalConnectionCollection m_connections;
+    std::unique_ptr<SignalConnectionCollection> m_connections;
 };
 
 /// Asks the user for the RGB channel variables in a dialog over parent; true

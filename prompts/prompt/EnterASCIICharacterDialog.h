@@ -18,8 +18,8 @@ class ORRERY_PROMPTS_EXPORT EnterASCIICharacterDialog : public common::QtDialogA
 {
     Q_OBJECT
 public:
-    /// The first call fixes the initial character and font; a live dialog is
-    /// returned as the user left it and the arguments are ignored.
+    /// The first call fixes the initial character and font. Later calls refresh
+    /// nothing: a live dialog is returned as the user left it (see SingleInstanceDialog).
     static EnterASCIICharacterDialog* getInstance(QWidget& parent, std::string initialChar, bool useBaseFont,
                                                   Font_e font);
 

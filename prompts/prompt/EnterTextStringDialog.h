@@ -9,8 +9,10 @@ namespace orrery {
 namespace dialogs {
 namespace prompt {
 
-/// Asks for one line of text. The caller constructs, runs and destroys it, and
-/// reads text() before destroying it.
+/// Asks for one line of text. The caller constructs one per question (it has no
+/// getInstance, and so nothing is reused), runs and destroys it, and reads text()
+/// before destroying it. It sets no modality: a host that runs it with launch()
+/// and waits for the answer calls setModal(true) first.
 class ORRERY_PROMPTS_EXPORT EnterTextStringDialog : public common::QtDialogAbstract,
                                                     public virtual common::DialogInterface
 {

@@ -17,8 +17,9 @@ class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesDialog : public common::QtDialogA
 {
     Q_OBJECT
 public:
-    /// The first call fixes everything; a live dialog is returned as the user
-    /// left it and the arguments are ignored. \a title and the labels are UTF-8.
+    /// The first call fixes everything. Later calls refresh nothing: a live dialog
+    /// is returned as the user left it (see SingleInstanceDialog). \a title and the
+    /// labels are UTF-8.
     static EnterThreeIntValuesDialog* getInstance(QWidget& parent, long value1, long value2, long value3,
                                                   std::string const& title, std::string const& helpPage,
                                                   std::string label1, std::string label2, std::string label3,

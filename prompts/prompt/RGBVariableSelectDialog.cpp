@@ -1,6 +1,7 @@
 #include "prompts/prompt/RGBVariableSelectDialog.h"
 
 #include <QtGlobal>
+#include "core/property/PropertyAbstract.h"
 #include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"

@@ -19,9 +19,9 @@ public:
                              PropertyAbstract<int>& var3) const override;
     };
 
-    /// The variable dialog for the three channels (see
-    /// VariableSelectDialog::getInstance for the reuse of a live dialog). It is
-    /// usable while a data set exists.
+    /// The variable dialog for the three channels. Later calls refresh nothing: a
+    /// live variable dialog is returned as it is, even one built for other values
+    /// (see SingleInstanceDialog). It is usable while a data set exists.
     static VariableSelectDialog* getInstance(QWidget& parent);
 };
 

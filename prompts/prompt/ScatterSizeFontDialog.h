@@ -17,7 +17,9 @@ class ORRERY_PROMPTS_EXPORT ScatterSizeFontDialog : public common::QtDialogAbstr
 {
     Q_OBJECT
 public:
-    /// The parent counts only for the first call, which builds the dialog.
+    /// The parent counts only for the first call, which builds the dialog. Later
+    /// calls refresh nothing (see SingleInstanceDialog); the dialog shows the
+    /// style as it is anyway.
     static ScatterSizeFontDialog* getInstance(QWidget& parent);
     /// Relevant while the current frame shows a field plot or a line plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();

@@ -1,5 +1,6 @@
 #include "prompts/prompt/VariableSelectDialog.h"
 
+#include <stdexcept>
 #include <boost/make_shared.hpp>
 #include <QCoreApplication>
 #include "core/property/InvalidPropertyValueException.h"
@@ -63,9 +64,11 @@ struct VariableSelectDialog::Impl
          const toolbox::StringList& var3Path, const std::string& instructions, const std::vector<std::string>& labels,
          const DefaultVarAssignmentInterface& assignment);
 
-    // Puts the texts into the labels; hides the third row of a two-variable
-    // dialog. Throws std::out_of_range when labels are missing.
+    // Puts the texts into the labels and hides the third row of a two-variable
+    // dialog. A missing label leaves its caption empty.
     void showTexts();
+    // Throws std::out_of_range when labels are missing.
+    void checkLabels() const;
     // Writes the pending choices that differ from the kernel's values and runs
     // the post-assignment action, as one undo step. On a refusal every write of
     // the step is taken back, and refusal holds the reason.
@@ -101,6 +104,8 @@ VariableSelectDialog::Impl::Impl(QDialog& dialog, const toolbox::StringList& var
     var3 = boost::make_shared<VarProperty>(toolbox::StyleValue(hasThirdVariable ? var3Path : var2Path));
     assignment.assignVariables(*var1, *var2, *var3);
     setupPropertyBindings();
+    // Here rather than in launch(), so that exec(), open() and show() show them too.
+    showTexts();
 }
 
 void VariableSelectDialog::Impl::setupPropertyBindings()
@@ -111,18 +116,18 @@ void VariableSelectDialog::Impl::setupPropertyBindings()
 
 void VariableSelectDialog::Impl::showTexts()
 {
-    const QString first = shown(labels.at(0));
-    const QString second = shown(labels.at(1));
-    const QString third = hasThirdVariable ? shown(labels.at(2)) : QString();
     ui.instructions_label->setText(shown(instructions));
-    ui.var1_label->setText(first);
-    ui.var2_label->setText(second);
-    if (hasThirdVariable) {
-        ui.var3_label->setText(third);
-    } else {
-        ui.var3_label->setVisible(false);
-        ui.var3_comboBox->setVisible(false);
-    }
+    QLabel* const captions[] = {ui.var1_label, ui.var2_label, ui.var3_label};
+    for (size_t row = 0; row < 3; ++row)
+        captions[row]->setText(row < labels.size() ? shown(labels[row]) : QString());
+    ui.var3_label->setVisible(hasThirdVariable);
+    ui.var3_comboBox->setVisible(hasThirdVariable);
+}
+
+void VariableSelectDialog::Impl::checkLabels() const
+{
+    if (labels.size() < (hasThirdVariable ? 3u : 2u))
+        throw std::out_of_range("The variable dialog needs a label for each of its rows.");
 }
 
 bool VariableSelectDialog::Impl::applyChoices(std::string& refusal)
@@ -192,7 +197,7 @@ void VariableSelectDialog::launch()
         setResult(Rejected);
         return;
     }
-    m_impl->showTexts();
+    m_impl->checkLabels();
     QtDialogAbstract::launch();
 }
 

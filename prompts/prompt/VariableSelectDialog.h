@@ -4,12 +4,14 @@
 #include <string>
 #include <vector>
 #include <boost/function.hpp>
-#include "core/property/PropertyAbstract.h"
 #include "framework/QtDialogAbstract.h"
 #include "platform/toolbox/StringList.h"
 #include "framework/SingleInstanceDialog.h"
 
 namespace orrery {
+template <typename T>
+class PropertyAbstract;
+
 namespace dialogs {
 namespace prompt {
 
@@ -33,11 +35,13 @@ public:
                                      PropertyAbstract<int>& var3) const = 0;
     };
 
-    /// The first call builds the dialog for these paths; a live dialog is
-    /// returned unchanged (its old paths, texts and choices) whatever the
-    /// arguments. An empty var3Path makes a two-variable dialog. labels needs
-    /// two texts, three with a third variable; launch() checks that.
-    /// Throws what the assignment throws, and then leaves no dialog behind.
+    /// The first call builds the dialog for these paths and texts, which it shows
+    /// however it is run (launch(), exec(), open(), show()). Later calls refresh
+    /// nothing: a live dialog is returned with its old paths, texts and choices
+    /// (see SingleInstanceDialog). An empty var3Path makes a two-variable dialog.
+    /// labels needs two texts, three with a third variable: launch() checks that,
+    /// while the other ways show an empty caption. Throws what the assignment
+    /// throws, and then leaves no dialog behind.
     static VariableSelectDialog* getInstance(QWidget& parent, const toolbox::StringList& var1Path,
                                              const toolbox::StringList& var2Path, const toolbox::StringList& var3Path,
                                              const std::string& instructions, const std::vector<std::string>& labels,

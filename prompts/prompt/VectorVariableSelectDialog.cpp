@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <boost/make_shared.hpp>
+#include "core/property/PropertyAbstract.h"
 #include "framework/StateChangeDependentRelevance.h"
 #include <QtGlobal>
 #include "platform/kernel/OrrUtil.h"

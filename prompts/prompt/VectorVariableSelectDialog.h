@@ -1,7 +1,6 @@
 #pragma once
 #include "prompts/PromptsExport.h"
 #include <boost/shared_ptr.hpp>
-#include "core/propertymanager/RelevanceInterface.h"
 #include "platform/kernel/OrrTypes.h"
 #include "prompts/prompt/VariableSelectDialog.h"
 
@@ -28,8 +27,9 @@ public:
         PlotType_e plotType;
     };
 
-    /// The variable dialog for the vector components of plotType (see
-    /// VariableSelectDialog::getInstance for the reuse of a live dialog).
+    /// The variable dialog for the vector components of plotType. Later calls
+    /// refresh nothing: a live variable dialog is returned as it is, even one built
+    /// for other values (see SingleInstanceDialog).
     static VariableSelectDialog* getInstance(QWidget& parent, PlotType_e plotType);
     /// Relevant while the current page shows a frame with a 2D or 3D field plot.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();

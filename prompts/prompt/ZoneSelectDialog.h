@@ -17,7 +17,9 @@ class ORRERY_PROMPTS_EXPORT ZoneSelectDialog : public common::QtDialogAbstract,
     Q_OBJECT
 public:
     /// The live dialog (built on first use) showing zone as the current choice,
-    /// scrolled to it. The row is taken to be zone - 1.
+    /// scrolled to it. Every call, later ones too, refreshes the zone (see
+    /// SingleInstanceDialog); only the parent of the first call counts. The row is
+    /// taken to be zone - 1.
     static ZoneSelectDialog* getInstance(QWidget& parent, int zone);
 
     /// zone is not used: getInstance applies it.

@@ -43,6 +43,24 @@ TEST_F(DialogExamplesTest, PlainValueAndTextPromptsAnswerWhatTheUserEntered)
     EXPECT_EQ(examples::askForFrameTitle(parent), "Inlet, cooled");
 }
 
+TEST_F(DialogExamplesTest, AnOpenedDialogAnswersEachRunOnceThoughTheDialogIsReused)
+{
+    std::vector<int> answers;
+    examples::pickZone(parent, 2, [&](int zone) { answers.push_back(zone); });
+    QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr) << "openWith shows the dialog and returns";
+    user::press(*dialog, QDialogButtonBox::Ok);
+    EXPECT_EQ(answers, std::vector<int>{2});
+
+    examples::pickZone(parent, 3, [&](int zone) { answers.push_back(10 * zone); });
+    ASSERT_EQ(QApplication::activeModalWidget(), dialog) << "the same dialog, reused";
+    user::press(*dialog, QDialogButtonBox::Ok);
+    EXPECT_EQ(answers, (std::vector<int>{2, 30}));
+    dialog->open();
+    user::press(*dialog, QDialogButtonBox::Ok);
+    EXPECT_EQ(answers, (std::vector<int>{2, 30})) << "a later run calls neither function again";
+}
+
 TEST_F(DialogExamplesTest, VariablesAreWrittenOnOkAndStyleDialogsAtOnce)
 {
     whenOpen([](QDialog& d) {

@@ -1,3 +1,5 @@
+#include <stdexcept>
+#include <vector>
 #include <QAction>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -125,6 +127,33 @@ TEST_F(QtDialogAbstractTest, AnIrrelevantDialogCannotBeLaunchedAndAnOpenOneKeeps
     EXPECT_TRUE(always.isRelevant());
     always.launch();
     EXPECT_TRUE(always.isVisible());
+}
+
+TEST_F(QtDialogAbstractTest, OpenWithReturnsAtOnceAndCallsItsFunctionOnceContainingWhatItThrows)
+{
+    testsupport::Kernel::captureMessageBoxes();
+    auto relevant = boost::make_shared<Property<bool>>(false);
+    ProbeDialog dialog(parent, boost::make_shared<PropertyDependentRelevance<bool>>(relevant, true), false);
+    dialog.setModal(true);
+    std::vector<int> results;
+    dialog.openWith([&](int result) { results.push_back(result); });
+    EXPECT_FALSE(dialog.isVisible()) << "not relevant: nothing shown";
+    EXPECT_EQ(results, std::vector<int>{QDialog::Rejected});
+
+    relevant->setValue(true);
+    dialog.openWith([&](int result) { results.push_back(result); });
+    ASSERT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+    user::press(dialog, QDialogButtonBox::Ok);
+    dialog.show();
+    user::press(dialog, QDialogButtonBox::Ok);
+    EXPECT_EQ(results, (std::vector<int>{QDialog::Rejected, QDialog::Accepted})) << "one call per openWith";
+
+    dialog.openWith([](int) { throw std::runtime_error("host slipped"); });
+    user::press(dialog, QDialogButtonBox::Cancel);
+    testsupport::runIdle();
+    ASSERT_EQ(testsupport::messageTexts().size(), 1u);
+    EXPECT_NE(testsupport::messageTexts()[0].find("host slipped"), std::string::npos);
 }
 
 TEST_F(QtDialogAbstractTest, HelpOpensTheNamedPageFromTheHelpButtonAndFromF1)

@@ -17,6 +17,9 @@ public:
             throw std::runtime_error("construction failed");
     }
     static Probe* getInstance(QWidget& parent, bool fail = false) { return obtain(parent, fail); }
+    // As a dialog's drop(): it waits for its deletion from now on.
+    bool isDropped() const { return dropped; }
+    bool dropped = false;
 };
 
 TEST(SingleInstanceDialogTest, AFailedConstructionOrAnotherObjectLeavesTheRegistrationAloneADestroyedOneIsRebuilt)
@@ -39,6 +42,13 @@ TEST(SingleInstanceDialogTest, AFailedConstructionOrAnotherObjectLeavesTheRegist
         Probe directlyBuilt(parent, false);
     }
     EXPECT_EQ(Probe::liveInstance(), probe);
+
+    probe->dropped = true;
+    EXPECT_EQ(Probe::liveInstance(), nullptr);
+    Probe* next = Probe::getInstance(parent);
+    EXPECT_NE(next, probe);
+    delete probe; // its deletion comes late, and must not unregister its successor
+    EXPECT_EQ(Probe::liveInstance(), next);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
-// The dialogs on a host that is not the stand-in: whatever they need of a host
-// must come through the host interface, or this program does not even link.
+// The dialogs on a host that is not the stand-in, the shipped example host of
+// examples/tiny-host: whatever they need of a host must come through the host
+// interface, or this program does not even link.
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -18,7 +19,7 @@
 #include "prompts/prompt/VariableSelectDialog.h"
 #include "prompts/prompt/ZoneSelectDialog.h"
 #include "tests/support/UserActions.h"
-#include "tests/tinyhost/TinyHost.h"
+#include "examples/tiny-host/TinyHost.h"
 
 using namespace orrery::dialogs::prompt;
 using tinyhost::Host;
@@ -152,7 +153,7 @@ TEST_F(TinyHostTest, AnOkWithARefusedWriteWritesNothingAndCancelLeavesTheHostAsI
 
 TEST_F(TinyHostTest, AHostOperationThatThrowsIsToldOnceAndTheDialogsCarryOn)
 {
-    Host::instance().throwing = {"ZoneGetName", "StyleGetValue"};
+    Host::instance().faults.throwing = {"ZoneGetName", "StyleGetValue"};
     ZoneSelectDialog* zones = ZoneSelectDialog::getInstance(parent, 1);
     VariableSelectDialog* variables = AxisVariableSelectDialog::getInstance(parent);
     EXPECT_EQ(QDialog::Accepted, run(*zones, [&] {
@@ -174,8 +175,8 @@ TEST_F(TinyHostTest, AHostOperationThatThrowsIsToldOnceAndTheDialogsCarryOn)
     delete variables;
 
     // A name that comes back null is shown empty and told once.
-    Host::instance().throwing.clear();
-    Host::instance().nullNames = true;
+    Host::instance().faults.throwing.clear();
+    Host::instance().faults.nullNames = true;
     VariableSelectDialog* again = AxisVariableSelectDialog::getInstance(parent);
     run(*again, [&] {
         QComboBox* x = again->findChild<QComboBox*>("var1_comboBox");

@@ -1,10 +1,14 @@
-#include "tests/tinyhost/TinyHost.h"
+#include "TinyHost.h"
 #include <algorithm>
+#include <boost/make_shared.hpp>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 #include "platform/kernel/OrrUtil.h"
+#include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/StateChangeEvent.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 #include "platform/settings/ApplicationSettings.h"
@@ -22,10 +26,10 @@ std::vector<std::string>& styleNames()
     return names;
 }
 
-// Throws when the test made the operation faulty.
+// Throws when the host's tests made the operation faulty.
 void faultIn(const char* operation)
 {
-    if (Host::instance().throwing.count(operation))
+    if (Host::instance().faults.throwing.count(operation))
         throw std::runtime_error(std::string(operation) + " lost its table");
 }
 
@@ -68,6 +72,55 @@ bool validZone(int zone)
     return zone >= 1 && zone <= int(Host::instance().zones.size());
 }
 
+void announce(StateChange_e code, const orrery::toolbox::StringList& stylePath = {})
+{
+    orrery::sdk::integration::StateChangeEventObservable::getInstance().emitStateChange(
+        orrery::sdk::integration::StateChangeEvent(code, stylePath));
+}
+
+// Reads a whitespace-separated table: a header row of names, then one row of
+// numbers per point. Everything lands in one zone named after the file.
+class TinyTableLoader : public orrery::sdk::DataLoaderInterface
+{
+public:
+    Properties properties() const override { return {"Tiny table", "Numbers under a row of names", {"tiny"}}; }
+
+    bool load(const std::string& path, std::string& error) override
+    {
+        std::ifstream file(path);
+        std::string line;
+        if (!file || !std::getline(file, line)) {
+            error = "Cannot read " + path + ".";
+            return false;
+        }
+        std::vector<std::string> names;
+        std::istringstream header(line);
+        for (std::string name; header >> name;)
+            names.push_back(name);
+        std::vector<std::vector<double>> columns(names.size());
+        for (int row = 2; std::getline(file, line); ++row) {
+            std::istringstream cells(line);
+            std::vector<double> numbers;
+            for (double number; cells >> number;)
+                numbers.push_back(number);
+            if (!cells.eof() || numbers.size() != names.size()) {
+                error =
+                    path + ", line " + std::to_string(row) + ": expected " + std::to_string(names.size()) + " numbers.";
+                return false;
+            }
+            for (size_t c = 0; c < names.size(); ++c)
+                columns[c].push_back(numbers[c]);
+        }
+        if (names.empty() || columns[0].empty()) {
+            error = path + " holds no data.";
+            return false;
+        }
+        const size_t slash = path.find_last_of('/');
+        Host::instance().replaceDataSet({path.substr(slash == std::string::npos ? 0 : slash + 1)}, names, {columns});
+        return true;
+    }
+};
+
 } // namespace
 
 Host& Host::instance()
@@ -81,8 +134,7 @@ void Host::reset()
     zones = {"Left block", "Right block"};
     vars = {"x", "y", "Density", "Speed", "Energy"};
     refusals.clear();
-    throwing.clear();
-    nullNames = false;
+    faults = Faults();
     values = {{{0, 1, 2}, {0, 1, 0}, {1, 2, 3}, {5, 6, 7}, {0.1, 0.2, 0.3}},
               {{3, 4}, {1, 0}, {4, 5}, {8, 9}, {0.4, 0.5}}};
     style = {{"TwoDAxis/XDetail/VarNum", 1L},
@@ -100,6 +152,23 @@ void Host::reset()
     steps.clear();
     bracketDepth = 0;
 }
+
+//! [announce]
+void Host::replaceDataSet(std::vector<std::string> zoneNames, std::vector<std::string> varNames,
+                          std::vector<std::vector<std::vector<double>>> zoneValues)
+{
+    zones = std::move(zoneNames);
+    vars = std::move(varNames);
+    values = std::move(zoneValues);
+    // The dialogs drop or replace whatever named a variable or zone that went.
+    announce(StateChange_DataSetReset);
+}
+
+void registerLoaders()
+{
+    orrery::sdk::DataLoaderRepository::getInstance().registerLoader(boost::make_shared<TinyTableLoader>());
+}
+//! [announce]
 
 } // namespace tinyhost
 
@@ -135,10 +204,11 @@ int OrrUtilDataSetGetNumVars(void)
     return int(Host::instance().vars.size());
 }
 
+//! [names]
 char* OrrUtilZoneGetName(int zone)
 {
     tinyhost::faultIn("ZoneGetName");
-    return tinyhost::validZone(zone) && !Host::instance().nullNames
+    return tinyhost::validZone(zone) && !Host::instance().faults.nullNames
                ? tinyhost::copyOf(Host::instance().zones[size_t(zone - 1)])
                : nullptr;
 }
@@ -146,10 +216,11 @@ char* OrrUtilZoneGetName(int zone)
 char* OrrUtilVarGetName(int var)
 {
     tinyhost::faultIn("VarGetName");
-    return tinyhost::validVar(var) && !Host::instance().nullNames
+    return tinyhost::validVar(var) && !Host::instance().faults.nullNames
                ? tinyhost::copyOf(Host::instance().vars[size_t(var - 1)])
                : nullptr;
 }
+//! [names]
 
 bool OrrUtilFrameZoneIsEnabled(long frameUniqueID, int zone)
 {
@@ -177,6 +248,8 @@ bool OrrUtilVarGetMinMax(int var, double* min, double* max)
 
 void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* yMax)
 {
+    *xMin = *yMin = 0;
+    *xMax = *yMax = 1;
     OrrUtilVarGetMinMax(int(std::get<long>(Host::instance().style["TwoDAxis/XDetail/VarNum"])), xMin, xMax);
     OrrUtilVarGetMinMax(int(std::get<long>(Host::instance().style["TwoDAxis/YDetail/VarNum"])), yMin, yMax);
 }
@@ -197,6 +270,7 @@ void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigne
     *blue = basic ? Basic[colorIndex][2] : 0;
 }
 
+//! [undo]
 void OrrUtilUndoStateBegin(int category)
 {
     Host& host = Host::instance();
@@ -216,6 +290,7 @@ void OrrUtilUndoStateEnd(bool revert, bool record)
     else if (record)
         host.steps.push_back(host.bracketName);
 }
+//! [undo]
 
 long OrrUtilStyleNameGetID(const char* name)
 {
@@ -245,6 +320,7 @@ GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args)
     return GetValue_TypeMismatch;
 }
 
+//! [style write]
 SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
 {
     Host& host = Host::instance();
@@ -281,8 +357,7 @@ SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
         return SetValue_InvalidValue;
     }
     it->second = value;
-    orrery::sdk::integration::StateChangeEventObservable::getInstance().emitStateChange(
-        orrery::sdk::integration::StateChangeEvent(StateChange_Style, stylePath));
+    tinyhost::announce(StateChange_Style, stylePath);
     return SetValue_Ok;
 }
 
@@ -296,6 +371,7 @@ void OrrUtilStringDealloc(char** string)
     std::free(*string);
     *string = nullptr;
 }
+//! [style write]
 
 int OrrUtilDialogMessageBox(const char* text, int)
 {
@@ -303,9 +379,10 @@ int OrrUtilDialogMessageBox(const char* text, int)
     return 1;
 }
 
+//! [settings]
 namespace {
 
-// Settings that last as long as the process.
+// Settings that last as long as the process; a real host keeps them across runs.
 struct MemorySettings : orrery::sdk::ApplicationSettings
 {
     std::string getStringValue(const std::string& key) const override
@@ -324,3 +401,4 @@ orrery::sdk::ApplicationSettings& orrery::sdk::ApplicationSettings::getInstance(
     static MemorySettings settings;
     return settings;
 }
+//! [settings]
