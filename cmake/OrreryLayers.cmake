@@ -21,7 +21,7 @@ set(ORRERY_INCLUDE_SUBDIR orrery-${ORRERY_VARIANT})
 set(ORRERY_PACKAGE OrreryPromptsQt${ORRERY_QT_MAJOR})
 # Raised with every incompatible change of the public ABI (scripts/check-abi.sh).
 # 1: the dialog frame keeps its state behind a private pointer, so that the public
-#    headers need no Boost.Signals2.
+#    headers need no Boost.Signals2, and gains the virtual retranslate().
 set(ORRERY_SOVERSION 1)
 
 # One library per top-level folder; the folder alone decides what goes in it.

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QKeySequence>
 #include <QMetaMethod>
 #include <QPushButton>
@@ -49,6 +50,7 @@ struct QtDialogAbstract::Impl
     bool holdingDisabled = false;
     // Dropped: it only waits for its destruction.
     bool dropped = false;
+    bool retranslationDue = false;
 };
 
 QtDialogAbstract::QtDialogAbstract(QWidget& parent, RelevancePtr relevance)
@@ -157,6 +159,26 @@ void QtDialogAbstract::showEvent(QShowEvent* event)
     applyRelevance();
     QDialog::showEvent(event);
 }
+
+void QtDialogAbstract::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange || m_impl->retranslationDue)
+        return;
+    m_impl->retranslationDue = true;
+    // Later, once the children have the event too: a button box puts its standard
+    // texts back when it gets it, over a caption the dialog set.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_impl->retranslationDue = false;
+            retranslate();
+            update();
+        },
+        Qt::QueuedConnection);
+}
+
+void QtDialogAbstract::retranslate() {}
 
 void QtDialogAbstract::applyRelevance()
 {

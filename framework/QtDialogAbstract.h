@@ -65,6 +65,14 @@ protected:
     void done(int result) override;
     /// Connects the layout's button boxes and applies the relevance before the dialog appears.
     void showEvent(QShowEvent* event) override;
+    /// On a change of the user's language (a translator installed or removed), calls
+    /// retranslate() once every widget of the dialog has heard of the change.
+    void changeEvent(QEvent* event) override;
+    /// Puts the dialog's texts into the user's language again, so that a dialog built
+    /// before the host installed its translators follows them: a dialog runs its
+    /// layout's retranslateUi and sets again the texts it sets in code (a caller's
+    /// texts stay as given). The frame's own does nothing.
+    virtual void retranslate();
 
 private:
     void applyRelevance();

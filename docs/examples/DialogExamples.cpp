@@ -1,5 +1,6 @@
 #include "docs/examples/DialogExamples.h"
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AxisVariableSelectDialog.h"
@@ -91,10 +92,19 @@ std::string chooseLoaderFor(QWidget& mainWindow, const std::string& extension)
 //! [translations]
 void installGermanTranslation()
 {
-    // The translations are built into the library as resources.
-    static QTranslator translator;
-    if (translator.load(":/translations/orrery_de.qm"))
-        QCoreApplication::installTranslator(&translator);
+    // The dialogs' texts are built into the library as resources; OK, Cancel and Help
+    // are Qt's own, in Qt's translations.
+    static QTranslator ours, qt;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QString qtTranslations = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    const QString qtTranslations = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+    if (ours.load(":/translations/orrery_de.qm"))
+        QCoreApplication::installTranslator(&ours);
+    if (qt.load("qtbase_de", qtTranslations))
+        QCoreApplication::installTranslator(&qt);
+    // Dialogs built before follow: they retranslate on the language change.
 }
 //! [translations]
 

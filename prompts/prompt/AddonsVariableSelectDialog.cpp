@@ -92,6 +92,12 @@ AddonsVariableSelectDialog::AddonsVariableSelectDialog(QWidget& parent, VarPrope
 
 AddonsVariableSelectDialog::~AddonsVariableSelectDialog() = default;
 
+void AddonsVariableSelectDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+    m_impl->setupDialog(*this);
+}
+
 boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> AddonsVariableSelectDialog::relevance()
 {
     return sharedRelevance<AddonsVariableSelectDialog, sdk::ui::propertymanager::DataSetExistsRelevance>();

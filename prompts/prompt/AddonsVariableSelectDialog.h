@@ -45,6 +45,10 @@ public:
     /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
+protected:
+    /// The layout's texts in the user's language again; the add-on's own texts stay as given.
+    void retranslate() override;
+
 private:
     class Impl;
     std::unique_ptr<Impl> m_impl;

@@ -55,6 +55,11 @@ void AnchorAlignmentDialog::reject()
     QtDialogAbstract::reject();
 }
 
+void AnchorAlignmentDialog::retranslate()
+{
+    m_ui->retranslateUi(this);
+}
+
 } // namespace prompt
 } // namespace dialogs
 } // namespace orrery

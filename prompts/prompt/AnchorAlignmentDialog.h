@@ -38,6 +38,10 @@ public Q_SLOTS:
     /// Restores the alignment the caller passed, then closes.
     void reject() override;
 
+protected:
+    /// The layout's texts in the user's language again.
+    void retranslate() override;
+
 private Q_SLOTS:
     /// Connected by object name, one per button. The button losing its check
     /// reports first, so the last write is always the newly checked button; the

@@ -35,6 +35,7 @@ struct ChooseLoaderDialog::Impl
     ChooseLoaderPropertiesManager manager;
     boost::ptr_vector<pb::BindingInterface> bindings;
     boost::ptr_vector<pb::RelevanceApplier> appliers;
+    std::vector<LoaderPtr> suggestedLoaders;
     std::set<std::string> extensions;
 };
 
@@ -84,10 +85,26 @@ void ChooseLoaderDialog::showEvent(QShowEvent* event)
 void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
                                  std::set<std::string> const& extensions)
 {
+    m_impl->suggestedLoaders = suggestedLoaders;
     m_impl->extensions = extensions;
     m_impl->manager.updateLoaderList(suggestedLoaders);
     m_impl->manager.selectLoaderBasedOnExtensionsHistory(extensions);
+    showTexts();
+}
 
+void ChooseLoaderDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+    showTexts();
+    // The same rows in the new language: the user's selection holds.
+    const std::vector<int> selected = m_impl->manager.loadersListProperty()->getValue();
+    m_impl->manager.updateLoaderList(m_impl->suggestedLoaders);
+    m_impl->manager.loadersListProperty()->setValue(selected);
+}
+
+void ChooseLoaderDialog::showTexts()
+{
+    const std::set<std::string>& extensions = m_impl->extensions;
     QString title = QCoreApplication::translate("ChooseLoader", "Choose Loader ");
     if (!extensions.empty()) {
         title += "(";
@@ -97,7 +114,7 @@ void ChooseLoaderDialog::refresh(std::vector<LoaderPtr> const& suggestedLoaders,
     }
     setWindowTitle(title);
     m_impl->ui.label->setText(
-        suggestedLoaders.empty()
+        m_impl->suggestedLoaders.empty()
             ? QCoreApplication::translate(
                 "ChooseLoader",
                 "A loader could not be found for this file type.\nPlease choose which loader you would like to use.")

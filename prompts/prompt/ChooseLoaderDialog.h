@@ -45,9 +45,13 @@ public Q_SLOTS:
 protected:
     /// A remembered loader far down a long list is brought into sight.
     void showEvent(QShowEvent* event) override;
+    /// The layout's texts, the title, the prompt and the list's captions and loader
+    /// names in the user's language again; the selection stays.
+    void retranslate() override;
 
 private:
     void refresh(std::vector<LoaderPtr> const& suggestedLoaders, std::set<std::string> const& extensions);
+    void showTexts();
 
     struct Impl;
     std::unique_ptr<Impl> m_impl;

@@ -89,6 +89,19 @@ const QString& ColorChooserDialog::multiColorIconPath()
     return MUTLI_COLOR_ICON_PATH;
 }
 
+namespace {
+// The swatches name their colours; these name what they colour by.
+void showToolTips(Ui_ColorChooser& ui)
+{
+    QToolButton* const multi[8] = {ui.C1, ui.C2, ui.C3, ui.C4, ui.C5, ui.C6, ui.C7, ui.C8};
+    for (int n = 1; n <= 8; ++n)
+        multi[n - 1]->setToolTip(
+            QCoreApplication::translate("ColorChooser", "Multi-colouring %1: coloured by a variable").arg(n));
+    ui.RGB->setToolTip(
+        QCoreApplication::translate("ColorChooser", "RGB colouring: red, green and blue from three variables"));
+}
+} // namespace
+
 ColorChooserDialog::ColorChooserDialog(QWidget& parent)
     : QtDialogAbstract(parent, RelevancePtr()), m_ui(new Ui_ColorChooser), m_selectedColor(0),
       m_connections(new SignalConnectionCollection)
@@ -100,13 +113,13 @@ ColorChooserDialog::ColorChooserDialog(QWidget& parent)
     frameLayout->addWidget(grid, 0, 0);
     m_connections->add(grid->connectToColorSelectedSignal([this](int colorIndex) { colorSelected(colorIndex); }));
     m_ui->C1->setIcon(QIcon(multiColorIconPath()));
-    // The swatches name their colours; these name what they colour by.
-    QToolButton* const multi[8] = {m_ui->C1, m_ui->C2, m_ui->C3, m_ui->C4, m_ui->C5, m_ui->C6, m_ui->C7, m_ui->C8};
-    for (int n = 1; n <= 8; ++n)
-        multi[n - 1]->setToolTip(
-            QCoreApplication::translate("ColorChooser", "Multi-colouring %1: coloured by a variable").arg(n));
-    m_ui->RGB->setToolTip(
-        QCoreApplication::translate("ColorChooser", "RGB colouring: red, green and blue from three variables"));
+    showToolTips(*m_ui);
+}
+
+void ColorChooserDialog::retranslate()
+{
+    m_ui->retranslateUi(this);
+    showToolTips(*m_ui);
 }
 
 ColorChooserDialog::~ColorChooserDialog() = default;

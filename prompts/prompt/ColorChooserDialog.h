@@ -51,6 +51,8 @@ public:
     int selectedColor() const { return m_selectedColor; }
 
 protected:
+    /// The layout's texts and the tool tips in the user's language again.
+    void retranslate() override;
     /// Starts watching the keys pressed while the chooser is shown.
     void showEvent(QShowEvent* event) override;
     /// Stops watching keys.

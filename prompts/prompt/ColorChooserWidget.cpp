@@ -1,5 +1,6 @@
 #include "prompts/prompt/ColorChooserWidget.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include "prompts/prompt/ColorChooserButton.h"
 #include "prompts/prompt/ColorChooserDialog.h"
@@ -24,14 +25,28 @@ ColorChooserWidget::ColorChooserWidget(QWidget* parent) : QWidget(parent)
         auto* button = new ColorChooserButton(this, i < 8 ? BasicColors[i] : i);
         // Named by position, not by colour: host scripts address the grid cell.
         button->setObjectName(QString("colorButton_%1").arg(i));
-        // Screen readers and tooltips announce the colour, not the cell.
-        const QString name = ColorChooserDialog::colorDisplayName(button->colorIndex(), false);
-        button->setAccessibleName(name);
-        button->setToolTip(name);
         button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         connect(button, SIGNAL(clicked()), this, SLOT(colorButtonTriggered()));
         grid->addWidget(button, i / Columns, i % Columns);
     }
+    nameSwatches();
+}
+
+void ColorChooserWidget::nameSwatches()
+{
+    // Screen readers and tooltips announce the colour, not the cell.
+    for (ColorChooserButton* button : findChildren<ColorChooserButton*>()) {
+        const QString name = ColorChooserDialog::colorDisplayName(button->colorIndex(), false);
+        button->setAccessibleName(name);
+        button->setToolTip(name);
+    }
+}
+
+void ColorChooserWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        nameSwatches();
 }
 
 boost::signals2::connection ColorChooserWidget::connectToColorSelectedSignal(const ColorSelectedSignal::slot_type& slot)

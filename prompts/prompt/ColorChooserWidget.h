@@ -24,10 +24,16 @@ public:
     /// Whether anyone listens to the clicks.
     bool signalColorSelectedConnected() const { return !m_colorSelected.empty(); }
 
+protected:
+    /// Names the swatches in the user's language again after a language change.
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void colorButtonTriggered();
 
 private:
+    void nameSwatches();
+
     ColorSelectedSignal m_colorSelected;
 };
 

@@ -73,6 +73,11 @@ boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> EnterASCII
     return EnterASCIICharacterPropertiesManager::relevance();
 }
 
+void EnterASCIICharacterDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+}
+
 } // namespace prompt
 } // namespace dialogs
 } // namespace orrery

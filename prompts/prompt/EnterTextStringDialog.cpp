@@ -12,6 +12,8 @@ namespace prompt {
 struct EnterTextStringDialog::Impl
 {
     Ui_EnterTextString ui;
+    // The caller's texts, set again after a language change; empty: the layout's.
+    QString prompt, okText;
 };
 
 EnterTextStringDialog::EnterTextStringDialog(QWidget& parent, QString const& promptText, QString const& initialText,
@@ -19,6 +21,7 @@ EnterTextStringDialog::EnterTextStringDialog(QWidget& parent, QString const& pro
     : QtDialogAbstract(parent, RelevancePtr()), m_impl(new Impl)
 {
     m_impl->ui.setupUi(this);
+    m_impl->prompt = promptText;
     if (!promptText.isEmpty())
         m_impl->ui.EnterTextString_Label->setText(promptText);
     m_impl->ui.EnterTextString_lineEdit->setText(initialText);
@@ -39,7 +42,17 @@ QString EnterTextStringDialog::text() const
 
 void EnterTextStringDialog::setOkButtonText(std::string const& text)
 {
-    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setText(QString::fromUtf8(text.c_str()));
+    m_impl->okText = QString::fromUtf8(text.c_str());
+    m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setText(m_impl->okText);
+}
+
+void EnterTextStringDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+    if (!m_impl->prompt.isEmpty())
+        m_impl->ui.EnterTextString_Label->setText(m_impl->prompt);
+    if (!m_impl->okText.isEmpty())
+        m_impl->ui.EnterTextString_buttonBox->button(QDialogButtonBox::Ok)->setText(m_impl->okText);
 }
 
 void EnterTextStringDialog::textChanged(QString const&)

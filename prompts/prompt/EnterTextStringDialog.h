@@ -29,6 +29,11 @@ public:
     /// Relabels the OK button; \a text is UTF-8.
     void setOkButtonText(std::string const& text);
 
+protected:
+    /// The layout's texts in the user's language again; the caller's prompt and OK caption
+    /// stay as given.
+    void retranslate() override;
+
 private Q_SLOTS:
     void textChanged(QString const&);
 

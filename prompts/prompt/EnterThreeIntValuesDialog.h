@@ -41,6 +41,10 @@ public:
     /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
+protected:
+    /// The layout's texts in the user's language again; the caller's title and captions stay as given.
+    void retranslate() override;
+
 private:
     struct Impl;
     std::unique_ptr<Impl> m_impl;

@@ -73,6 +73,11 @@ RGBColorOptsDialog::RGBColorOptsDialog(QWidget& parent) : QtDialogAbstract(paren
 
 RGBColorOptsDialog::~RGBColorOptsDialog() = default;
 
+void RGBColorOptsDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+}
+
 } // namespace prompt
 } // namespace dialogs
 } // namespace orrery

@@ -28,6 +28,10 @@ public:
     explicit RGBColorOptsDialog(QWidget& parent);
     ~RGBColorOptsDialog() override;
 
+protected:
+    /// The layout's texts in the user's language again.
+    void retranslate() override;
+
 private:
     struct Impl;
     std::unique_ptr<Impl> m_impl;

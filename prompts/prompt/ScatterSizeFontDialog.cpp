@@ -27,14 +27,15 @@ struct ScatterSizeFontDialog::Impl
 {
     explicit Impl(ScatterSizeFontDialog& dialog) : StyleSetDialogParts(dialog)
     {
-        QPushButton* recalculate = ui.scatterSizeFont_buttonBox->addButton(
-            QCoreApplication::translate("ScatterSizeFont", "&Recalculate Size"), QDialogButtonBox::ActionRole);
+        recalculate = ui.scatterSizeFont_buttonBox->addButton(recalculateText(), QDialogButtonBox::ActionRole);
         recalculate->setObjectName("scatterSizeFont_RecalculateSize_Button");
         plotTypeChanged = manager->plotTypeProperty()->connectToValueChangedSignal(
             [&dialog](const PlotType_e&) { dialog.setDialogForPlotType(); });
         bindPropertiesToControls(*recalculate);
         bindRelevanciesToControls(*recalculate);
     }
+
+    static QString recalculateText() { return QCoreApplication::translate("ScatterSizeFont", "&Recalculate Size"); }
 
     void bindPropertiesToControls(QAbstractButton& recalculateButton)
     {
@@ -74,6 +75,7 @@ struct ScatterSizeFontDialog::Impl
     }
 
     boost::signals2::scoped_connection plotTypeChanged;
+    QPushButton* recalculate;
 };
 
 ScatterSizeFontDialog* ScatterSizeFontDialog::getInstance(QWidget& parent)
@@ -93,6 +95,13 @@ ScatterSizeFontDialog::ScatterSizeFontDialog(QWidget& parent) : QtDialogAbstract
 }
 
 ScatterSizeFontDialog::~ScatterSizeFontDialog() = default;
+
+void ScatterSizeFontDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+    m_impl->recalculate->setText(Impl::recalculateText());
+    setDialogForPlotType();
+}
 
 void ScatterSizeFontDialog::setDialogForPlotType()
 {

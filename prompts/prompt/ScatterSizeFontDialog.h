@@ -31,6 +31,11 @@ public:
     /// Title and help page for the current plot type.
     void setDialogForPlotType();
 
+protected:
+    /// The layout's texts, the title for the plot type and the Recalculate button in the
+    /// user's language again.
+    void retranslate() override;
+
 private:
     struct Impl;
     boost::scoped_ptr<Impl> m_impl;

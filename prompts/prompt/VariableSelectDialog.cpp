@@ -201,6 +201,14 @@ void VariableSelectDialog::launch()
     QtDialogAbstract::launch();
 }
 
+void VariableSelectDialog::retranslate()
+{
+    if (!m_impl)
+        return;
+    m_impl->ui.retranslateUi(this);
+    m_impl->showTexts();
+}
+
 void VariableSelectDialog::accept()
 {
     if (!m_impl || !isRelevant()) {

@@ -62,6 +62,10 @@ public:
     /// Relevant while a data set exists.
     static boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance();
 
+protected:
+    /// The layout's texts, the instructions and the labels in the user's language again.
+    void retranslate() override;
+
 public Q_SLOTS:
     /// Writes the choices under the application lock as one undo step, runs the
     /// post-assignment action and closes. A value the kernel refuses is shown

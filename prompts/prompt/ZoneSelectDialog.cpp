@@ -66,6 +66,11 @@ boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> ZoneSelect
     return ZoneSelectPropertiesManager::relevance();
 }
 
+void ZoneSelectDialog::retranslate()
+{
+    m_impl->ui.retranslateUi(this);
+}
+
 } // namespace prompt
 } // namespace dialogs
 } // namespace orrery

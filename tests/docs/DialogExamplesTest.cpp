@@ -92,6 +92,7 @@ TEST_F(DialogExamplesTest, LoaderChooserAnswersTheChosenLoaderAndTranslationsIns
 
     examples::installGermanTranslation();
     EXPECT_EQ(QCoreApplication::translate("EnterTextString", "Prompt for text string").toStdString(), "Texteingabe");
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString(), "Abbrechen");
 }
 
 } // namespace

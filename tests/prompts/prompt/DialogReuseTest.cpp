@@ -1,12 +1,17 @@
-// Every dialog, run every way a host may run it, and asked for again: what it
-// shows comes from the caller whichever way it is shown, and a later getInstance
-// refreshes exactly what the dialogs' one rule says (see SingleInstanceDialog).
+// Every dialog, run every way a host may run it, asked for again and switched to
+// another language: what it shows comes from the caller whichever way it is
+// shown, a later getInstance refreshes exactly what the dialogs' one rule says
+// (see SingleInstanceDialog), and a dialog built before a language change shows
+// what one built after it does.
 #include <functional>
+#include <memory>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QLibraryInfo>
 #include <QTimer>
+#include <QTranslator>
 #include "tests/prompts/prompt/DialogTestSupport.h"
 #include "core/property/Property.h"
 #include "platform/loaders/DataLoaderRepository.h"
@@ -75,6 +80,7 @@ const std::vector<ReuseCase>& cases()
              auto* dialog =
                  new EnterTextStringDialog(p, pick(call, "Title:", "Name:"), pick(call, "one", "two"), "", false);
              dialog->setModal(true);
+             dialog->setOkButtonText(pick(call, "Use", "Take"));
              return dialog;
          },
          ContentAndParent, false},
@@ -143,6 +149,8 @@ QString snapshot(QDialog& dialog)
         if (!w->isVisibleTo(&dialog))
             continue;
         QString line = w->objectName() + (w->isEnabled() ? "" : " (disabled)");
+        if (!w->toolTip().isEmpty())
+            line += " tip " + w->toolTip();
         if (auto* label = qobject_cast<QLabel*>(w))
             line += " label " + label->text();
         else if (auto* button = qobject_cast<QAbstractButton*>(w))
@@ -158,7 +166,7 @@ QString snapshot(QDialog& dialog)
                 const QModelIndex index = view->model()->index(row, 0);
                 line += " | " + index.data().toString() + (view->selectionModel()->isSelected(index) ? " *" : "");
             }
-        } else
+        } else if (w->toolTip().isEmpty())
             continue;
         lines << line;
     }
@@ -259,6 +267,59 @@ TEST_P(DialogReuseTest, ADroppedDialogIsNotHandedOutAgainAndTheNextOneAsksAfresh
     } else {
         delete next;
     }
+}
+
+// German while it lives: the library's translation and Qt's own (OK, Cancel, Help).
+class German
+{
+public:
+    German()
+    {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        const QString qtTranslations = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+        const QString qtTranslations = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+        EXPECT_TRUE(ours.load(":/translations/orrery_de.qm"));
+        EXPECT_TRUE(qt.load("qtbase_de", qtTranslations));
+        QCoreApplication::installTranslator(&ours);
+        QCoreApplication::installTranslator(&qt);
+        settle();
+    }
+    ~German()
+    {
+        QCoreApplication::removeTranslator(&qt);
+        QCoreApplication::removeTranslator(&ours);
+        settle();
+    }
+    // Lets the language change reach every widget, and the dialogs retranslate.
+    static void settle()
+    {
+        for (int i = 0; i < 3; ++i) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+    }
+
+private:
+    QTranslator ours, qt;
+};
+
+TEST_P(DialogReuseTest, ADialogBuiltBeforeALanguageChangeShowsWhatOneBuiltAfterDoes)
+{
+    QtDialogAbstract* dialog = open(parent, 0);
+    const QString english = snapshot(*dialog);
+    std::unique_ptr<German> german(new German);
+    const QString retranslated = snapshot(*dialog);
+    delete dialog;
+    const QString built = freshSnapshot(0);
+    EXPECT_NE(built.toStdString(), english.toStdString()) << "German must change something, or this proves nothing";
+    EXPECT_EQ(retranslated.toStdString(), built.toStdString());
+
+    dialog = open(parent, 0);
+    german.reset();
+    EXPECT_EQ(snapshot(*dialog).toStdString(), english.toStdString()) << "and back to English";
+    delete dialog;
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryDialog, DialogReuseTest, ::testing::ValuesIn(cases()),
