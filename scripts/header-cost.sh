@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What including a public dialog header costs a host's source file: the time the
-# compiler takes to parse it (g++ -fsyntax-only) against a file that includes only
+# What including a public dialog header costs a host's source file: the processor time
+# the compiler takes to parse it (g++ -fsyntax-only) against a file that includes only
 # <QDialog>, and the Boost headers it pulls in. Fails when a header takes more than
 # LIMIT times as long as <QDialog>, or reads Boost.Signals2 (the library's own
 # business: no dialog's API needs it).
@@ -17,13 +17,13 @@ major=$(sed -n 's/^ORRERY_QT_MAJOR:[A-Z]*=//p' "$build/CMakeCache.txt")
 read -r -a flags <<<"-std=c++17 -fPIC -x c++ -I. -I$build/exports $(pkg-config --cflags "Qt${major}Widgets")"
 baseline="#include <QDialog>"
 
-# parse_ms <include line>: one parse of a file holding that line, in ms.
+# parse_ms <include line>: the processor time (user and system) of one parse of a file
+# holding that line, in ms; unlike the time on the clock, other work on the machine
+# hardly changes it.
 parse_ms() {
-  local start end
-  start=$(date +%s%N)
-  g++ "${flags[@]}" -fsyntax-only - <<<"$1"
-  end=$(date +%s%N)
-  echo $(((end - start) / 1000000))
+  local TIMEFORMAT='%3U %3S' times
+  times=$({ time g++ "${flags[@]}" -fsyntax-only - <<<"$1"; } 2>&1)
+  awk '{ printf "%d", ($1 + $2) * 1000 }' <<<"$times"
 }
 
 # boost_headers <include line>: the distinct Boost headers it reads.
