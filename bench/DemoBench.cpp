@@ -22,6 +22,7 @@
 #include <QPainter>
 #include <QtEndian>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/scene/HostPlotView.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
@@ -316,7 +317,7 @@ void DemoReplay(benchmark::State& state)
         freshKernel();
         QApplication::processEvents();
         state.ResumeTiming();
-        if (!window.replayJournal(QString::fromStdString(journalPath())))
+        if (!window.session().replayJournal(QString::fromStdString(journalPath())))
             state.SkipWithError("the replay failed");
         QApplication::processEvents(); // the views catch up
     }

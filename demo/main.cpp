@@ -3,6 +3,8 @@
 #include <memory>
 #include <QApplication>
 #include "demo/window/CommandLine.h"
+#include "demo/session/ConsoleMessages.h"
+#include "demo/session/Session.h"
 #include "demo/scene/HostStyle.h"
 #include "demo/window/MainWindow.h"
 #include "demo/window/PlotExport.h"
@@ -76,23 +78,31 @@ int main(int argc, char** argv)
     if (options.touring())
         watchdog = std::make_unique<TourWatchdog>(std::chrono::seconds(60));
 
-    MainWindow window;
+    // A run that only writes files has no window: what goes wrong is said on
+    // standard error, and a loader is chosen as the tour does.
     const bool headless = options.headless();
-    if (!options.saveSession.isEmpty() || options.exporting())
+    const bool windowless = headless && !options.touring();
+    std::unique_ptr<MainWindow> window = windowless ? nullptr : std::make_unique<MainWindow>();
+    ConsoleMessages console;
+    QWidget dialogParent;
+    Session ownSession(console, dialogParent);
+    Session& session = window ? window->session() : ownSession;
+    Messages& messages = window ? static_cast<Messages&>(*window) : console;
+    if (windowless)
         orrery::kernel::Kernel::instance().messageBoxes().setHandler([](const std::string& text, int) {
             say(QString::fromStdString(text));
             return 0;
         });
     if (options.replayChanged)
-        window.setChangedFiles(MainWindow::ChangedFiles::Load);
+        session.setChangedFiles(Session::ChangedFiles::Load);
     else if (headless)
-        window.setChangedFiles(MainWindow::ChangedFiles::Refuse);
+        session.setChangedFiles(Session::ChangedFiles::Refuse);
     orrery::kernel::FileLoad::loadSample(
         "Sample", Translations::text(QT_TRANSLATE_NOOP("DialogCatalog", "Heated plate")).toStdString());
     // A setting the host cannot use is said, not replaced without a word.
     for (const std::string& problem : orrery::kernel::Kernel::instance().settingsProblems()) {
         say(QString::fromStdString(problem));
-        window.report(QString::fromStdString(problem));
+        messages.report(QString::fromStdString(problem));
     }
 
     // 1. --recover. A tour or an export of the sample is a demonstration, not a
@@ -101,7 +111,7 @@ int main(int argc, char** argv)
     std::unique_ptr<SessionAutosave> autosave =
         options.touring() || (options.exporting() && !options.recover)
             ? nullptr
-            : SessionAutosave::startFor(window, window, window.replayOptions(), options.recover, headless,
+            : SessionAutosave::startFor(messages, window.get(), session.replayOptions(), options.recover, headless,
                                         restoreFailed);
     // A headless run ends here on failure; the autosave stays only while it
     // holds a restored session saved nowhere else.
@@ -119,7 +129,7 @@ int main(int argc, char** argv)
     if (!options.file.isEmpty()) {
         if (watchdog)
             watchdog->at("loading " + options.file);
-        const bool loaded = headless ? Tour::loadFile(window, options.file) : window.loadFile(options.file);
+        const bool loaded = headless ? Tour::loadFile(session, options.file) : session.loadFile(options.file);
         if (!loaded && headless)
             return end(1);
     }
@@ -133,19 +143,19 @@ int main(int argc, char** argv)
     if (!options.replay.isEmpty()) {
         if (watchdog)
             watchdog->at("replaying " + options.replay);
-        if (!window.replayJournal(options.replay) && headless)
+        if (!session.replayJournal(options.replay) && headless)
             return end(1);
     }
     // 4. What the run makes.
     if (!options.saveSession.isEmpty()) {
-        sessionSaved = window.saveJournal(options.saveSession);
+        sessionSaved = session.saveJournal(options.saveSession);
         if (!sessionSaved)
             return end(1);
     }
     if (options.exporting()) {
         QString problem;
-        if (!PlotExport::write(window.plot(), options.exportPlot, options.plotSize, options.dotsPerInch / 96.0,
-                               &problem)) {
+        const HostPlotView plot;
+        if (!PlotExport::write(plot, options.exportPlot, options.plotSize, options.dotsPerInch / 96.0, &problem)) {
             say(problem);
             return end(1);
         }
@@ -153,13 +163,13 @@ int main(int argc, char** argv)
     if (options.exporting() || !options.saveSession.isEmpty())
         return end(0);
     if (options.touring())
-        return Tour::run(window, options.tour, *watchdog);
+        return Tour::run(*window, options.tour, *watchdog);
     if (options.commandsOnStdin)
-        new StdinJournal(&window);
-    window.adoptAutosave(std::move(autosave));
-    WindowLayout::restore(window);
-    window.show();
+        new StdinJournal(window.get());
+    window->adoptAutosave(std::move(autosave));
+    WindowLayout::restore(*window);
+    window->show();
     const int code = app.exec();
-    WindowLayout::save(window);
+    WindowLayout::save(*window);
     return code;
 }

@@ -711,18 +711,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <translation>abgebrochen</translation>
     </message>
     <message>
-        <source>Cannot load %1: %2</source>
-        <translation>%1 kann nicht geladen werden: %2</translation>
-    </message>
-    <message>
-        <source>Loaded %1 with the loader &quot;%2&quot;</source>
-        <translation>%1 mit dem Lader „%2“ geladen</translation>
-    </message>
-    <message>
-        <source>Replayed %1 commands from %2</source>
-        <translation>%1 Befehle aus %2 wiedergegeben</translation>
-    </message>
-    <message>
         <source>Open Data File</source>
         <translation>Datendatei öffnen</translation>
     </message>
@@ -733,16 +721,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>Loaded the built-in sample data set</source>
         <translation>Eingebauten Beispieldatensatz geladen</translation>
-    </message>
-    <message numerus="yes">
-        <source>The replay stopped at a bad line; the %n command(s) before it were kept.
-%1</source>
-        <translation>
-            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; der %n Befehl davor wurde behalten.
-%1</numerusform>
-            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; die %n Befehle davor wurden behalten.
-%1</numerusform>
-        </translation>
     </message>
     <message>
         <source>closed</source>
@@ -767,18 +745,6 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
     <message>
         <source>&amp;Save Session...</source>
         <translation>Sitzung &amp;speichern...</translation>
-    </message>
-    <message>
-        <source>%1
-
-Load it as it is now?</source>
-        <translation>%1
-
-Die Datei so laden, wie sie jetzt ist?</translation>
-    </message>
-    <message>
-        <source>Saved the session to %1</source>
-        <translation>Sitzung in %1 gespeichert</translation>
     </message>
     <message>
         <source>Data files and sessions (*.csv *.txt *.dat *.zbk *.vtk *.orrery-journal *.orj);;All files (*)</source>
@@ -2039,6 +2005,43 @@ Die automatisch gesicherte Sitzung wird als %2 aufbewahrt.</numerusform>
     <message>
         <source>Italic</source>
         <translation>Kursiv</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>Cannot load %1: %2</source>
+        <translation>%1 kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <source>Loaded %1 with the loader &quot;%2&quot;</source>
+        <translation>%1 mit dem Lader „%2“ geladen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The replay stopped at a bad line; the %n command(s) before it were kept.
+%1</source>
+        <translation>
+            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; der %n Befehl davor wurde behalten.
+%1</numerusform>
+            <numerusform>Die Wiedergabe hielt an einer fehlerhaften Zeile an; die %n Befehle davor wurden behalten.
+%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replayed %1 commands from %2</source>
+        <translation>%1 Befehle aus %2 wiedergegeben</translation>
+    </message>
+    <message>
+        <source>%1
+
+Load it as it is now?</source>
+        <translation>%1
+
+Die Datei so laden, wie sie jetzt ist?</translation>
+    </message>
+    <message>
+        <source>Saved the session to %1</source>
+        <translation>Sitzung in %1 gespeichert</translation>
     </message>
 </context>
 <context>

@@ -229,7 +229,7 @@ void SessionAutosave::finish()
     }
 }
 
-std::unique_ptr<SessionAutosave> SessionAutosave::startFor(Messages& messages, QWidget& window,
+std::unique_ptr<SessionAutosave> SessionAutosave::startFor(Messages& messages, QWidget* window,
                                                            const orrery::kernel::JournalReplayer::Options& replay,
                                                            bool recover, bool headless, bool& restoreFailed)
 {
@@ -262,8 +262,8 @@ std::unique_ptr<SessionAutosave> SessionAutosave::startFor(Messages& messages, Q
         if (recover || OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1) {
             restoreFailed = !autosave->restore(replay, message);
             tell(message, restoreFailed);
-            if (!restoreFailed) // the session restored is saved nowhere else yet
-                window.setWindowModified(true);
+            if (!restoreFailed && window) // the session restored is saved nowhere else yet
+                window->setWindowModified(true);
             return autosave->running() ? std::move(autosave) : nullptr;
         }
         tell(QCoreApplication::translate("MainWindow", "The autosaved session was kept as %1.")

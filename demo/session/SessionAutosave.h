@@ -22,13 +22,14 @@ class QWidget;
 class SessionAutosave
 {
 public:
-    // Starts the autosave of window's session, first restoring one a dead run
+    // Starts the autosave of the session (of window, marked modified when it
+    // restores one; null for a run without a window), first restoring one a dead run
     // (replayed with replay's options) left behind when recover is set or, with someone at the keyboard, the user
     // agrees. Null when the session is not autosaved; problems are reported
     // (on stderr too), never fatal. headless: nobody is asked anything.
     // restoreFailed: a restore was wanted and failed, or with recover there was
     // nothing to restore or no autosave to be had.
-    static std::unique_ptr<SessionAutosave> startFor(Messages& messages, QWidget& window,
+    static std::unique_ptr<SessionAutosave> startFor(Messages& messages, QWidget* window,
                                                      const orrery::kernel::JournalReplayer::Options& replay,
                                                      bool recover, bool headless, bool& restoreFailed);
 

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include "demo/tour/DemoUser.h"
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/window/PlotExport.h"
 #include "demo/scene/HostPlotView.h"
 #include "demo/tour/TextFit.h"
@@ -67,9 +68,9 @@ bool close(QDialog& dialog, QDialogButtonBox::StandardButton button, const QStri
 
 } // namespace
 
-bool Tour::loadFile(MainWindow& window, const QString& path)
+bool Tour::loadFile(Session& session, const QString& path)
 {
-    QTimer::singleShot(0, &window, [] {
+    QTimer::singleShot(0, &session, [] {
         ChooseLoaderDialog* chooser = ChooseLoaderDialog::liveInstance();
         if (!chooser || !chooser->isVisible())
             return;
@@ -83,7 +84,7 @@ bool Tour::loadFile(MainWindow& window, const QString& path)
                     chooser->selectedLoader() ? chooser->selectedLoader()->properties().name.c_str() : "(none)");
         DemoUser::press(*chooser, QDialogButtonBox::Ok);
     });
-    const bool loaded = window.loadFile(path);
+    const bool loaded = session.loadFile(path);
     std::printf("%s %s\n", loaded ? "Loaded" : "Could not load", qPrintable(path));
     return loaded;
 }

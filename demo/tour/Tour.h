@@ -2,6 +2,7 @@
 #include <QString>
 
 class MainWindow;
+class Session;
 class TourWatchdog;
 
 // Runs every dialog of the demo without anyone at the keyboard: drives it as a
@@ -13,5 +14,5 @@ public:
     static int run(MainWindow& window, const QString& screenshotDir, TourWatchdog& watchdog);
     // Loads a data file, confirming the loader chooser's preselection (or its
     // first loader) if the file's extension needs one.
-    static bool loadFile(MainWindow& window, const QString& path);
+    static bool loadFile(Session& session, const QString& path);
 };

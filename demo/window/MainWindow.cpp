@@ -8,16 +8,13 @@
 #include <QApplication>
 #include <QDir>
 #include <QDockWidget>
-#include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QCloseEvent>
 #include <QPlainTextEdit>
-#include <QProgressDialog>
 #include <QStatusBar>
 #include <QTimer>
 #include "demo/window/FileDrops.h"
@@ -28,72 +25,24 @@
 #include "demo/window/PlotMenus.h"
 #include "demo/scene/HostPlotView.h"
 #include "demo/session/RecentFiles.h"
+#include "demo/session/Session.h"
 #include "demo/session/SessionAutosave.h"
 #include "demo/window/StateView.h"
 #include "demo/window/WindowLayout.h"
 #include "demo/window/WindowTitle.h"
 #include "host/kernel/FileLoad.h"
-#include "host/kernel/JournalReplayer.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
-#include "platform/loaders/DataLoaderRepository.h"
-#include "host/loaders/LoadProgress.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/sdk/StateChangeEventObservable.h"
 #include "platform/toolbox/Set.h"
-#include "prompts/prompt/ChooseLoaderDialog.h"
 
-using orrery::dialogs::prompt::ChooseLoaderDialog;
 using orrery::kernel::FileLoad;
-using orrery::kernel::JournalReplayer;
 using orrery::kernel::Kernel;
 using orrery::sdk::AppLock;
-using orrery::sdk::DataLoaderRepository;
-using orrery::sdk::LoadProgress;
 
 namespace {
-
-// Shows a cancellable progress dialog for a load that takes longer than a
-// moment; the previous handler is put back when the load ends.
-class ProgressWhileLoading
-{
-public:
-    ProgressWhileLoading(QWidget& parent, const QString& path) : m_parent(parent), m_path(path)
-    {
-        m_clock.start();
-        m_previous =
-            LoadProgress::setHandler([this](std::uint64_t done, std::uint64_t total) { return step(done, total); });
-    }
-    ~ProgressWhileLoading()
-    {
-        LoadProgress::setHandler(std::move(m_previous));
-        delete m_dialog;
-    }
-    bool cancelled() const { return m_dialog && m_dialog->wasCanceled(); }
-
-private:
-    bool step(std::uint64_t done, std::uint64_t total)
-    {
-        if (!m_dialog && m_clock.elapsed() < 400)
-            return true;
-        if (!m_dialog) {
-            m_dialog = new QProgressDialog(QObject::tr("Loading %1...").arg(QFileInfo(m_path).fileName()),
-                                           QObject::tr("Cancel"), 0, 1000, &m_parent);
-            m_dialog->setWindowModality(Qt::WindowModal);
-            m_dialog->setMinimumDuration(0);
-        }
-        m_dialog->setValue(total ? int(1000.0 * double(done) / double(total)) : 0);
-        QCoreApplication::processEvents();
-        return !m_dialog->wasCanceled();
-    }
-
-    QWidget& m_parent;
-    QString m_path;
-    QElapsedTimer m_clock;
-    QProgressDialog* m_dialog = nullptr;
-    LoadProgress::Handler m_previous;
-};
 
 QDockWidget* dockFor(QMainWindow& window, const QString& title, const QString& name, QWidget* content,
                      Qt::DockWidgetArea area)
@@ -108,7 +57,8 @@ QDockWidget* dockFor(QMainWindow& window, const QString& title, const QString& n
 } // namespace
 
 MainWindow::MainWindow()
-    : m_plot(new HostPlotView), m_answers(new QPlainTextEdit), m_journal(new QPlainTextEdit), m_state(new StateView)
+    : m_plot(new HostPlotView), m_session(new Session(*this, *this, this)), m_answers(new QPlainTextEdit),
+      m_journal(new QPlainTextEdit), m_state(new StateView)
 {
     setObjectName("OrreryDemo");
     setWindowTitle(tr("Orrery Prompts demo"));
@@ -133,7 +83,7 @@ MainWindow::MainWindow()
     file->addAction(tr("&Open..."), this, &MainWindow::openFile)->setShortcut(QKeySequence::Open);
     QMenu* recent = file->addMenu(tr("Open &Recent"));
     recent->setObjectName("fileOpenRecent");
-    RecentFiles::attach(*recent, [this](const QString& path) { open(path); });
+    RecentFiles::attach(*recent, [this](const QString& path) { m_session->open(path); });
     buildSampleMenu(*file->addMenu(tr("Open Sa&mple")));
     file->addSeparator();
     file->addAction(tr("Open S&ession..."), this, &MainWindow::replayJournalFrom)->setObjectName("fileOpenSession");
@@ -233,7 +183,8 @@ MainWindow::MainWindow()
     refreshUndoActions();
     refreshViewActions();
     m_title = new WindowTitle(*this);
-    new FileDrops(*this, [this](const QString& path) { open(path); });
+    m_session->savedSignal().connect([this] { m_title->markSaved(); });
+    new FileDrops(*this, [this](const QString& path) { m_session->open(path); });
     WindowLayout::fitToScreen(*this, QSize(1180, 760));
     resizeDocks({stateDock}, {400}, Qt::Horizontal);
     resizeDocks({answersDock}, {120}, Qt::Vertical);
@@ -358,121 +309,20 @@ QString MainWindow::runDialog(const DialogCatalog::Entry& entry,
     return line;
 }
 
-bool MainWindow::loadFile(const QString& path)
-{
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    std::vector<ChooseLoaderDialog::LoaderPtr> loaders =
-        DataLoaderRepository::getInstance().loadersForExtension(suffix.toStdString());
-    ChooseLoaderDialog::LoaderPtr loader = loaders.size() == 1 ? loaders.front() : nullptr;
-    if (!loader) {
-        std::set<std::string> extensions;
-        if (!suffix.isEmpty())
-            extensions.insert("." + suffix.toStdString());
-        ChooseLoaderDialog* chooser = ChooseLoaderDialog::getInstance(*this, loaders, extensions);
-        chooser->launch();
-        if (chooser->result() != QDialog::Accepted || !(loader = chooser->selectedLoader()))
-            return false;
-    }
-    std::string error;
-    bool loaded = false;
-    {
-        ProgressWhileLoading progress(*this, path);
-        try {
-            // The native name: a file name that is not UTF-8 must still open.
-            loaded = FileLoad::load(*loader, QFile::encodeName(path).toStdString(), error);
-        } catch (const std::exception& e) {
-            error = e.what();
-        }
-    }
-    if (!loaded) {
-        complain(tr("Cannot load %1: %2").arg(path, QString::fromStdString(error)));
-        return false;
-    }
-    QString line = tr("Loaded %1 with the loader \"%2\"").arg(path, QString::fromStdString(loader->properties().name));
-    const std::string summary = loader->lastLoadSummary();
-    if (!summary.empty())
-        line += ": " + QString::fromStdString(summary);
-    report(line);
-    RecentFiles::add(path);
-    return true;
-}
-
-bool MainWindow::replayJournal(const QString& path)
-{
-    JournalReplayer::Result result;
-    try {
-        result = JournalReplayer::replayFile(QFile::encodeName(path).toStdString(), replayOptions(path));
-    } catch (const std::exception& e) {
-        result.ok = false;
-        result.message = path.toStdString() + ": " + e.what();
-    }
-    if (!result.ok) {
-        complain(
-            tr("The replay stopped at a bad line; the %n command(s) before it were kept.\n%1", nullptr, result.played)
-                .arg(QString::fromStdString(result.message)));
-        return false;
-    }
-    report(tr("Replayed %1 commands from %2").arg(result.played).arg(path));
-    RecentFiles::add(path);
-    m_sessionPath = path;
-    m_title->markSaved();
-    return true;
-}
-
-JournalReplayer::Options MainWindow::replayOptions(const QString& journal) const
-{
-    JournalReplayer::Options options;
-    if (!journal.isEmpty())
-        options.folder = QFile::encodeName(QFileInfo(journal).absolutePath()).toStdString();
-    if (m_changedFiles == ChangedFiles::Load)
-        options.acceptChangedFile = [](const std::string&) { return true; };
-    else if (m_changedFiles == ChangedFiles::Ask)
-        options.acceptChangedFile = [](const std::string& message) {
-            const QString question = tr("%1\n\nLoad it as it is now?").arg(QString::fromStdString(message));
-            return OrrUtilDialogMessageBox(question.toUtf8().constData(), MessageBoxType_Question) == 1;
-        };
-    return options;
-}
-
-bool MainWindow::isSession(const QString& path)
-{
-    const QString suffix = QFileInfo(path).suffix().toLower();
-    return suffix == "orrery-journal" || suffix == "orj";
-}
-
-bool MainWindow::open(const QString& path)
-{
-    return isSession(path) ? replayJournal(path) : loadFile(path);
-}
-
-bool MainWindow::saveJournal(const QString& path)
-{
-    std::string error;
-    if (!Kernel::instance().journal().save(QFile::encodeName(path).toStdString(), error)) {
-        complain(QString::fromStdString(error));
-        return false;
-    }
-    report(tr("Saved the session to %1").arg(path));
-    RecentFiles::add(path);
-    m_sessionPath = path;
-    m_title->markSaved();
-    return true;
-}
-
 void MainWindow::openFile()
 {
     const QString path = QFileDialog::getOpenFileName(
         this, tr("Open Data File"), QString(),
         tr("Data files and sessions (*.csv *.txt *.dat *.zbk *.vtk *.orrery-journal *.orj);;All files (*)"));
     if (!path.isEmpty())
-        open(path);
+        m_session->open(path);
 }
 
 bool MainWindow::saveJournalAs()
 {
     const QString path = QFileDialog::getSaveFileName(this, tr("Save Session"), "session.orrery-journal",
                                                       tr("Sessions (*.orrery-journal);;All files (*)"));
-    return !path.isEmpty() && saveJournal(path);
+    return !path.isEmpty() && m_session->saveJournal(path);
 }
 
 void MainWindow::adoptAutosave(std::unique_ptr<SessionAutosave> autosave)
@@ -500,7 +350,8 @@ bool MainWindow::settleUnsavedChanges()
     question.setObjectName("unsavedChanges");
     question.setDefaultButton(QMessageBox::Save);
     switch (question.exec()) {
-    case QMessageBox::Save: return m_sessionPath.isEmpty() ? saveJournalAs() : saveJournal(m_sessionPath);
+    case QMessageBox::Save:
+        return m_session->path().isEmpty() ? saveJournalAs() : m_session->saveJournal(m_session->path());
     case QMessageBox::Discard: setWindowModified(false); return true;
     default: return false;
     }
@@ -511,7 +362,7 @@ void MainWindow::replayJournalFrom()
     const QString path = QFileDialog::getOpenFileName(this, tr("Open Session"), QString(),
                                                       tr("Sessions (*.orrery-journal *.orj);;All files (*)"));
     if (!path.isEmpty())
-        replayJournal(path);
+        m_session->replayJournal(path);
 }
 
 QStringList MainWindow::sampleFolders()
@@ -535,7 +386,7 @@ void MainWindow::buildSampleMenu(QMenu& menu)
                 continue;
             seen << info.fileName();
             const QString path = info.absoluteFilePath();
-            menu.addAction(Mnemonics::escaped(info.fileName()), this, [this, path] { loadFile(path); });
+            menu.addAction(Mnemonics::escaped(info.fileName()), this, [this, path] { m_session->loadFile(path); });
         }
     Mnemonics::assign(menu);
 }

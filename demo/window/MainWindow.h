@@ -3,7 +3,6 @@
 #include <boost/signals2/connection.hpp>
 #include <QMainWindow>
 #include "demo/launchers/DialogCatalog.h"
-#include "host/kernel/JournalReplayer.h"
 #include "demo/session/Messages.h"
 
 class QAction;
@@ -12,6 +11,7 @@ class QCloseEvent;
 class QPlainTextEdit;
 class PlotMenus;
 class HostPlotView;
+class Session;
 class SessionAutosave;
 class StateView;
 class WindowTitle;
@@ -25,29 +25,8 @@ public:
     MainWindow();
     ~MainWindow() override;
 
-    // Reads a file through a loader, asking the user to choose one when the
-    // extension does not name exactly one. False, with a message, on failure;
-    // the data set is then unchanged.
-    bool loadFile(const QString& path);
-    // Plays a journal (a session) back; a bad line is reported with its number
-    // and stops the replay, keeping what was played before it.
-    bool replayJournal(const QString& path);
-    bool saveJournal(const QString& path);
-    // A data file is loaded, a session (.orrery-journal, .orj) replayed.
-    bool open(const QString& path);
-    static bool isSession(const QString& path);
-
-    // What a replay does with a data file whose content is not what the session
-    // recorded: asks the user (the default), refuses it or loads it.
-    enum class ChangedFiles
-    {
-        Ask,
-        Refuse,
-        Load
-    };
-    void setChangedFiles(ChangedFiles policy) { m_changedFiles = policy; }
-    // How a replay of journal (a file, or empty) runs in this window.
-    orrery::kernel::JournalReplayer::Options replayOptions(const QString& journal = QString()) const;
+    // Files loaded, sessions replayed and saved, as the File menu does them.
+    Session& session() { return *m_session; }
     // Opens the dialog and runs it; returns the line that reports its answers.
     QString runDialog(const DialogCatalog::Entry& entry,
                       const std::function<void(DialogCatalog::Dialog&)>& whileOpen = nullptr);
@@ -56,9 +35,6 @@ public:
     void complain(const QString& text) override;
 
     HostPlotView& plot() const { return *m_plot; }
-    // Where Save puts the session: the file it was last saved to or opened
-    // from; empty until then.
-    const QString& sessionPath() const { return m_sessionPath; }
     // The autosave of this window's session: it goes when the window closes
     // with nothing unsaved (saved, given up or never changed), and only then.
     void adoptAutosave(std::unique_ptr<SessionAutosave> autosave);
@@ -83,12 +59,11 @@ private:
     void setShowScatter(bool on);
 
     HostPlotView* m_plot;
+    Session* m_session;
     QPlainTextEdit* m_answers;
     QPlainTextEdit* m_journal;
     StateView* m_state;
     WindowTitle* m_title;
-    ChangedFiles m_changedFiles = ChangedFiles::Ask;
-    QString m_sessionPath;
     std::unique_ptr<SessionAutosave> m_autosave;
     QAction* m_undo;
     QAction* m_redo;

@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/session/SessionAutosave.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/Kernel.h"
@@ -52,7 +53,7 @@ TEST(AutosaveFailure, TheWindowSaysWhyAndTheAutosaveCatchesUpOnceItCanWriteAgain
     MainWindow window;
     bool restoreFailed = false;
     std::unique_ptr<SessionAutosave> autosave =
-        SessionAutosave::startFor(window, window, window.replayOptions(), false, false, restoreFailed);
+        SessionAutosave::startFor(window, &window, window.session().replayOptions(), false, false, restoreFailed);
     ASSERT_TRUE(autosave);
     const auto play = [](const std::string& line) {
         std::istringstream in(line + "\n");

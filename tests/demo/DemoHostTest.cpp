@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QUrl>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/scene/HostPlotView.h"
 #include "demo/session/RecentFiles.h"
 #include "demo/window/WindowLayout.h"
@@ -200,27 +201,27 @@ TEST_F(DemoHost, JournalSavedFromTheWindowReplaysAndABadLineIsReportedWithItsNum
         MainWindow window;
         action(window, "viewShowVectors").trigger();
         action(window, "viewPlotType3").trigger();
-        ASSERT_TRUE(window.saveJournal(saved));
+        ASSERT_TRUE(window.session().saveJournal(saved));
     }
     Kernel::resetKernel();
     Kernel::loadSampleDataSet();
     Kernel::captureMessageBoxes();
     MainWindow window;
-    ASSERT_TRUE(window.replayJournal(saved)) << testsupport::messageTexts().front();
+    ASSERT_TRUE(window.session().replayJournal(saved)) << testsupport::messageTexts().front();
     EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_XYLine);
     EXPECT_TRUE(styleValue<bool>({"FieldLayers", "ShowVector"}));
     EXPECT_TRUE(action(window, "viewShowVectors").isChecked());
 
     const QString bad = QDir(folder.path()).filePath("bad.orj");
     writeFile(bad, "style FrameLayout/PlotType 1\nstyle FrameLayout/PlotType 9\nstyle FieldLayers/ShowVector false\n");
-    EXPECT_FALSE(window.replayJournal(bad));
+    EXPECT_FALSE(window.session().replayJournal(bad));
     ASSERT_EQ(testsupport::messageTexts().size(), 1u);
     EXPECT_NE(testsupport::messageTexts().front().find(bad.toStdString() + ", line 2: the kernel refused"),
               std::string::npos)
         << testsupport::messageTexts().front();
     EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_ThreeD);
     EXPECT_TRUE(styleValue<bool>({"FieldLayers", "ShowVector"}));
-    EXPECT_FALSE(window.saveJournal(folder.path())) << "a folder cannot be written as a journal";
+    EXPECT_FALSE(window.session().saveJournal(folder.path())) << "a folder cannot be written as a journal";
 }
 
 TEST_F(DemoHost, PointsColouredByCategoriesGetALegendOfTheirNames)
@@ -252,7 +253,7 @@ TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
         if (loaders.size() != 1)
             continue; // the loader chooser would ask; the loader tests cover those files
         Kernel::loadSampleDataSet();
-        EXPECT_TRUE(window.loadFile(info.absoluteFilePath())) << info.fileName().toStdString();
+        EXPECT_TRUE(window.session().loadFile(info.absoluteFilePath())) << info.fileName().toStdString();
         EXPECT_NE(orrery::kernel::Kernel::instance().dataSet().title(), "Heated plate")
             << info.fileName().toStdString();
         EXPECT_GT(OrrUtilZoneGetNumPoints(1), 0);
@@ -265,7 +266,7 @@ TEST_F(DemoHost, EverySampleFileOpensAndABadFileLeavesTheDataSet)
     QTemporaryDir folder;
     const QString broken = QDir(folder.path()).filePath("broken.vtk");
     writeFile(broken, "# vtk DataFile Version 3.0\nx\nASCII\nDATASET POLYDATA\nPOINTS 2 float\n0 0 0 1 1\n");
-    EXPECT_FALSE(window.loadFile(broken));
+    EXPECT_FALSE(window.session().loadFile(broken));
     ASSERT_EQ(testsupport::messageTexts().size(), 1u);
     EXPECT_NE(testsupport::messageTexts().front().find("broken.vtk, line "), std::string::npos)
         << testsupport::messageTexts().front();
@@ -279,13 +280,13 @@ TEST_F(DemoHost, TheTitleNamesTheFileAndItsChangesAndRecentFilesListWhatWasOpene
     writeFile(dir.filePath("first.csv"), "x,y\n1,2\n");
     writeFile(dir.filePath("second.csv"), "p,q,r\n1,2,3\n");
     MainWindow window;
-    ASSERT_TRUE(window.open(dir.filePath("first.csv")));
+    ASSERT_TRUE(window.session().open(dir.filePath("first.csv")));
     EXPECT_EQ(window.windowTitle(), "first.csv[*] - Orrery Prompts demo");
     EXPECT_FALSE(window.isWindowModified());
     action(window, "viewPlotType3").trigger();
     EXPECT_TRUE(window.isWindowModified());
     const QString session = dir.filePath("s.orrery-journal");
-    ASSERT_TRUE(window.saveJournal(session));
+    ASSERT_TRUE(window.session().saveJournal(session));
     EXPECT_FALSE(window.isWindowModified());
     // Dropped on the window, a file opens as with File > Open.
     QMimeData dragged;
@@ -298,7 +299,7 @@ TEST_F(DemoHost, TheTitleNamesTheFileAndItsChangesAndRecentFilesListWhatWasOpene
     QApplication::processEvents();
     EXPECT_TRUE(window.windowTitle().startsWith("second.csv"));
 
-    ASSERT_TRUE(window.open(session)) << "a session is replayed";
+    ASSERT_TRUE(window.session().open(session)) << "a session is replayed";
     EXPECT_TRUE(window.windowTitle().startsWith("first.csv"));
     EXPECT_EQ(OrrUtilFrameGetPlotType(), PlotType_XYLine);
     EXPECT_EQ(RecentFiles::paths().join(" "),

@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include "demo/scene/HostStyle.h"
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/window/PlotExport.h"
 #include "demo/scene/HostPlotView.h"
 #include "host/kernel/OrrUtilHost.h"
@@ -466,7 +467,7 @@ TEST_P(Figures, ShowEveryLabelWholeTrueAndApartWhateverTheData)
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(csvOf(shape));
         file.close();
-        ASSERT_TRUE(window.loadFile(csv)) << shape.name;
+        ASSERT_TRUE(window.session().loadFile(csv)) << shape.name;
         colourAndScale(shape);
         QString error;
         ASSERT_TRUE(PlotExport::write(view, svg, size, 1.0, &error)) << error.toStdString();

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "tests/support/TestSupport.h"
 
 using testsupport::Kernel;
@@ -24,8 +25,8 @@ TEST_F(NewFigureLog, OpeningAFileSaysInOneLineWhatItReset)
     MainWindow window;
     Kernel::setStyle({"FrameLayout", "Title"}, std::string("Old title"));
     Kernel::setStyle({"IndexRange", "Skip"}, 2L);
-    ASSERT_TRUE(window.open(path));
-    ASSERT_TRUE(window.open(path));
+    ASSERT_TRUE(window.session().open(path));
+    ASSERT_TRUE(window.session().open(path));
     const QStringList lines = window.findChild<QPlainTextEdit*>("answers")->toPlainText().split('\n');
     EXPECT_EQ(lines.filter("new figure").size(), 1) << lines.join('\n').toStdString();
     EXPECT_TRUE(lines.contains("A new data set starts a new figure: reset the title, the index range."))

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "host/kernel/Kernel.h"
 #include "tests/support/DemoProcess.h"
 #include "tests/support/TestSupport.h"
@@ -47,7 +48,7 @@ TEST_F(OddFiles, AreRefusedByWhatTheyAreFromFileOpenRecentFilesAndADrop)
 {
     MainWindow window;
     for (const auto& [name, what] : odd) {
-        EXPECT_FALSE(window.open(at(name))) << name.toStdString(); // File > Open and File > Open Recent
+        EXPECT_FALSE(window.session().open(at(name))) << name.toStdString(); // File > Open and File > Open Recent
         EXPECT_THAT(lastMessage(), HasSubstr(what));
         const size_t told = testsupport::messageTexts().size();
         QMimeData dragged;

@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 #include "demo/window/MainWindow.h"
+#include "demo/session/Session.h"
 #include "demo/session/SessionAutosave.h"
 #include "tests/support/TestSupport.h"
 
@@ -106,7 +107,7 @@ TEST_F(Quitting, SaveWritesTheSessionWhereItWasSavedAndAskForANameOtherwise)
     EXPECT_TRUE(autosaveKept());
 
     const QString session = QDir(folder.path()).filePath("mine.orrery-journal");
-    ASSERT_TRUE(window().saveJournal(session));
+    ASSERT_TRUE(window().session().saveJournal(session));
     window().findChild<QAction*>("viewPlotType2")->trigger();
     ModalAnswers answers([](QWidget& modal) { click(modal, QMessageBox::Save); });
     EXPECT_TRUE(window().close());
