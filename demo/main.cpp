@@ -13,7 +13,7 @@
 #include "demo/session/StdinJournal.h"
 #include "demo/tour/Tour.h"
 #include "demo/tour/TourWatchdog.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "demo/window/WindowLayout.h"
 #include "host/kernel/FileLoad.h"
 #include "host/kernel/Kernel.h"

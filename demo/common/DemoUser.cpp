@@ -1,4 +1,4 @@
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

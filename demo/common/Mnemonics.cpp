@@ -1,4 +1,4 @@
-#include "demo/window/Mnemonics.h"
+#include "demo/common/Mnemonics.h"
 
 #include <QAction>
 #include <QMenu>

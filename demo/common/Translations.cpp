@@ -1,4 +1,4 @@
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>

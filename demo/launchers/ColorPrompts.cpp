@@ -1,11 +1,11 @@
 #include "demo/launchers/ColorPrompts.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 #include <QDialogButtonBox>
 #include <QTimer>
 #include <QToolButton>
 #include "demo/launchers/ColorButtonDemoDialog.h"
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "demo/launchers/SelectionPrompts.h"
 #include "prompts/prompt/ColorChooserDialog.h"
 

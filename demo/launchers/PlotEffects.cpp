@@ -3,7 +3,7 @@
 #include <functional>
 #include "demo/scene/HostStyle.h"
 #include "demo/scene/HostScene.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ColorChooserDialog.h"

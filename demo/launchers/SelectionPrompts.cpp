@@ -4,9 +4,9 @@
 #include <QListView>
 #include <boost/make_shared.hpp>
 #include "core/property/Property.h"
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "demo/launchers/StyleWrites.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/AddonsVariableSelectDialog.h"
 #include "prompts/prompt/AxisVariableSelectDialog.h"

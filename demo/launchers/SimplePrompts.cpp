@@ -6,10 +6,10 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <algorithm>
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "demo/scene/HostStyle.h"
 #include "host/kernel/OrrUtilHost.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"

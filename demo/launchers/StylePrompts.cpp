@@ -1,11 +1,11 @@
 #include "demo/launchers/StylePrompts.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QRadioButton>
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "prompts/prompt/RGBColorOptsDialog.h"
 #include "prompts/prompt/ScatterSizeFontDialog.h"

@@ -1,5 +1,5 @@
 #include "demo/launchers/StyleWrites.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 #include <sstream>
 #include <variant>

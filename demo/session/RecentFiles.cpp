@@ -2,7 +2,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include "demo/window/Mnemonics.h"
+#include "demo/common/Mnemonics.h"
 #include "platform/settings/ApplicationSettings.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <QListView>
 #include <QPixmap>
 #include <QTimer>
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "demo/window/MainWindow.h"
 #include "demo/session/Session.h"
 #include "demo/window/PlotExport.h"

@@ -1,6 +1,6 @@
 #include "demo/window/MainWindow.h"
 #include "demo/scene/HostText.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "demo/session/IdleBatch.h"
 
 #include <utility>
@@ -19,7 +19,7 @@
 #include <QTimer>
 #include "demo/window/FileDrops.h"
 #include "demo/scene/HostStyle.h"
-#include "demo/window/Mnemonics.h"
+#include "demo/common/Mnemonics.h"
 #include "demo/session/NewFigure.h"
 #include "demo/launchers/PlotEffects.h"
 #include "demo/window/PlotMenus.h"

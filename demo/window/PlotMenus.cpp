@@ -10,7 +10,7 @@
 #include "plot/ColourRamp.h"
 #include "demo/scene/HostStyle.h"
 #include "demo/session/Messages.h"
-#include "demo/window/Mnemonics.h"
+#include "demo/common/Mnemonics.h"
 #include "demo/window/PlotExport.h"
 #include "demo/window/PlotExportDialog.h"
 #include "demo/scene/HostScene.h"

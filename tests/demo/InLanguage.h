@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QTranslator>
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 class InLanguage
 {

@@ -11,7 +11,7 @@
 #include <QSet>
 #include "demo/launchers/AxisTitlesDialog.h"
 #include "demo/window/MainWindow.h"
-#include "demo/window/Mnemonics.h"
+#include "demo/common/Mnemonics.h"
 #include "demo/window/PlotExportDialog.h"
 #include "demo/tour/TextFit.h"
 #include "tests/demo/InLanguage.h"

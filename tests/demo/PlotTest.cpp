@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QTemporaryDir>
 #include "demo/launchers/AxisTitlesDialog.h"
-#include "demo/tour/DemoUser.h"
+#include "demo/common/DemoUser.h"
 #include "demo/launchers/DialogCatalog.h"
 #include "demo/window/MainWindow.h"
 #include "demo/window/PlotExport.h"

@@ -19,7 +19,7 @@
 #include <map>
 #include <set>
 #include "demo/tour/TextFit.h"
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 #include "tests/support/EveryDialog.h"
 #include "tests/support/TestSupport.h"
 

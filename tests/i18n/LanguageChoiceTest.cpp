@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 namespace {
 

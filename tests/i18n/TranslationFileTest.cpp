@@ -13,7 +13,7 @@
 #include <set>
 #include <tuple>
 #include <vector>
-#include "demo/window/Translations.h"
+#include "demo/common/Translations.h"
 
 namespace {
 
