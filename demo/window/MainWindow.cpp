@@ -3,6 +3,7 @@
 #include "demo/common/Translations.h"
 #include "demo/session/IdleBatch.h"
 
+#include <algorithm>
 #include <utility>
 #include <QActionGroup>
 #include <QApplication>
@@ -186,7 +187,8 @@ MainWindow::MainWindow()
     m_session->savedSignal().connect([this] { m_title->markSaved(); });
     new FileDrops(*this, [this](const QString& path) { m_session->open(path); });
     WindowLayout::fitToScreen(*this, QSize(1180, 760));
-    resizeDocks({stateDock}, {400}, Qt::Horizontal);
+    // The plot keeps most of a small screen.
+    resizeDocks({stateDock}, {std::min(400, width() / 3)}, Qt::Horizontal);
     resizeDocks({answersDock}, {120}, Qt::Vertical);
 }
 
