@@ -242,22 +242,24 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     Projection p;
     PlotGeometry geometry;
     QRectF plot;
+    QRectF field = area; // where the 3D box and its points may reach
     std::unique_ptr<PlotKey> key;
     if (scene.threeD) {
         key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
         plot = area.adjusted(3 * em, top, -key->width() - 3 * em, -bottom - em);
-        p.threeD = true;
+        geometry.plot = plot;
+        geometry.threeD = p.threeD = true;
         p.centre[0] = plot.center().x();
         p.centre[1] = plot.center().y();
         // A turned cube reaches up to sqrt(3) half-sides from its centre.
-        p.scale = std::min(plot.width(), plot.height()) / (2 * 1.75);
+        p.scale = std::min(plot.width(), plot.height()) / (2 * 1.75) * m_view.zoom;
         for (int a = 0; a < 3; ++a) {
             double min = 0, max = 0;
             padded(scene.axes[a], min, max);
             p.lo[a] = min;
             p.span[a] = max - min;
         }
-        const double yaw = m_yaw * Pi / 180.0, pitch = m_pitch * Pi / 180.0;
+        const double yaw = m_view.yaw * Pi / 180.0, pitch = m_view.pitch * Pi / 180.0;
         // Turn about the vertical (z) axis, then tilt towards the viewer.
         p.m[0][0] = std::cos(yaw);
         p.m[0][1] = -std::sin(yaw);
@@ -265,14 +267,21 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         p.m[1][0] = std::sin(yaw) * std::sin(pitch);
         p.m[1][1] = std::cos(yaw) * std::sin(pitch);
         p.m[1][2] = std::cos(pitch);
+        painter.save();
+        // Zoomed in, the box may outgrow its room: it stays clear of the key.
+        if (m_view.zoom > 1.0) {
+            field = area.adjusted(0, 0, -key->width(), 0);
+            painter.setClipRect(field);
+        }
         paintBox3D(painter, p, scene);
+        painter.restore();
     } else {
         for (int a = 0; a < 2; ++a) {
             geometry.log[a] = scene.axes[a].log;
             geometry.names[a] = scene.axes[a].name;
-            if (m_window) {
-                geometry.shown.min[a] = m_window->min[a];
-                geometry.shown.max[a] = m_window->max[a];
+            if (m_view.window) {
+                geometry.shown.min[a] = m_view.window->min[a];
+                geometry.shown.max[a] = m_view.window->max[a];
             } else
                 padded(scene.axes[a], geometry.shown.min[a], geometry.shown.max[a]);
         }
@@ -302,7 +311,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         p.set2D(geometry);
         paintAxes2D(painter, scene, geometry, x, y);
     }
-    paintLayers(painter, scene.threeD ? area : plot, p, scene);
+    paintLayers(painter, scene.threeD ? field : plot, p, scene);
     key->paint(painter, QRectF(area.right() - key->width(), plot.top(), key->width(), area.bottom() - plot.top() - em));
     paintTitle(painter, area, plot, scene);
     painter.setPen(Qt::darkGray);

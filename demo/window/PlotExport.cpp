@@ -8,7 +8,9 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
+#include "plot/PlotScene.h"
 #include "plot/PlotView.h"
+#include "plot/Render.h"
 #include "demo/session/RegularFile.h"
 
 namespace {
@@ -34,7 +36,7 @@ QImage PlotExport::image(const PlotView& view, const QSize& size, double ratio)
     {
         QPainter painter(&picture);
         painter.scale(ratio, ratio);
-        view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
+        render(view.scene(), view.viewpoint(), painter, QRectF(QPointF(0, 0), QSizeF(size)));
     }
     picture.setDotsPerMeterX(int(ScreenDpi * ratio / 0.0254));
     picture.setDotsPerMeterY(int(ScreenDpi * ratio / 0.0254));
@@ -90,7 +92,7 @@ bool PlotExport::write(const PlotView& view, const QString& path, const QSize& s
         QPainter painter(device.get());
         if (!painter.isActive())
             return fail(tr("the %1 could not be started").arg(suffix.toUpper()));
-        view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
+        render(view.scene(), view.viewpoint(), painter, QRectF(QPointF(0, 0), QSizeF(size)));
         painter.end();
         return file.commit() || fail(file.errorString());
     }

@@ -7,6 +7,7 @@
 #include "plot/PlotPainter.h"
 #include "plot/PlotScene.h"
 #include "plot/PointRaster.h"
+#include "plot/Render.h"
 #include "tests/plot/Figure.h"
 #include "tests/support/RecordingDevice.h"
 
@@ -20,7 +21,7 @@ QImage picture(const PlotScene& scene)
 {
     QImage image(400, 300, QImage::Format_RGB32);
     QPainter painter(&image);
-    PlotPainter(0, 0).paint(painter, QRectF(image.rect()), scene);
+    render(scene, PlotViewpoint(), painter, QRectF(image.rect()));
     return image;
 }
 
@@ -28,7 +29,7 @@ Drawn drawn(const PlotScene& scene)
 {
     RecordingDevice device(QSize(600, 400));
     QPainter painter(&device);
-    PlotPainter(0, 0).paint(painter, QRectF(0, 0, 600, 400), scene);
+    render(scene, PlotViewpoint(), painter, QRectF(0, 0, 600, 400));
     painter.end();
     return device.record();
 }
