@@ -497,27 +497,39 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
 
         const long drawn = scene.countIn(zone.points);
         if (zone.mesh) {
-            if (drawn > ManyPoints && (!mesh.varies() || mesh.ramped())) {
+            if (drawn > ManyPoints) {
                 PointRaster raster(clip, ratio);
-                if (!scene.threeD && !p.log[0] && !p.log[1] && !mesh.ramped()) {
-                    // The common case of millions of plain points, without a call a point.
-                    const PointRaster::Mapping m = raster.mapping(p.sx, p.ox, p.sy, p.oy);
-                    scene.forEachIndex(zone.points, [&](long i) {
-                        const double x = v[0][i], y = v[1][i];
-                        if (PlotScene::drawable(x) && PlotScene::drawable(y))
-                            raster.addPixel(m.scale[0] * x + m.offset[0], m.scale[1] * y + m.offset[1], -1.0);
-                    });
-                } else {
-                    QPointF q;
-                    scene.forEachIndex(zone.points, [&](long i) {
-                        if (at(i, q))
-                            raster.add(q.x(), q.y(), mesh.ramped() ? mesh.valueAt(i) : -1.0);
-                    });
-                }
+                // On linear 2D axes, the common case of millions of points, without a call a point.
+                const bool direct = !scene.threeD && !p.log[0] && !p.log[1];
+                const PointRaster::Mapping m =
+                    direct ? raster.mapping(p.sx, p.ox, p.sy, p.oy) : raster.mapping(1, 0, 1, 0);
+                const auto fill = [&](const auto& mark) {
+                    if (direct)
+                        scene.forEachIndex(zone.points, [&](long i) {
+                            const double x = v[0][i], y = v[1][i];
+                            if (PlotScene::drawable(x) && PlotScene::drawable(y))
+                                mark(i, m.scale[0] * x + m.offset[0], m.scale[1] * y + m.offset[1]);
+                        });
+                    else {
+                        QPointF q;
+                        scene.forEachIndex(zone.points, [&](long i) {
+                            if (at(i, q))
+                                mark(i, m.scale[0] * q.x() + m.offset[0], m.scale[1] * q.y() + m.offset[1]);
+                        });
+                    }
+                };
+                if (mesh.ramped())
+                    fill([&](long i, double px, double py) { raster.addPixel(px, py, mesh.valueAt(i)); });
+                else if (mesh.varies())
+                    fill([&](long i, double px, double py) { raster.addColoured(px, py, mesh.rgbAt(i)); });
+                else
+                    fill([&](long, double px, double py) { raster.addPixel(px, py, -1.0); });
                 const int map = scene.contour.map;
-                painter.drawImage(clip.topLeft(), raster.image(faded(mesh.fixed(), zone.faded), [&](double t) {
-                    return faded(ColourRamp::at(map, t), zone.faded);
-                }));
+                painter.drawImage(clip.topLeft(),
+                                  raster.image(
+                                      faded(mesh.fixed(), zone.faded),
+                                      [&](double t) { return faded(ColourRamp::at(map, t), zone.faded); },
+                                      [&](QRgb c) { return faded(c, zone.faded); }));
             } else {
                 // Points grouped by colour (4 bits a channel) so that each group is one call.
                 std::vector<std::vector<QPointF>> groups(mesh.varies() ? 4096 : 1);
@@ -530,7 +542,7 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                                          : 0]
                         .push_back(q);
                 });
-                QPen pen(QColor(), drawn > ManyPoints ? 1.0 : 5.0, Qt::SolidLine, Qt::RoundCap);
+                QPen pen(QColor(), 5.0, Qt::SolidLine, Qt::RoundCap);
                 for (size_t g = 0; g < groups.size(); ++g)
                     if (!groups[g].empty()) {
                         const QRgb c = mesh.varies() ? qRgb(int(g >> 8) * 17, int((g >> 4) & 15) * 17, int(g & 15) * 17)

@@ -63,8 +63,10 @@ QTransform followed(const PlotPicture& picture, const PlotViewpoint& now)
 } // namespace
 
 PlotView::PlotView(std::function<PlotScene()> scene, QWidget* parent)
-    : QWidget(parent), m_scene(std::move(scene)),
-      m_worker([this] { QMetaObject::invokeMethod(this, [this] { pictureDone(); }, Qt::QueuedConnection); })
+    : QWidget(parent), m_scene(std::move(scene)), m_worker([this] {
+          QMetaObject::invokeMethod(
+              this, [this] { pictureDone(); }, Qt::QueuedConnection);
+      })
 {
     setObjectName("plotView");
     setMinimumSize(240, 180);

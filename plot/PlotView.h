@@ -86,7 +86,7 @@ private:
 
     PlotPicture m_picture; // the newest done
     bool m_stale = true;
-    QSize m_pixels; // of the picture wanted
+    QSize m_pixels;              // of the picture wanted
     unsigned long m_pending = 0; // the worker's request for the picture wanted; 0 when shown
     int m_drawCount = 0;
     PlotViewpoint m_view;

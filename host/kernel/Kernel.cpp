@@ -97,7 +97,8 @@ std::vector<std::string> Kernel::startNewFigure(Frame& frame) const
     for (const std::string axis : {"TwoDAxis/XDetail/", "TwoDAxis/YDetail/"}) {
         double min = 0.0, max = 0.0;
         const int var = static_cast<int>(std::get<long>(valueOf(axis + "VarNum")));
-        if (std::get<bool>(valueOf(axis + "IsLog")) && m_dataSet->range(var, frame.enabledZones, min, max) && min <= 0.0)
+        if (std::get<bool>(valueOf(axis + "IsLog")) && m_dataSet->range(var, frame.enabledZones, min, max)
+            && min <= 0.0)
             frame.style().store(axis + "IsLog", 0, false);
     }
     std::vector<std::string> changed;
