@@ -1804,6 +1804,10 @@ Die Datei so laden, wie sie jetzt ist?</translation>
         <source>The plot cannot be drawn: %1</source>
         <translation>Der Plot kann nicht gezeichnet werden: %1</translation>
     </message>
+    <message>
+        <source>an unexpected error</source>
+        <translation>ein unerwarteter Fehler</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
