@@ -1,11 +1,9 @@
-#include <atomic>
 #include <cmath>
 #include <memory>
 #include <QApplication>
 #include <QTest>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
-#include "plot/PictureWorker.h"
 #include "plot/PlotView.h"
 #include "tests/plot/Figure.h"
 
@@ -54,29 +52,6 @@ QImage shown(PlotView& view)
 }
 
 } // namespace
-
-TEST(PictureWorker, HandsOverTheNewestPictureOnceAndDrawsWhatIsAskedInTurn)
-{
-    Figure figure;
-    figure.x = {0, 1, 2}, figure.y = {0, 1, 4};
-    std::atomic<int> ready{0};
-    PictureWorker worker([&] { ++ready; });
-    unsigned long last = 0;
-    for (double right : {1.0, 2.0, 3.0}) {
-        PlotViewpoint view;
-        view.window = PlotWindow{{0, 0}, {right, 4}};
-        const unsigned long number = worker.request(figure.make(0, 2, 0, 4), view, QSize(300, 200), 1.0);
-        EXPECT_GT(number, last);
-        last = number;
-    }
-    worker.wait();
-    const std::optional<PictureWorker::Done> done = worker.take();
-    ASSERT_TRUE(done);
-    EXPECT_EQ(last, done->request);
-    EXPECT_EQ(3.0, done->picture.geometry.shown.max[0]);
-    EXPECT_GE(ready, 1);
-    EXPECT_FALSE(worker.take()) << "each picture once";
-}
 
 TEST(PlotView, ManyPointsAreDrawnAsideAndTheViewEndsOnTheNewestPictureHoldingTheColumnsTillThen)
 {
