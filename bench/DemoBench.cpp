@@ -195,8 +195,8 @@ void PlotWheelStep(benchmark::State& state)
     bool in = true;
     double longest = 0.0;
     for (auto _ : state) {
-        QWheelEvent wheel(centre, view.mapToGlobal(centre), QPoint(), QPoint(0, in ? 120 : -120), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent wheel(centre, QPointF(view.mapToGlobal(centre.toPoint())), QPoint(), QPoint(0, in ? 120 : -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
         in = !in;
         QElapsedTimer clock;
         clock.start();

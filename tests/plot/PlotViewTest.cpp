@@ -118,8 +118,8 @@ TEST(PlotView, TheWheelZoomsA3DBoxWithinLimitsAndHomeShowsItWholeStillTurned)
     wheel(40);
     EXPECT_EQ(PlotViewpoint::MostZoom, view.zoom());
     for (const auto& [type, x] : {std::pair(QEvent::MouseButtonPress, 100), std::pair(QEvent::MouseMove, 160)}) {
-        QMouseEvent drag(type, QPointF(x, 100), view.mapToGlobal(QPointF(x, 100)), Qt::LeftButton, Qt::LeftButton,
-                         Qt::NoModifier);
+        QMouseEvent drag(type, QPointF(x, 100), QPointF(view.mapToGlobal(QPoint(x, 100))), Qt::LeftButton,
+                         Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &drag);
     }
     EXPECT_EQ(PlotViewpoint::MostZoom, view.zoom()) << "dragging turns, the zoom stays";
