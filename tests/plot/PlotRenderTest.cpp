@@ -241,9 +241,9 @@ TEST(PlotRender, TextsAreDrawnWholeTheKeyNamesColouringAndZonesAndASmallPictureS
     EXPECT_TRUE(key.drewText("temperature_K"));
     EXPECT_TRUE(key.drewText("Heated box"));
 
-    RecordingDevice tiny(QSize(60, 40));
+    RecordingDevice tiny(QSize(200, 60));
     QPainter painter(&tiny);
-    render(scene("C"), PlotViewpoint(), painter, QRectF(0, 0, 60, 40));
+    render(scene("C"), PlotViewpoint(), painter, QRectF(0, 0, 200, 60));
     painter.end();
     EXPECT_NE(nullptr, tiny.record().textStarting("Too small")) << "not a plot squeezed to nothing";
 }
