@@ -1,12 +1,16 @@
 // The demo host's two heavy paths beside their baselines, in one run:
-//  - the plot's redraw of 1,000,000 and 10,000,000 points, as a scatter and as
-//    an XY line, and a zoom step at 1,000,000, beside QPainter::drawPoints of
-//    the same points into an image of the same size;
+//  - the plot's redraw of 1,000,000 and 10,000,000 points, as a scatter, coloured
+//    by red, green and blue and as an XY line, and a zoom step drawn at once,
+//    beside QPainter::drawPoints of the same points into an image of the same size;
+//  - the longest the view's thread spends on one wheel step (the event and the
+//    paint) at 10,000,000 points, the picture drawn on the view's worker, beside
+//    the zoom step drawn at once;
 //  - loading a legacy VTK file beside a plain read of the same file, with the
 //    peak heap of each as a multiple of the data held as doubles;
 //  - replaying a journal of 100,000 style changes in the demo's window (its
 //    views kept up to date) beside the kernel's own replay of it.
 // The default file is 10 MB; ORRERY_BENCH_VTK_MB=100 makes it 100 MB.
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -18,12 +22,15 @@
 #include <vector>
 #include <benchmark/benchmark.h>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
+#include <QWheelEvent>
 #include <QtEndian>
 #include "demo/window/MainWindow.h"
 #include "demo/session/Session.h"
 #include "demo/scene/HostPlotView.h"
+#include "demo/scene/HostScene.h"
 #include "host/kernel/JournalReplayer.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/KernelDriver.h"
@@ -84,17 +91,16 @@ namespace {
 
 const QSize ImageSize(1000, 800);
 
-// Uniformly scattered points in one zone; state.range(0) of them.
+// Uniformly scattered points in one zone, and a third variable from 0 to 1 beside them.
 void putPoints(long count)
 {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
-    std::vector<std::vector<double>> values(2, std::vector<double>(size_t(count)));
-    for (long i = 0; i < count; ++i) {
-        values[0][size_t(i)] = unit(random);
-        values[1][size_t(i)] = unit(random);
-    }
-    orrery::kernel::DataSet data("Cloud", {"X", "Y"});
+    std::vector<std::vector<double>> values(3, std::vector<double>(size_t(count)));
+    for (long i = 0; i < count; ++i)
+        for (std::vector<double>& column : values)
+            column[size_t(i)] = unit(random);
+    orrery::kernel::DataSet data("Cloud", {"X", "Y", "Z"});
     data.addZone("Cloud", values);
     KernelDriver::resetKernel();
     KernelDriver::setDataSet(data);
@@ -119,6 +125,18 @@ void PlotRedraw(benchmark::State& state)
     redrawRepeatedly(state);
 }
 BENCHMARK(PlotRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
+
+// The same points coloured by red, green and blue from X, Y and Z.
+void RGBRedraw(benchmark::State& state)
+{
+    putPoints(state.range(0));
+    const char* channels[] = {"RedChannelVar", "GreenChannelVar", "BlueChannelVar"};
+    for (long c = 0; c < 3; ++c)
+        KernelDriver::setStyle({"GlobalRGB", channels[c]}, c + 1);
+    KernelDriver::setStyle({"FieldMap", "Mesh", "Color"}, long(HostScene::RGBColoring));
+    redrawRepeatedly(state);
+}
+BENCHMARK(RGBRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
 
 // The same number of points as an XY line: a noisy time series, X in order.
 void LineRedraw(benchmark::State& state)
@@ -158,7 +176,45 @@ void PlotZoomStep(benchmark::State& state)
         benchmark::DoNotOptimize(image.constBits());
     }
 }
-BENCHMARK(PlotZoomStep)->Arg(1000000)->Unit(benchmark::kMillisecond);
+BENCHMARK(PlotZoomStep)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
+
+// Wheel notches in and out over the view on screen, each timed from the event to
+// the end of the paint it asks for; the worker's pictures arrive between steps.
+void PlotWheelStep(benchmark::State& state)
+{
+    putPoints(state.range(0));
+    HostPlotView view;
+    view.resize(ImageSize);
+    view.show();
+    QApplication::processEvents(); // shown: a paint then draws
+    view.repaint();
+    view.waitForPicture();
+    if (!view.geometry().navigable)
+        state.SkipWithError("the first picture was not drawn");
+    const QPointF centre(500, 400);
+    const int draws = view.drawCount();
+    bool in = true;
+    double longest = 0.0;
+    for (auto _ : state) {
+        QWheelEvent wheel(centre, QPointF(view.mapToGlobal(centre.toPoint())), QPoint(), QPoint(0, in ? 120 : -120),
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        in = !in;
+        QElapsedTimer clock;
+        clock.start();
+        QApplication::sendEvent(&view, &wheel);
+        view.repaint();
+        const double seconds = double(clock.nsecsElapsed()) * 1e-9;
+        longest = std::max(longest, seconds);
+        state.SetIterationTime(seconds);
+        state.PauseTiming();
+        QApplication::processEvents(); // a picture the worker finished meanwhile is shown
+        state.ResumeTiming();
+    }
+    state.counters["longest_ms"] = longest * 1e3;
+    state.counters["pictures_asked"] = view.drawCount() - draws;
+    view.waitForPicture();
+}
+BENCHMARK(PlotWheelStep)->Arg(10000000)->UseManualTime()->Iterations(40)->Unit(benchmark::kMillisecond);
 
 // The same points, already in pixels, drawn with a one-pixel pen after the same white fill.
 void BaselineDrawPoints(benchmark::State& state)

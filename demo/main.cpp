@@ -8,7 +8,9 @@
 #include "demo/scene/HostStyle.h"
 #include "demo/window/MainWindow.h"
 #include "demo/window/PlotExport.h"
-#include "demo/scene/HostPlotView.h"
+#include "demo/scene/HostScene.h"
+#include "plot/PlotScene.h"
+#include "plot/Render.h"
 #include "demo/session/SessionAutosave.h"
 #include "demo/session/StdinJournal.h"
 #include "demo/tour/Tour.h"
@@ -154,8 +156,8 @@ int main(int argc, char** argv)
     }
     if (options.exporting()) {
         QString problem;
-        const HostPlotView plot;
-        if (!PlotExport::write(plot, options.exportPlot, options.plotSize, options.dotsPerInch / 96.0, &problem)) {
+        if (!PlotExport::write(HostScene::read(), PlotViewpoint(), options.exportPlot, options.plotSize,
+                               options.dotsPerInch / 96.0, &problem)) {
             say(problem);
             return end(1);
         }

@@ -15,6 +15,7 @@ struct PlotWindow
 struct PlotGeometry
 {
     bool navigable = false; // a 2D frame with both axes drawn
+    bool threeD = false;    // a 3D box, drawn within plot
     QRectF plot;            // the axes box
     PlotWindow shown;
     bool log[2] = {false, false};

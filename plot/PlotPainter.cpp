@@ -242,22 +242,24 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     Projection p;
     PlotGeometry geometry;
     QRectF plot;
+    QRectF field = area; // where the 3D box and its points may reach
     std::unique_ptr<PlotKey> key;
     if (scene.threeD) {
         key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
         plot = area.adjusted(3 * em, top, -key->width() - 3 * em, -bottom - em);
-        p.threeD = true;
+        geometry.plot = plot;
+        geometry.threeD = p.threeD = true;
         p.centre[0] = plot.center().x();
         p.centre[1] = plot.center().y();
         // A turned cube reaches up to sqrt(3) half-sides from its centre.
-        p.scale = std::min(plot.width(), plot.height()) / (2 * 1.75);
+        p.scale = std::min(plot.width(), plot.height()) / (2 * 1.75) * m_view.zoom;
         for (int a = 0; a < 3; ++a) {
             double min = 0, max = 0;
             padded(scene.axes[a], min, max);
             p.lo[a] = min;
             p.span[a] = max - min;
         }
-        const double yaw = m_yaw * Pi / 180.0, pitch = m_pitch * Pi / 180.0;
+        const double yaw = m_view.yaw * Pi / 180.0, pitch = m_view.pitch * Pi / 180.0;
         // Turn about the vertical (z) axis, then tilt towards the viewer.
         p.m[0][0] = std::cos(yaw);
         p.m[0][1] = -std::sin(yaw);
@@ -265,14 +267,21 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         p.m[1][0] = std::sin(yaw) * std::sin(pitch);
         p.m[1][1] = std::cos(yaw) * std::sin(pitch);
         p.m[1][2] = std::cos(pitch);
+        painter.save();
+        // Zoomed in, the box may outgrow its room: it stays clear of the key.
+        if (m_view.zoom > 1.0) {
+            field = area.adjusted(0, 0, -key->width(), 0);
+            painter.setClipRect(field);
+        }
         paintBox3D(painter, p, scene);
+        painter.restore();
     } else {
         for (int a = 0; a < 2; ++a) {
             geometry.log[a] = scene.axes[a].log;
             geometry.names[a] = scene.axes[a].name;
-            if (m_window) {
-                geometry.shown.min[a] = m_window->min[a];
-                geometry.shown.max[a] = m_window->max[a];
+            if (m_view.window) {
+                geometry.shown.min[a] = m_view.window->min[a];
+                geometry.shown.max[a] = m_view.window->max[a];
             } else
                 padded(scene.axes[a], geometry.shown.min[a], geometry.shown.max[a]);
         }
@@ -302,7 +311,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         p.set2D(geometry);
         paintAxes2D(painter, scene, geometry, x, y);
     }
-    paintLayers(painter, scene.threeD ? area : plot, p, scene);
+    paintLayers(painter, scene.threeD ? field : plot, p, scene);
     key->paint(painter, QRectF(area.right() - key->width(), plot.top(), key->width(), area.bottom() - plot.top() - em));
     paintTitle(painter, area, plot, scene);
     painter.setPen(Qt::darkGray);
@@ -488,27 +497,39 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
 
         const long drawn = scene.countIn(zone.points);
         if (zone.mesh) {
-            if (drawn > ManyPoints && (!mesh.varies() || mesh.ramped())) {
+            if (drawn > ManyPoints) {
                 PointRaster raster(clip, ratio);
-                if (!scene.threeD && !p.log[0] && !p.log[1] && !mesh.ramped()) {
-                    // The common case of millions of plain points, without a call a point.
-                    const PointRaster::Mapping m = raster.mapping(p.sx, p.ox, p.sy, p.oy);
-                    scene.forEachIndex(zone.points, [&](long i) {
-                        const double x = v[0][i], y = v[1][i];
-                        if (PlotScene::drawable(x) && PlotScene::drawable(y))
-                            raster.addPixel(m.scale[0] * x + m.offset[0], m.scale[1] * y + m.offset[1], -1.0);
-                    });
-                } else {
-                    QPointF q;
-                    scene.forEachIndex(zone.points, [&](long i) {
-                        if (at(i, q))
-                            raster.add(q.x(), q.y(), mesh.ramped() ? mesh.valueAt(i) : -1.0);
-                    });
-                }
+                // On linear 2D axes, the common case of millions of points, without a call a point.
+                const bool direct = !scene.threeD && !p.log[0] && !p.log[1];
+                const PointRaster::Mapping m =
+                    direct ? raster.mapping(p.sx, p.ox, p.sy, p.oy) : raster.mapping(1, 0, 1, 0);
+                const auto fill = [&](const auto& mark) {
+                    if (direct)
+                        scene.forEachIndex(zone.points, [&](long i) {
+                            const double x = v[0][i], y = v[1][i];
+                            if (PlotScene::drawable(x) && PlotScene::drawable(y))
+                                mark(i, m.scale[0] * x + m.offset[0], m.scale[1] * y + m.offset[1]);
+                        });
+                    else {
+                        QPointF q;
+                        scene.forEachIndex(zone.points, [&](long i) {
+                            if (at(i, q))
+                                mark(i, m.scale[0] * q.x() + m.offset[0], m.scale[1] * q.y() + m.offset[1]);
+                        });
+                    }
+                };
+                if (mesh.ramped())
+                    fill([&](long i, double px, double py) { raster.addPixel(px, py, mesh.valueAt(i)); });
+                else if (mesh.varies())
+                    fill([&](long i, double px, double py) { raster.addColoured(px, py, mesh.rgbAt(i)); });
+                else
+                    fill([&](long, double px, double py) { raster.addPixel(px, py, -1.0); });
                 const int map = scene.contour.map;
-                painter.drawImage(clip.topLeft(), raster.image(faded(mesh.fixed(), zone.faded), [&](double t) {
-                    return faded(ColourRamp::at(map, t), zone.faded);
-                }));
+                painter.drawImage(clip.topLeft(),
+                                  raster.image(
+                                      faded(mesh.fixed(), zone.faded),
+                                      [&](double t) { return faded(ColourRamp::at(map, t), zone.faded); },
+                                      [&](QRgb c) { return faded(c, zone.faded); }));
             } else {
                 // Points grouped by colour (4 bits a channel) so that each group is one call.
                 std::vector<std::vector<QPointF>> groups(mesh.varies() ? 4096 : 1);
@@ -521,7 +542,7 @@ void PlotPainter::paintLayers(QPainter& painter, const QRectF& clip, const Proje
                                          : 0]
                         .push_back(q);
                 });
-                QPen pen(QColor(), drawn > ManyPoints ? 1.0 : 5.0, Qt::SolidLine, Qt::RoundCap);
+                QPen pen(QColor(), 5.0, Qt::SolidLine, Qt::RoundCap);
                 for (size_t g = 0; g < groups.size(); ++g)
                     if (!groups[g].empty()) {
                         const QRgb c = mesh.varies() ? qRgb(int(g >> 8) * 17, int((g >> 4) & 15) * 17, int(g & 15) * 17)

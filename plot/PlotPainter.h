@@ -5,20 +5,19 @@
 #include <QString>
 #include "plot/AxisTicks.h"
 #include "plot/PlotGeometry.h"
+#include "plot/Render.h"
 
 class QColor;
 class QPainter;
 struct PlotScene;
 
-// Paints a scene onto a painter: axes with round ticks, the zones' points,
-// lines, symbols and vectors, the key and the title. The object holds only how
-// the user looks at it (3D angles, a 2D window).
+// What render() draws with: axes with round ticks, the zones' points, lines,
+// symbols and vectors, the key and the title. The object holds only how the
+// user looks at the scene.
 class PlotPainter
 {
 public:
-    PlotPainter(double yawDegrees, double pitchDegrees, const PlotWindow* window = nullptr)
-        : m_yaw(yawDegrees), m_pitch(pitchDegrees), m_window(window)
-    {}
+    explicit PlotPainter(const PlotViewpoint& view) : m_view(view) {}
 
     // area in the painter's logical units; returns where the axes went.
     PlotGeometry paint(QPainter& painter, const QRectF& area, const PlotScene& scene) const;
@@ -45,7 +44,5 @@ private:
     void paintTitle(QPainter& painter, const QRectF& area, const QRectF& plot, const PlotScene& scene) const;
     void paintMessage(QPainter& painter, const QRectF& area, const QString& text) const;
 
-    double m_yaw;
-    double m_pitch;
-    const PlotWindow* m_window;
+    const PlotViewpoint& m_view;
 };

@@ -1,5 +1,13 @@
 #include "plot/PlotScene.h"
 
+long PlotScene::countAll() const
+{
+    long count = 0;
+    for (const Zone& z : zones)
+        count += countIn(z.points);
+    return count;
+}
+
 bool PlotScene::anyScatter() const
 {
     return std::any_of(zones.begin(), zones.end(), [](const Zone& z) { return z.scatter; });

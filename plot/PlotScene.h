@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 #include <QString>
@@ -12,7 +13,7 @@
 // What a figure shows, as a plain value: the axes with the range of the values
 // to be drawn, the zones and their layers (values, colours, sizes, vectors),
 // the colouring, title, symbol and index range. The columns it points to are
-// its maker's and must outlive it.
+// its maker's: they live at least as long as keepAlive, or else as the scene.
 struct PlotScene
 {
     struct Axis
@@ -70,6 +71,9 @@ struct PlotScene
     QString problem;
     // What is drawn otherwise than the style asks, one line each.
     QStringList notes;
+    // What keeps the columns alive while a picture is drawn, on another thread
+    // perhaps and after the maker has moved on to other data.
+    std::shared_ptr<const void> keepAlive;
 
     // Symbols beyond this many in a zone would hide the data they mark.
     static constexpr long MostSymbols = 20000;
@@ -97,6 +101,8 @@ struct PlotScene
         for (long i = begin - 1; i < last; i += skip)
             visit(i);
     }
+    // How many points all the zones have within the chosen range.
+    long countAll() const;
     bool anyScatter() const;
     // The colour of a zone's line of the line-th Y variable: the zone's own for the first,
     // then the palette's that differ from it.

@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRubberBand>
-#include "plot/PlotPainter.h"
 #include "plot/PlotScene.h"
 
 namespace {
@@ -36,9 +35,38 @@ QPointF position(const QMouseEvent* event)
 #endif
 }
 
+// Where what was drawn for picture goes when seen from now: the same values
+// at the same places, as far as a scale and a shift can say it. Identity for
+// a turned box or a window not known yet.
+QTransform followed(const PlotPicture& picture, const PlotViewpoint& now)
+{
+    const PlotGeometry& g = picture.geometry;
+    QTransform transform;
+    if (g.threeD && now.yaw == picture.view.yaw && now.pitch == picture.view.pitch) {
+        const double k = now.zoom / picture.view.zoom;
+        const QPointF c = g.plot.center();
+        return QTransform(k, 0, 0, k, c.x() * (1 - k), c.y() * (1 - k));
+    }
+    if (!g.navigable || !now.window)
+        return transform;
+    double k[2], shift[2];
+    for (int a = 0; a < 2; ++a) {
+        const double lo0 = g.toAxis(a, g.shown.min[a]), hi0 = g.toAxis(a, g.shown.max[a]);
+        const double lo1 = g.toAxis(a, now.window->min[a]), hi1 = g.toAxis(a, now.window->max[a]);
+        k[a] = (hi0 - lo0) / (hi1 - lo1);
+        shift[a] = (lo0 - lo1) / (hi1 - lo1) * (a == 0 ? g.plot.width() : -g.plot.height());
+    }
+    const QPointF origin(g.plot.left(), g.plot.bottom());
+    return QTransform(k[0], 0, 0, k[1], origin.x() * (1 - k[0]) + shift[0], origin.y() * (1 - k[1]) + shift[1]);
+}
+
 } // namespace
 
-PlotView::PlotView(std::function<PlotScene()> scene, QWidget* parent) : QWidget(parent), m_scene(std::move(scene))
+PlotView::PlotView(std::function<PlotScene()> scene, QWidget* parent)
+    : QWidget(parent), m_scene(std::move(scene)), m_worker([this] {
+          QMetaObject::invokeMethod(
+              this, [this] { pictureDone(); }, Qt::QueuedConnection);
+      })
 {
     setObjectName("plotView");
     setMinimumSize(240, 180);
@@ -47,18 +75,19 @@ PlotView::PlotView(std::function<PlotScene()> scene, QWidget* parent) : QWidget(
     setFocusPolicy(Qt::StrongFocus);
 }
 
+// The worker, the last member, stops first: nothing it calls back is gone yet.
+PlotView::~PlotView() = default;
+
 void PlotView::sceneChanged(bool axesMoved)
 {
     if (axesMoved)
-        m_window.reset();
+        m_view.window.reset();
     invalidate();
 }
 
 PlotGeometry PlotView::render(QPainter& painter, const QRectF& area) const
 {
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setRenderHint(QPainter::TextAntialiasing, true);
-    return PlotPainter(m_yaw, m_pitch, m_window ? &*m_window : nullptr).paint(painter, area, m_scene());
+    return ::render(m_scene(), m_view, painter, area);
 }
 
 void PlotView::render(QImage& image) const
@@ -69,8 +98,16 @@ void PlotView::render(QImage& image) const
 
 void PlotView::setRotation(double yaw, double pitch)
 {
-    m_yaw = std::fmod(yaw, 360.0);
-    m_pitch = std::clamp(pitch, -90.0, 90.0);
+    m_view.yaw = std::fmod(yaw, 360.0);
+    m_view.pitch = std::clamp(pitch, -90.0, 90.0);
+    invalidate();
+}
+
+void PlotView::setZoom(double zoom)
+{
+    if (!std::isfinite(zoom))
+        return;
+    m_view.zoom = std::clamp(zoom, PlotViewpoint::LeastZoom, PlotViewpoint::MostZoom);
     invalidate();
 }
 
@@ -83,7 +120,7 @@ bool PlotView::setWindow(const PlotWindow& window)
         if (!drawable(log ? std::log10(window.min[a]) : window.min[a], log ? std::log10(window.max[a]) : window.max[a]))
             return false;
     }
-    m_window = window;
+    m_view.window = window;
     m_geometry.shown = window; // the next zoom or pan works from here, drawn or not
     invalidate();
     return true;
@@ -91,13 +128,14 @@ bool PlotView::setWindow(const PlotWindow& window)
 
 void PlotView::resetWindow()
 {
-    m_window.reset();
+    m_view.window.reset();
+    m_view.zoom = 1.0;
     invalidate();
 }
 
 PlotWindow PlotView::shownOrWhole() const
 {
-    return m_window ? *m_window : m_geometry.shown;
+    return m_view.window ? *m_view.window : m_geometry.shown;
 }
 
 void PlotView::zoomAt(const QPointF& at, double factor)
@@ -123,24 +161,65 @@ void PlotView::invalidate()
 void PlotView::paintEvent(QPaintEvent*)
 {
     const qreal ratio = devicePixelRatioF();
-    const QSize pixels = size() * ratio;
-    if (m_stale || m_picture.size() != pixels) {
-        m_picture = QImage(pixels, QImage::Format_RGB32);
-        m_picture.setDevicePixelRatio(ratio);
-        try {
-            QPainter painter(&m_picture);
-            m_geometry = render(painter, QRectF(rect()));
-        } catch (const std::exception& e) {
-            // Nothing may escape into Qt's event loop; the picture says what went wrong.
-            m_picture.fill(Qt::white);
-            m_geometry = PlotGeometry();
-            QPainter(&m_picture)
-                .drawText(rect(), Qt::AlignCenter, tr("The plot cannot be drawn: %1").arg(QString::fromUtf8(e.what())));
-        }
-        m_stale = false;
-        ++m_drawCount;
+    if (m_stale || m_pixels != size() * ratio)
+        redraw(size(), ratio);
+    QPainter painter(this);
+    painter.drawImage(QPointF(0, 0), m_picture.image);
+    if (!m_pending)
+        return;
+    // The picture before, its data moved to where the new one will put them; axes and key as they were.
+    const QTransform transform = followed(m_picture, m_view);
+    if (transform.isIdentity())
+        return;
+    painter.setClipRect(m_picture.geometry.threeD ? QRectF(rect()) : m_picture.geometry.plot);
+    painter.fillRect(rect(), Qt::white);
+    painter.setTransform(transform);
+    painter.drawImage(QPointF(0, 0), m_picture.image);
+}
+
+void PlotView::redraw(const QSize& size, double ratio)
+{
+    m_stale = false;
+    m_pixels = size * ratio;
+    ++m_drawCount;
+    PlotScene scene;
+    try {
+        scene = m_scene();
+    } catch (const std::exception& e) {
+        // Nothing may escape into Qt's event loop; the picture says what went wrong.
+        scene = PlotScene();
+        scene.problem = tr("The plot cannot be drawn: %1").arg(QString::fromUtf8(e.what()));
     }
-    QPainter(this).drawImage(QPointF(0, 0), m_picture);
+    if (scene.countAll() < WorkerPoints) {
+        m_pending = 0;
+        m_picture = renderPicture(scene, m_view, size, ratio);
+        m_geometry = m_picture.geometry;
+        return;
+    }
+    if (m_picture.image.isNull()) { // nothing to show meanwhile but the background
+        m_picture.image = QImage(m_pixels, QImage::Format_RGB32);
+        m_picture.image.fill(Qt::white);
+    }
+    m_pending = m_worker.request(std::move(scene), m_view, size, ratio);
+}
+
+void PlotView::pictureDone()
+{
+    std::optional<PictureWorker::Done> done = m_worker.take();
+    if (!done || !m_pending)
+        return; // older than the picture drawn here since
+    m_picture = std::move(done->picture);
+    if (done->request == m_pending) {
+        m_pending = 0;
+        m_geometry = m_picture.geometry;
+    }
+    update();
+}
+
+void PlotView::waitForPicture()
+{
+    m_worker.wait();
+    pictureDone();
 }
 
 void PlotView::mousePressEvent(QMouseEvent* event)
@@ -173,7 +252,7 @@ void PlotView::mouseMoveEvent(QMouseEvent* event)
     m_dragFrom = event->pos();
     if (!m_geometry.navigable) {
         // Dragging turns the 3D view: across about the vertical axis, up and down to tilt.
-        setRotation(m_yaw + moved.x() * 0.5, m_pitch + moved.y() * 0.5);
+        setRotation(m_view.yaw + moved.x() * 0.5, m_view.pitch + moved.y() * 0.5);
         return;
     }
     // The data follow the mouse: the window moves the other way.
@@ -205,9 +284,12 @@ void PlotView::mouseReleaseEvent(QMouseEvent*)
 
 void PlotView::wheelEvent(QWheelEvent* event)
 {
-    const QPointF at = event->position();
     // One notch of a wheel (120) zooms by a quarter.
-    zoomAt(at, std::pow(1.25, event->angleDelta().y() / 120.0));
+    const double factor = std::pow(1.25, event->angleDelta().y() / 120.0);
+    if (m_geometry.threeD)
+        setZoom(m_view.zoom * factor);
+    else
+        zoomAt(event->position(), factor);
     event->accept();
 }
 

@@ -40,17 +40,5 @@ QRgb PointColours::at(long i) const
         const double t = valueAt(i);
         return t < 0.0 ? qRgb(160, 160, 160) : ColourRamp::at(m_contour.map, t);
     }
-    const Channels& ch = m_channels;
-    double c[3];
-    for (int k = 0; k < 3; ++k)
-        c[k] = ch.values[k]
-                   ? std::clamp((ch.values[k][i] - ch.min) / (ch.max > ch.min ? ch.max - ch.min : 1.0), 0.0, 1.0)
-                   : 0.0;
-    if (ch.mode >= 1 && ch.mode <= 3) {
-        const int calculated = ch.mode == 1 ? 2 : ch.mode == 2 ? 1 : 0;
-        c[calculated] = std::clamp(1.0 - c[(calculated + 1) % 3] - c[(calculated + 2) % 3], 0.0, 1.0);
-    }
-    if (!std::isfinite(c[0]) || !std::isfinite(c[1]) || !std::isfinite(c[2]))
-        return qRgb(128, 128, 128);
-    return qRgb(int(c[0] * 255), int(c[1] * 255), int(c[2] * 255));
+    return rgbAt(i);
 }

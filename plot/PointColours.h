@@ -1,5 +1,7 @@
 #pragma once
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <QColor>
 
 // The colour of each point of one zone's layer: one colour, a colour map over
@@ -43,6 +45,23 @@ public:
     // A ramped point's place on the map, from 0 to 1; negative when its value is missing.
     double valueAt(long i) const;
     QRgb at(long i) const;
+    // The colour of a point coloured by red, green and blue; in the header, as a
+    // raster asks it of millions of points.
+    QRgb rgbAt(long i) const
+    {
+        const Channels& ch = m_channels;
+        const double span = ch.max > ch.min ? ch.max - ch.min : 1.0;
+        double c[3];
+        for (int k = 0; k < 3; ++k)
+            c[k] = ch.values[size_t(k)] ? std::clamp((ch.values[size_t(k)][i] - ch.min) / span, 0.0, 1.0) : 0.0;
+        if (ch.mode >= 1 && ch.mode <= 3) {
+            const int calculated = ch.mode == 1 ? 2 : ch.mode == 2 ? 1 : 0;
+            c[calculated] = std::clamp(1.0 - c[(calculated + 1) % 3] - c[(calculated + 2) % 3], 0.0, 1.0);
+        }
+        if (!std::isfinite(c[0]) || !std::isfinite(c[1]) || !std::isfinite(c[2]))
+            return qRgb(128, 128, 128);
+        return qRgb(int(c[0] * 255), int(c[1] * 255), int(c[2] * 255));
+    }
 
 private:
     enum class Kind

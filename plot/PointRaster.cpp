@@ -6,7 +6,7 @@
 PointRaster::PointRaster(const QRectF& box, double ratio)
     : m_left(box.left()), m_top(box.top()), m_ratio(ratio), m_width(std::max(1L, long(std::ceil(box.width() * ratio)))),
       m_height(std::max(1L, long(std::ceil(box.height() * ratio)))), m_count(size_t(m_width * m_height), 0),
-      m_value(size_t(m_width * m_height), -1.0f)
+      m_value(size_t(m_width * m_height), -1.0f), m_colour(size_t(m_width * m_height), 0)
 {}
 
 QImage PointRaster::makeImage() const

@@ -6,50 +6,65 @@
 #include <QRectF>
 
 // Many points on few pixels: each pixel of the axes box keeps how many points
-// fell on it and the largest colouring value among them, so that ten million
-// points cost one pass and one image instead of ten million marks.
+// fell on it and either the largest colouring value among them or the colour
+// of the last, so that ten million points cost one pass and one image instead
+// of ten million marks.
 class PointRaster
 {
 public:
     // box: the axes box in logical pixels; ratio: device pixels per logical pixel.
     PointRaster(const QRectF& box, double ratio);
 
-    // x, y in logical pixels; value from 0 to 1 for a coloured point, negative for a plain one.
-    void add(double x, double y, double value) { addPixel((x - m_left) * m_ratio, (y - m_top) * m_ratio, value); }
-    // The same in the raster's own pixels, from its top left corner; NaN is left out.
+    // A point at px, py in the raster's own pixels, from its top left corner;
+    // value from 0 to 1 for a point coloured along a map, negative for a plain
+    // one. Points outside, or at NaN, are left out.
     void addPixel(double px, double py, double value)
     {
-        if (!(px >= 0.0 && py >= 0.0 && px < double(m_width) && py < double(m_height)))
-            return;
-        const size_t at = size_t(long(py) * m_width + long(px));
-        ++m_count[at];
-        if (value > m_value[at])
+        if (const size_t at = indexOf(px, py); at != Outside && value > m_value[at])
             m_value[at] = float(value);
     }
-    // How a data value becomes a raster pixel on each axis: pixel = scale * value + offset.
+    // The same for a point of its own colour: a pixel takes the last one's.
+    void addColoured(double px, double py, QRgb colour)
+    {
+        if (const size_t at = indexOf(px, py); at != Outside)
+            m_colour[at] = colour | 0xff000000u;
+    }
+    // How a value becomes a raster pixel on each axis: pixel = scale * value + offset.
     struct Mapping
     {
         double scale[2], offset[2];
     };
+    // From a position in logical pixels where scale and offset give them from the values.
     Mapping mapping(double sx, double ox, double sy, double oy) const
     {
         return {{sx * m_ratio, sy * m_ratio}, {(ox - m_left) * m_ratio, (oy - m_top) * m_ratio}};
     }
-    // Plain points in colour, darker where they crowd; coloured ones by colourOf(largest value).
-    template <typename ColourOf>
-    QImage image(QRgb colour, const ColourOf& colourOf) const;
+    // Plain points in colour, darker where they crowd; those on a map by
+    // colourOf(largest value); those of their own colour by recolour(colour).
+    template <typename ColourOf, typename Recolour>
+    QImage image(QRgb colour, const ColourOf& colourOf, const Recolour& recolour) const;
 
 private:
+    static constexpr size_t Outside = size_t(-1);
+    size_t indexOf(double px, double py)
+    {
+        if (!(px >= 0.0 && py >= 0.0 && px < double(m_width) && py < double(m_height)))
+            return Outside;
+        const size_t at = size_t(long(py) * m_width + long(px));
+        ++m_count[at];
+        return at;
+    }
     QImage makeImage() const;
 
     double m_left, m_top, m_ratio;
     long m_width, m_height;
     std::vector<unsigned> m_count;
     std::vector<float> m_value;
+    std::vector<QRgb> m_colour; // 0 where no point brought its own
 };
 
-template <typename ColourOf>
-QImage PointRaster::image(QRgb colour, const ColourOf& colourOf) const
+template <typename ColourOf, typename Recolour>
+QImage PointRaster::image(QRgb colour, const ColourOf& colourOf, const Recolour& recolour) const
 {
     QImage picture = makeImage();
     unsigned most = 1;
@@ -69,6 +84,8 @@ QImage PointRaster::image(QRgb colour, const ColourOf& colourOf) const
                 continue;
             if (m_value[at] >= 0.0f)
                 line[x] = colourOf(double(m_value[at])) | 0xff000000u;
+            else if (m_colour[at])
+                line[x] = recolour(m_colour[at]) | 0xff000000u;
             else {
                 const unsigned count = m_count[at];
                 const int alpha = count < alphas.size() ? alphas[count] : alphaOf(count);

@@ -1770,6 +1770,10 @@ Bitte wählen Sie, welchen Lader Sie verwenden möchten.</translation>
         <source>The plot cannot be drawn: %1</source>
         <translation>Der Plot kann nicht gezeichnet werden: %1</translation>
     </message>
+    <message>
+        <source>an unexpected error</source>
+        <translation>ein unerwarteter Fehler</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

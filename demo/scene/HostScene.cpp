@@ -200,6 +200,7 @@ PlotScene HostScene::read()
         scene.problem = tr("Plot type %1 shows no data in this demo.").arg(int(type));
         return scene;
     }
+    scene.keepAlive = orrery::kernel::Kernel::instance().sharedDataSet();
     scene.threeD = type == PlotType_ThreeD;
     scene.lines = type == PlotType_XYLine;
     scene.dims = scene.threeD ? 3 : 2;

@@ -48,8 +48,8 @@ bool save(QWidget& widget, const QString& path)
 bool savePlot(const HostPlotView& plot, const QString& path)
 {
     QString error;
-    const bool saved =
-        PlotExport::write(plot, path, plot.size().expandedTo(QSize(640, 480)), plot.devicePixelRatioF(), &error);
+    const bool saved = PlotExport::write(plot.scene(), plot.viewpoint(), path, plot.size().expandedTo(QSize(640, 480)),
+                                         plot.devicePixelRatioF(), &error);
     std::printf("  %s\n", saved ? qPrintable("plot " + path) : qPrintable(error));
     return saved;
 }

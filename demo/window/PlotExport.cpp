@@ -8,7 +8,8 @@
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
-#include "plot/PlotView.h"
+#include "plot/PlotScene.h"
+#include "plot/Render.h"
 #include "demo/session/RegularFile.h"
 
 namespace {
@@ -23,7 +24,7 @@ const int ScreenDpi = 96;
 
 } // namespace
 
-QImage PlotExport::image(const PlotView& view, const QSize& size, double ratio)
+QImage PlotExport::image(const PlotScene& scene, const PlotViewpoint& view, const QSize& size, double ratio)
 {
     // Laid out at the screen's resolution, in logical pixels, then scaled as a
     // whole: another ratio gives the same figure, ticks, texts and all, finer or
@@ -34,14 +35,15 @@ QImage PlotExport::image(const PlotView& view, const QSize& size, double ratio)
     {
         QPainter painter(&picture);
         painter.scale(ratio, ratio);
-        view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
+        render(scene, view, painter, QRectF(QPointF(0, 0), QSizeF(size)));
     }
     picture.setDotsPerMeterX(int(ScreenDpi * ratio / 0.0254));
     picture.setDotsPerMeterY(int(ScreenDpi * ratio / 0.0254));
     return picture;
 }
 
-bool PlotExport::write(const PlotView& view, const QString& path, const QSize& size, double ratio, QString* error)
+bool PlotExport::write(const PlotScene& scene, const PlotViewpoint& view, const QString& path, const QSize& size,
+                       double ratio, QString* error)
 {
     const QString suffix = QFileInfo(path).suffix().toLower();
     auto fail = [&](const QString& why) {
@@ -61,7 +63,7 @@ bool PlotExport::write(const PlotView& view, const QString& path, const QSize& s
         QSaveFile file(path);
         if (!file.open(QIODevice::WriteOnly))
             return fail(file.errorString());
-        if (!image(view, size, ratio).save(&file, "PNG"))
+        if (!image(scene, view, size, ratio).save(&file, "PNG"))
             return fail(tr("the PNG could not be written"));
         return file.commit() || fail(file.errorString());
     }
@@ -90,7 +92,7 @@ bool PlotExport::write(const PlotView& view, const QString& path, const QSize& s
         QPainter painter(device.get());
         if (!painter.isActive())
             return fail(tr("the %1 could not be started").arg(suffix.toUpper()));
-        view.render(painter, QRectF(QPointF(0, 0), QSizeF(size)));
+        render(scene, view, painter, QRectF(QPointF(0, 0), QSizeF(size)));
         painter.end();
         return file.commit() || fail(file.errorString());
     }

@@ -3,9 +3,10 @@
 #include <QSize>
 #include <QString>
 
-class PlotView;
+struct PlotScene;
+struct PlotViewpoint;
 
-// The plot written to a file or the clipboard as the view draws it: PNG at a
+// A scene written to a file or the clipboard as seen from a viewpoint, no widget needed: PNG at a
 // pixel ratio, SVG with its texts kept as text, or PDF.
 class PlotExport
 {
@@ -13,8 +14,9 @@ public:
     // The format follows the extension (.png, .svg, .pdf). size is in logical
     // pixels; ratio multiplies a PNG's pixels (2 for a 200 % screen). False,
     // with a message naming the file, when it cannot be written.
-    static bool write(const PlotView& view, const QString& path, const QSize& size, double ratio, QString* error);
-    static QImage image(const PlotView& view, const QSize& size, double ratio);
+    static bool write(const PlotScene& scene, const PlotViewpoint& view, const QString& path, const QSize& size,
+                      double ratio, QString* error);
+    static QImage image(const PlotScene& scene, const PlotViewpoint& view, const QSize& size, double ratio);
     // For a file dialog's filter.
     static QString filter();
 };

@@ -221,7 +221,7 @@ void PlotMenus::exportPlot()
     if (path.isEmpty())
         return;
     QString error;
-    if (PlotExport::write(m_plot, path, size.plotSize(), size.ratio(), &error))
+    if (PlotExport::write(m_plot.scene(), m_plot.viewpoint(), path, size.plotSize(), size.ratio(), &error))
         m_messages.report(tr("Exported the plot to %1").arg(path));
     else
         m_messages.complain(error);
@@ -229,6 +229,7 @@ void PlotMenus::exportPlot()
 
 void PlotMenus::copyPlot()
 {
-    QApplication::clipboard()->setImage(PlotExport::image(m_plot, m_plot.size(), m_plot.devicePixelRatioF()));
+    QApplication::clipboard()->setImage(
+        PlotExport::image(m_plot.scene(), m_plot.viewpoint(), m_plot.size(), m_plot.devicePixelRatioF()));
     m_messages.report(tr("Copied the plot to the clipboard"));
 }

@@ -7,8 +7,8 @@
 #include <QImage>
 #include <QPainter>
 #include <QTextStream>
-#include <plot/PlotPainter.h>
 #include <plot/PlotScene.h>
+#include <plot/Render.h>
 
 int main(int argc, char** argv)
 {
@@ -60,8 +60,7 @@ int main(int argc, char** argv)
 
     QImage picture(800, 600, QImage::Format_RGB32);
     QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    PlotPainter(0, 0).paint(painter, QRectF(picture.rect()), scene);
+    render(scene, PlotViewpoint(), painter, QRectF(picture.rect()));
     painter.end();
     return picture.save(argv[2]) ? 0 : 1;
 }

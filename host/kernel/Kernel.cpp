@@ -66,7 +66,7 @@ void Kernel::reset()
     m_lastError.reset();
     m_newFigureReset.clear();
     m_messageBoxes.setHandler({});
-    m_dataSet = DataSet();
+    m_dataSet = std::make_shared<const DataSet>();
     ++m_dataSetNumber;
     m_frames.clear();
     m_pageCount = 1;
@@ -84,9 +84,9 @@ std::vector<std::string> Kernel::startNewFigure(Frame& frame) const
 {
     const StyleState before = frame.style();
     useWholeDataSet(frame);
-    frame.style().dropMembersAfter(m_dataSet.numZones());
+    frame.style().dropMembersAfter(m_dataSet->numZones());
     const auto valueOf = [&](const std::string& key) { return m_schema.valueIn(frame.style(), key, 0); };
-    VariableFit::apply(frame.style(), m_schema, m_dataSet.numVars(),
+    VariableFit::apply(frame.style(), m_schema, m_dataSet->numVars(),
                        static_cast<PlotType_e>(std::get<long>(valueOf(PlotTypeKey))));
     // What names the old data: its points, zones, title, the further lines and the axis titles with their units.
     for (const char* key :
@@ -97,7 +97,8 @@ std::vector<std::string> Kernel::startNewFigure(Frame& frame) const
     for (const std::string axis : {"TwoDAxis/XDetail/", "TwoDAxis/YDetail/"}) {
         double min = 0.0, max = 0.0;
         const int var = static_cast<int>(std::get<long>(valueOf(axis + "VarNum")));
-        if (std::get<bool>(valueOf(axis + "IsLog")) && m_dataSet.range(var, frame.enabledZones, min, max) && min <= 0.0)
+        if (std::get<bool>(valueOf(axis + "IsLog")) && m_dataSet->range(var, frame.enabledZones, min, max)
+            && min <= 0.0)
             frame.style().store(axis + "IsLog", 0, false);
     }
     std::vector<std::string> changed;
@@ -117,7 +118,7 @@ void Kernel::setDataSet(DataSet dataSet)
 {
     if (m_dataSetGate && !m_dataSetGate())
         return;
-    m_dataSet = std::move(dataSet);
+    m_dataSet = std::make_shared<const DataSet>(std::move(dataSet));
     ++m_dataSetNumber;
     const size_t current = m_current;
     m_newFigureReset.clear();
@@ -211,7 +212,7 @@ void Kernel::setEnabled(toolbox::Set Frame::*enabled, const toolbox::Set& wanted
         return;
     toolbox::Set kept;
     for (int index : wanted)
-        if ((m_dataSet.*exists)(index))
+        if ((m_dataSet.get()->*exists)(index))
             kept.add(index);
     if (kept == frame->*enabled)
         return;
@@ -244,7 +245,7 @@ void Kernel::axisRange(const std::string& axisKey, double& min, double& max) con
 {
     const Frame* frame = currentFrame();
     const int var = static_cast<int>(std::get<long>(currentStyle(axisKey)));
-    if (!frame || !frame->enabledVars.contains(var) || !m_dataSet.range(var, frame->enabledZones, min, max)) {
+    if (!frame || !frame->enabledVars.contains(var) || !m_dataSet->range(var, frame->enabledZones, min, max)) {
         min = 0.0;
         max = 1.0;
     } else if (min == max) {
@@ -281,8 +282,8 @@ void Kernel::addFrame()
 
 void Kernel::useWholeDataSet(Frame& frame) const
 {
-    frame.enabledZones = m_dataSet.allZones();
-    frame.enabledVars = m_dataSet.allVars();
+    frame.enabledZones = m_dataSet->allZones();
+    frame.enabledVars = m_dataSet->allVars();
 }
 
 } // namespace kernel

@@ -28,7 +28,10 @@ public:
     // empty journal.
     void reset();
 
-    const DataSet& dataSet() const { return m_dataSet; }
+    const DataSet& dataSet() const { return *m_dataSet; }
+    // The same, shared: whoever reads its values on another thread holds it
+    // so that a new data set does not free them under it.
+    std::shared_ptr<const DataSet> sharedDataSet() const { return m_dataSet; }
     // Tells the data sets apart: a new number each time the data set is replaced.
     std::uint64_t dataSetNumber() const { return m_dataSetNumber; }
     // Every frame then starts a new figure (startNewFigure) and the undo
@@ -98,7 +101,8 @@ private:
     UndoStack m_undo;
     Journal m_journal;
     MessageBoxPresenter m_messageBoxes;
-    DataSet m_dataSet;
+    // Never changed in place, only replaced; never null.
+    std::shared_ptr<const DataSet> m_dataSet = std::make_shared<const DataSet>();
     std::uint64_t m_dataSetNumber = 0;
     int m_pageCount = 0;
     std::vector<Frame> m_frames;

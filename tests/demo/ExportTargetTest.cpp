@@ -35,9 +35,10 @@ TEST_F(ExportTarget, AFifoAFolderOrALinkToOneIsRefusedAndLeftAsItWas)
     // File > Export Plot writes through the same function.
     HostPlotView view;
     QString error;
-    EXPECT_FALSE(PlotExport::write(view, at("link.svg"), QSize(200, 100), 1.0, &error));
+    EXPECT_FALSE(PlotExport::write(view.scene(), view.viewpoint(), at("link.svg"), QSize(200, 100), 1.0, &error));
     EXPECT_THAT(error.toStdString(), HasSubstr(at("link.svg").toStdString() + " is not a regular file (a FIFO)"));
-    EXPECT_TRUE(PlotExport::write(view, at("plot.svg"), QSize(200, 100), 1.0, &error)) << error.toStdString();
+    EXPECT_TRUE(PlotExport::write(view.scene(), view.viewpoint(), at("plot.svg"), QSize(200, 100), 1.0, &error))
+        << error.toStdString();
 }
 
 } // namespace

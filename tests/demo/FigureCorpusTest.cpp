@@ -470,7 +470,7 @@ TEST_P(Figures, ShowEveryLabelWholeTrueAndApartWhateverTheData)
         ASSERT_TRUE(window.session().loadFile(csv)) << shape.name;
         colourAndScale(shape);
         QString error;
-        ASSERT_TRUE(PlotExport::write(view, svg, size, 1.0, &error)) << error.toStdString();
+        ASSERT_TRUE(PlotExport::write(view.scene(), view.viewpoint(), svg, size, 1.0, &error)) << error.toStdString();
         const std::vector<SvgText> texts = readSvgTexts(svg, &error);
         ASSERT_FALSE(texts.empty()) << shape.name << error.toStdString();
         // Where the axes went, from the same drawing on a page of the same size and resolution.
