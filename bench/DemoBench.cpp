@@ -1,7 +1,8 @@
 // The demo host's two heavy paths beside their baselines, in one run:
 //  - the plot's redraw of 1,000,000 and 10,000,000 points, as a scatter, coloured
 //    by red, green and blue and as an XY line, and a zoom step drawn at once,
-//    beside QPainter::drawPoints of the same points into an image of the same size;
+//    beside QPainter::drawPoints of the same points into an image of the same size
+//    and, for the line, QPainter::drawPolyline of the same series;
 //  - the longest the view's thread spends on one wheel step (the event and the
 //    paint) at 10,000,000 points, the picture drawn on the view's worker, beside
 //    the zoom step drawn at once;
@@ -138,20 +139,25 @@ void RGBRedraw(benchmark::State& state)
 }
 BENCHMARK(RGBRedraw)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
 
-// The same number of points as an XY line: a noisy time series, X in order.
-void LineRedraw(benchmark::State& state)
+// A noisy time series of count points: X in order, Y a random walk.
+std::vector<std::vector<double>> randomWalk(long count)
 {
     std::mt19937 random(7);
     std::normal_distribution<double> step(0.0, 1.0);
-    const long count = state.range(0);
     std::vector<std::vector<double>> values(2, std::vector<double>(size_t(count)));
     double y = 0.0;
     for (long i = 0; i < count; ++i) {
         values[0][size_t(i)] = double(i);
         values[1][size_t(i)] = y += step(random);
     }
+    return values;
+}
+
+// The same number of points as an XY line.
+void LineRedraw(benchmark::State& state)
+{
     orrery::kernel::DataSet data("Series", {"Time", "Signal"});
-    data.addZone("Series", values);
+    data.addZone("Series", randomWalk(state.range(0)));
     KernelDriver::resetKernel();
     KernelDriver::setDataSet(data);
     KernelDriver::setPlotType(PlotType_XYLine);
@@ -237,6 +243,32 @@ void BaselineDrawPoints(benchmark::State& state)
         benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
 }
 BENCHMARK(BaselineDrawPoints)->Arg(1000000)->Arg(10000000)->Unit(benchmark::kMillisecond);
+
+// The same time series as the line, already in pixels, drawn whole by QPainter::drawPolyline, smoothed as a
+// line on screen is; 10,000,000 points take too long to repeat.
+void BaselineDrawPolyline(benchmark::State& state)
+{
+    const std::vector<std::vector<double>> walk = randomWalk(state.range(0));
+    const auto [low, high] = std::minmax_element(walk[1].begin(), walk[1].end());
+    const double width = ImageSize.width() - 94, height = ImageSize.height() - 80;
+    std::vector<QPointF> points(walk[0].size());
+    for (size_t i = 0; i < points.size(); ++i)
+        points[i] = QPointF(70 + width * walk[0][i] / double(points.size()),
+                            30 + height * (*high - walk[1][i]) / (*high - *low));
+    QImage image(ImageSize, QImage::Format_RGB32);
+    for (auto _ : state) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(image.rect(), Qt::white);
+        painter.setPen(QPen(Qt::black, 1));
+        painter.drawPolyline(points.data(), int(points.size()));
+        painter.end();
+        benchmark::DoNotOptimize(image.constBits());
+    }
+    state.counters["points/s"] =
+        benchmark::Counter(double(state.range(0)), benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(BaselineDrawPolyline)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 // A binary structured grid of double coordinates and one double scalar: 32
 // bytes a point in the file and four doubles a point in the data set.
