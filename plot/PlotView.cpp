@@ -26,7 +26,7 @@ QString readout(double value)
     return locale.toString(value, 'g', 6).replace(QString(locale.negativeSign()), QString(QChar(0x2212)));
 }
 
-QPointF position(const QMouseEvent* event)
+QPointF eventPosition(const QMouseEvent* event)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     return event->position();
@@ -235,7 +235,7 @@ void PlotView::mousePressEvent(QMouseEvent* event)
 
 void PlotView::mouseMoveEvent(QMouseEvent* event)
 {
-    const QPointF at = position(event);
+    const QPointF at = eventPosition(event);
     if (m_geometry.navigable && m_geometry.plot.contains(at))
         Q_EMIT pointerMoved(QString("%1 = %2, %3 = %4")
                                 .arg(m_geometry.names[0], readout(m_geometry.toValue(0, at.x())), m_geometry.names[1],
