@@ -8,6 +8,7 @@
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/StyleValue.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace sdk {
@@ -30,39 +31,9 @@ int styleVar(const toolbox::StringList& path)
                                                                                                : 0;
 }
 
-toolbox::Set enabledOf(bool (*enabled)(long, int), int count, long frameUniqueID)
-{
-    toolbox::Set set;
-    for (int i = 1; i <= count; ++i)
-        if (HostCall::value("enabled zone or variable (OrrUtilFrame...IsEnabled)", false,
-                            [&] { return enabled(frameUniqueID, i); }))
-            set.add(i);
-    return set;
-}
-
-int numVars()
-{
-    return ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumVars());
-}
-
-long frameID()
-{
-    return ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID());
-}
-
-PlotType_e plotTypeNow()
-{
-    return ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
-}
-
 toolbox::Set enabledVars()
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameID());
-}
-
-std::string varName(int var)
-{
-    return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var));
+    return HostAnswers::enabledVars(HostAnswers::frameUniqueID());
 }
 
 std::vector<int> axisVars(PlotType_e plotType)
@@ -90,12 +61,10 @@ std::vector<int> candidates(PlotType_e plotType, bool withAxisVars)
     return free;
 }
 
-// Asks the host about this one variable, not about all of them.
+// The dialogs that check a variable list them all as well: one question per variable.
 bool isEnabledVar(int var)
 {
-    const long frame = frameID();
-    return var >= 1 && var <= numVars()
-           && HostCall::value("OrrUtilFrameVarIsEnabled", false, [&] { return OrrUtilFrameVarIsEnabled(frame, var); });
+    return enabledVars().contains(var);
 }
 
 // Velocity components as writers name them, lower case and without separators
@@ -120,7 +89,7 @@ std::string lowerCase(std::string text)
 int enabledVarNamed(std::initializer_list<const char*> names)
 {
     for (int var : enabledVars()) {
-        std::string name = lowerCase(varName(var));
+        std::string name = lowerCase(HostAnswers::varName(var));
         name.erase(std::remove_if(name.begin(), name.end(), [](char c) { return c == '_' || c == ' ' || c == '-'; }),
                    name.end());
         for (const char* wanted : names)
@@ -148,12 +117,12 @@ std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const cha
 
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameZoneIsEnabled, ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumZones()), frameUniqueID);
+    return HostAnswers::enabledZones(frameUniqueID);
 }
 
 toolbox::Set getEnabledVarsForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameUniqueID);
+    return HostAnswers::enabledVars(frameUniqueID);
 }
 
 bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
@@ -193,7 +162,7 @@ bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
 
 bool okToTurnOnVectorLayer(PlotType_e plotType)
 {
-    if (!isFieldPlot(plotType) || plotTypeNow() != plotType)
+    if (!isFieldPlot(plotType) || HostAnswers::plotType() != plotType)
         return false;
     std::vector<int> vars;
     if (plotType == PlotType_ThreeD)
@@ -230,7 +199,7 @@ void autoAssignScatterVariable()
     const toolbox::StringList path{"GlobalScatter", "Var"};
     if (isEnabledVar(styleVar(path)))
         return;
-    const std::vector<int> vars = candidates(plotTypeNow(), true);
+    const std::vector<int> vars = candidates(HostAnswers::plotType(), true);
     if (vars.empty())
         return;
     const toolbox::StyleValue value(path);
