@@ -1,6 +1,7 @@
 #include "platform/sdk/DataSetQueries.h"
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -78,38 +79,48 @@ bool isConstant(int var)
     return !ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(var, &min, &max)) || min == max;
 }
 
-std::string lowerCase(std::string text)
+// The name as it is matched: lower case, without the separators _, - and blank
+// (velocity_X, vel_x, Vx, velocityX). False for a name longer than longest once
+// matched, which can be none of the wanted ones; data sets hold thousands of
+// variables with long names.
+bool matchedForm(const std::string& name, size_t longest, std::string& form)
 {
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return char(std::tolower(c)); });
-    return text;
-}
-
-// The first enabled variable whose name is one of the given (lower-case)
-// names, ignoring case and the separators _, - and blank; 0 when there is none.
-int enabledVarNamed(std::initializer_list<const char*> names)
-{
-    for (int var : enabledVars()) {
-        std::string name = lowerCase(HostAnswers::varName(var));
-        name.erase(std::remove_if(name.begin(), name.end(), [](char c) { return c == '_' || c == ' ' || c == '-'; }),
-                   name.end());
-        for (const char* wanted : names)
-            if (name == wanted)
-                return var;
+    form.clear();
+    for (const char c : name) {
+        if (c == '_' || c == ' ' || c == '-')
+            continue;
+        if (form.size() == longest)
+            return false;
+        form.push_back(char(std::tolower(static_cast<unsigned char>(c))));
     }
-    return 0;
+    return true;
 }
 
-// One enabled variable per component, each found by its names; empty unless
-// every component was found and no variable serves two.
+// One enabled variable per component, the first whose name is one of the
+// component's (lower-case) names; empty unless every component was found and no
+// variable serves two. The names are read in one pass.
 std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const char*>> components)
 {
-    std::vector<int> vars;
-    for (const auto& names : components) {
-        const int var = enabledVarNamed(names);
-        if (var == 0 || std::count(vars.begin(), vars.end(), var))
-            return {};
-        vars.push_back(var);
+    size_t longest = 0;
+    for (const auto& names : components)
+        for (const char* wanted : names)
+            longest = std::max(longest, std::strlen(wanted));
+    std::vector<int> vars(components.size(), 0);
+    std::string form;
+    for (int var : enabledVars()) {
+        if (!matchedForm(HostAnswers::varName(var), longest, form))
+            continue;
+        size_t component = 0;
+        for (const auto& names : components) {
+            if (vars[component] == 0 && std::find(names.begin(), names.end(), form) != names.end())
+                vars[component] = var;
+            ++component;
+        }
     }
+    std::vector<int> distinct = vars;
+    std::sort(distinct.begin(), distinct.end());
+    if (distinct.front() == 0 || std::adjacent_find(distinct.begin(), distinct.end()) != distinct.end())
+        return {};
     return vars;
 }
 
