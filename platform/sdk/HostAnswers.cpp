@@ -1,7 +1,7 @@
 #include "platform/sdk/HostAnswers.h"
 #include <map>
 #include <optional>
-#include <unordered_map>
+#include <vector>
 #include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 
@@ -17,7 +17,7 @@ struct Answers
     std::optional<bool> dataSetAvailable;
     std::optional<int> pageCount, frameCount, numZones, numVars;
     std::map<long, toolbox::Set> enabledZones, enabledVars;
-    std::unordered_map<int, std::string> zoneNames, varNames;
+    std::vector<std::optional<std::string>> zoneNames, varNames; // by number - 1
 };
 
 Answers& answers()
@@ -47,11 +47,18 @@ const toolbox::Set& enabled(std::map<long, toolbox::Set>& kept, long frameUnique
     return kept.emplace(frameUniqueID, std::move(set)).first->second;
 }
 
+// A number out of range is asked every time, and not kept.
 template <typename Ask>
-const std::string& name(std::unordered_map<int, std::string>& kept, int number, Ask&& ask)
+std::string name(std::vector<std::optional<std::string>>& kept, int number, int count, Ask&& ask)
 {
-    const auto known = kept.find(number);
-    return known != kept.end() ? known->second : kept.emplace(number, ask()).first->second;
+    if (number < 1 || number > count)
+        return ask();
+    if (kept.size() < size_t(count))
+        kept.resize(size_t(count));
+    std::optional<std::string>& slot = kept[size_t(number - 1)];
+    if (!slot)
+        slot = ask();
+    return *slot;
 }
 
 } // namespace
@@ -105,12 +112,13 @@ toolbox::Set HostAnswers::enabledVars(long frameUniqueID)
 
 std::string HostAnswers::zoneName(int zone)
 {
-    return name(answers().zoneNames, zone, [zone] { return ORRERY_HOST_TEXT(Fault, OrrUtilZoneGetName(zone)); });
+    return name(answers().zoneNames, zone, numZones(),
+                [zone] { return ORRERY_HOST_TEXT(Fault, OrrUtilZoneGetName(zone)); });
 }
 
 std::string HostAnswers::varName(int var)
 {
-    return name(answers().varNames, var, [var] { return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var)); });
+    return name(answers().varNames, var, numVars(), [var] { return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var)); });
 }
 
 void HostAnswers::forget()
