@@ -13,7 +13,7 @@
 #include <QHBoxLayout>
 #include <QToolButton>
 #include "platform/common/IdleQueue.h"
-#include "host/kernel/KernelDriver.h"
+#include "bench/support/BenchHost.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ColorChooserDialog.h"
 
@@ -90,6 +90,7 @@ void BM_ColorChooserFirstShow(benchmark::State& state)
         settle();
         state.PauseTiming();
         parent.reset();
+        benchhost::announceChange(); // the next dialog asks the host afresh
         state.ResumeTiming();
     }
 }
@@ -124,7 +125,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    orrery::kernel::KernelDriver::loadSampleDataSet();
+    benchhost::start();
+    benchmark::AddCustomContext("host", benchhost::name());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

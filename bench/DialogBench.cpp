@@ -15,7 +15,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include "platform/common/IdleQueue.h"
-#include "host/kernel/KernelDriver.h"
+#include "bench/support/BenchHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
@@ -61,7 +61,8 @@ struct Loader
     static QDialog* get(QWidget& parent)
     {
         return ChooseLoaderDialog::getInstance(
-            parent, orrery::sdk::DataLoaderRepository::getInstance().loadersForExtension("dat"), {".dat"});
+            parent, orrery::sdk::DataLoaderRepository::getInstance().loadersForExtension(benchhost::loaderExtension()),
+            {"." + benchhost::loaderExtension()});
     }
 };
 
@@ -87,6 +88,7 @@ void BM_FirstShow(benchmark::State& state)
         settle();
         state.PauseTiming();
         parent.reset();
+        benchhost::announceChange(); // the next dialog asks the host afresh
         state.ResumeTiming();
     }
     state.counters["widgets"] = widgetCount<D>();
@@ -221,7 +223,8 @@ int main(int argc, char** argv)
     QTemporaryDir settings; // the loader chooser reads its history from here
     qputenv("ORRERY_SETTINGS_DIR", settings.path().toUtf8());
     QApplication app(argc, argv);
-    orrery::kernel::KernelDriver::loadSampleDataSet();
+    benchhost::start();
+    benchmark::AddCustomContext("host", benchhost::name());
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() == 3 && arguments[1] == "--cold-start")
         return coldStartChild(arguments[2]);

@@ -20,13 +20,11 @@
 #include <QStringListModel>
 #include <QVBoxLayout>
 #include "platform/common/IdleQueue.h"
-#include "host/kernel/DataSet.h"
-#include "host/kernel/KernelDriver.h"
+#include "bench/support/BenchHost.h"
 #include "prompts/prompt/RGBVariableSelectDialog.h"
 #include "prompts/prompt/ZoneSelectDialog.h"
 
 using namespace orrery::dialogs::prompt;
-using orrery::kernel::KernelDriver;
 
 namespace {
 
@@ -44,17 +42,15 @@ const QStringList& loadDataSet(int zones, int vars)
     static int loadedZones = -1, loadedVars = -1;
     static QStringList zoneNames;
     if (zones != loadedZones || vars != loadedVars) {
-        std::vector<std::string> varNames;
+        std::vector<std::string> zoneList, varList;
         for (int v = 1; v <= vars; ++v)
-            varNames.push_back("Variable " + std::to_string(v));
-        orrery::kernel::DataSet dataSet("Bench", varNames);
-        const std::vector<std::vector<double>> point(size_t(vars), std::vector<double>{1.0});
+            varList.push_back("Variable " + std::to_string(v));
         zoneNames.clear();
         for (int z = 1; z <= zones; ++z) {
-            dataSet.addZone("Zone " + std::to_string(z), point);
+            zoneList.push_back("Zone " + std::to_string(z));
             zoneNames << QString("Zone %1").arg(z);
         }
-        KernelDriver::setDataSet(dataSet);
+        benchhost::loadDataSet(zoneList, varList);
         loadedZones = zones;
         loadedVars = vars;
     }
@@ -99,6 +95,7 @@ void BM_ZonePromptFirstShow(benchmark::State& state)
         settle();
         state.PauseTiming();
         parent.reset();
+        benchhost::announceChange(); // the next dialog asks the host afresh
         state.ResumeTiming();
     }
     state.SetComplexityN(state.range(0));
@@ -220,6 +217,7 @@ void BM_VariablePromptFirstShow(benchmark::State& state)
         settle();
         state.PauseTiming();
         parent.reset();
+        benchhost::announceChange(); // the next dialog asks the host afresh
         state.ResumeTiming();
     }
 }
@@ -272,6 +270,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
         qputenv("QT_LOGGING_RULES", "qt.qpa.*=false"); // the offscreen platform's notes on every popup
     QApplication app(argc, argv);
+    benchhost::start();
+    benchmark::AddCustomContext("host", benchhost::name());
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

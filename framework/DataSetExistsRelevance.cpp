@@ -1,12 +1,11 @@
 #include "framework/DataSetExistsRelevance.h"
 
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 DataSetExistsRelevance::DataSetExistsRelevance()
-    : StateChangeDependentRelevance([] { return ORRERY_HOST_CALL(false, OrrUtilDataSetIsAvailable()); })
+    : StateChangeDependentRelevance([] { return sdk::HostAnswers::dataSetAvailable(); })
 {}
 
 } // namespace orrery::sdk::ui::propertymanager

@@ -1,13 +1,12 @@
 #include "framework/FieldPlotTypeDependentRelevance.h"
 
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
 FieldPlotTypeDependentRelevance::FieldPlotTypeDependentRelevance()
     : StateChangeDependentRelevance([] {
-          const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
+          const PlotType_e plotType = sdk::HostAnswers::plotType();
           return plotType == PlotType_ThreeD || plotType == PlotType_TwoD;
       })
 {}

@@ -26,10 +26,14 @@ std::vector<std::string>& styleNames()
     return names;
 }
 
-// Throws when the host's tests made the operation faulty.
-void faultIn(const char* operation)
+// Every operation starts here: counted when the host's tests ask, and thrown
+// from when they made it faulty.
+void enter(const char* operation)
 {
-    if (Host::instance().faults.throwing.count(operation))
+    Host& host = Host::instance();
+    if (host.countAsked)
+        ++host.asked[operation];
+    if (!host.faults.throwing.empty() && host.faults.throwing.count(operation))
         throw std::runtime_error(std::string(operation) + " lost its table");
 }
 
@@ -135,6 +139,8 @@ void Host::reset()
     vars = {"x", "y", "Density", "Speed", "Energy"};
     refusals.clear();
     faults = Faults();
+    countAsked = false;
+    asked.clear();
     values = {{{0, 1, 2}, {0, 1, 0}, {1, 2, 3}, {5, 6, 7}, {0.1, 0.2, 0.3}},
               {{3, 4}, {1, 0}, {4, 5}, {8, 9}, {0.4, 0.5}}};
     style = {{"TwoDAxis/XDetail/VarNum", 1L},
@@ -176,38 +182,45 @@ using tinyhost::Host;
 
 int OrrUtilPageGetCount(void)
 {
+    tinyhost::enter("PageGetCount");
     return 1;
 }
 int OrrUtilFrameGetCount(void)
 {
+    tinyhost::enter("FrameGetCount");
     return 1;
 }
 long OrrUtilFrameGetUniqueID(void)
 {
+    tinyhost::enter("FrameGetUniqueID");
     return tinyhost::FrameID;
 }
 PlotType_e OrrUtilFrameGetPlotType(void)
 {
+    tinyhost::enter("FrameGetPlotType");
     return PlotType_TwoD;
 }
 
 bool OrrUtilDataSetIsAvailable(void)
 {
+    tinyhost::enter("DataSetIsAvailable");
     return !Host::instance().vars.empty();
 }
 int OrrUtilDataSetGetNumZones(void)
 {
+    tinyhost::enter("DataSetGetNumZones");
     return int(Host::instance().zones.size());
 }
 int OrrUtilDataSetGetNumVars(void)
 {
+    tinyhost::enter("DataSetGetNumVars");
     return int(Host::instance().vars.size());
 }
 
 //! [names]
 char* OrrUtilZoneGetName(int zone)
 {
-    tinyhost::faultIn("ZoneGetName");
+    tinyhost::enter("ZoneGetName");
     return tinyhost::validZone(zone) && !Host::instance().faults.nullNames
                ? tinyhost::copyOf(Host::instance().zones[size_t(zone - 1)])
                : nullptr;
@@ -215,7 +228,7 @@ char* OrrUtilZoneGetName(int zone)
 
 char* OrrUtilVarGetName(int var)
 {
-    tinyhost::faultIn("VarGetName");
+    tinyhost::enter("VarGetName");
     return tinyhost::validVar(var) && !Host::instance().faults.nullNames
                ? tinyhost::copyOf(Host::instance().vars[size_t(var - 1)])
                : nullptr;
@@ -224,16 +237,19 @@ char* OrrUtilVarGetName(int var)
 
 bool OrrUtilFrameZoneIsEnabled(long frameUniqueID, int zone)
 {
+    tinyhost::enter("FrameZoneIsEnabled");
     return frameUniqueID == tinyhost::FrameID && tinyhost::validZone(zone);
 }
 
 bool OrrUtilFrameVarIsEnabled(long frameUniqueID, int var)
 {
+    tinyhost::enter("FrameVarIsEnabled");
     return frameUniqueID == tinyhost::FrameID && tinyhost::validVar(var);
 }
 
 bool OrrUtilVarGetMinMax(int var, double* min, double* max)
 {
+    tinyhost::enter("VarGetMinMax");
     if (!tinyhost::validVar(var))
         return false;
     *min = INFINITY;
@@ -248,6 +264,7 @@ bool OrrUtilVarGetMinMax(int var, double* min, double* max)
 
 void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* yMax)
 {
+    tinyhost::enter("AxisGetGridRange");
     *xMin = *yMin = 0;
     *xMax = *yMax = 1;
     OrrUtilVarGetMinMax(int(std::get<long>(Host::instance().style["TwoDAxis/XDetail/VarNum"])), xMin, xMax);
@@ -257,11 +274,13 @@ void OrrUtilAxisGetGridRange(double* xMin, double* yMin, double* xMax, double* y
 // No frame size to measure by: every unit is the same length here.
 double OrrUtilConvertUnits(int, int, double value)
 {
+    tinyhost::enter("ConvertUnits");
     return value;
 }
 
 void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigned char* green, unsigned char* blue)
 {
+    tinyhost::enter("ColorMapGetBasicColorRGB");
     static const unsigned char Basic[8][3] = {{0, 0, 0},     {255, 0, 0},   {0, 255, 0},   {0, 0, 255},
                                               {0, 255, 255}, {255, 255, 0}, {255, 0, 255}, {255, 255, 255}};
     const bool basic = colorIndex >= 0 && colorIndex < 8;
@@ -273,6 +292,7 @@ void OrrUtilColorMapGetBasicColorRGB(int colorIndex, unsigned char* red, unsigne
 //! [undo]
 void OrrUtilUndoStateBegin(int category)
 {
+    tinyhost::enter("UndoStateBegin");
     Host& host = Host::instance();
     if (host.bracketDepth++ == 0) {
         host.bracketStart = host.style;
@@ -282,6 +302,7 @@ void OrrUtilUndoStateBegin(int category)
 
 void OrrUtilUndoStateEnd(bool revert, bool record)
 {
+    tinyhost::enter("UndoStateEnd");
     Host& host = Host::instance();
     if (host.bracketDepth == 0 || --host.bracketDepth > 0)
         return;
@@ -294,6 +315,7 @@ void OrrUtilUndoStateEnd(bool revert, bool record)
 
 long OrrUtilStyleNameGetID(const char* name)
 {
+    tinyhost::enter("StyleNameGetID");
     std::vector<std::string>& names = tinyhost::styleNames();
     const auto it = std::find(names.begin(), names.end(), name ? name : "");
     if (it != names.end())
@@ -304,7 +326,7 @@ long OrrUtilStyleNameGetID(const char* name)
 
 GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args)
 {
-    tinyhost::faultIn("StyleGetValue");
+    tinyhost::enter("StyleGetValue");
     const auto it = Host::instance().style.find(tinyhost::pathOf(*args).join("/"));
     if (it == Host::instance().style.end())
         return GetValue_UnknownPath;
@@ -323,6 +345,7 @@ GetValueReturnCode_e OrrUtilStyleGetValue(ArgList_pa args)
 //! [style write]
 SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
 {
+    tinyhost::enter("StyleSetValue");
     Host& host = Host::instance();
     host.lastError.clear();
     const orrery::toolbox::StringList stylePath = tinyhost::pathOf(*args);
@@ -363,11 +386,13 @@ SetValueReturnCode_e OrrUtilStyleSetValue(ArgList_pa args)
 
 char* OrrUtilStyleGetLastErrorString(void)
 {
+    tinyhost::enter("StyleGetLastErrorString");
     return Host::instance().lastError.empty() ? nullptr : tinyhost::copyOf(Host::instance().lastError);
 }
 
 void OrrUtilStringDealloc(char** string)
 {
+    tinyhost::enter("StringDealloc");
     std::free(*string);
     *string = nullptr;
 }
@@ -375,6 +400,7 @@ void OrrUtilStringDealloc(char** string)
 
 int OrrUtilDialogMessageBox(const char* text, int)
 {
+    tinyhost::enter("DialogMessageBox");
     Host::instance().messages.push_back(text ? text : "");
     return 1;
 }

@@ -48,6 +48,10 @@ struct Host
         std::set<std::string> throwing; // operations that throw ("ZoneGetName", "StyleGetValue")
         bool nullNames = false;         // zone and variable names come back null
     } faults;
+    // For the host's own tests too: how often each operation was asked, by the
+    // name after OrrUtil ("VarGetName"), while countAsked is on.
+    bool countAsked = false;
+    std::map<std::string, long> asked;
 };
 
 // Registers the host's loader, "Tiny table" (*.tiny: a header row of variable

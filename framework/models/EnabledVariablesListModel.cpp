@@ -1,8 +1,6 @@
 #include "framework/models/EnabledVariablesListModel.h"
 
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
-#include "platform/sdk/DataSetQueries.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
@@ -13,13 +11,13 @@ EnabledVariablesListModel::EnabledVariablesListModel()
 
 std::vector<int> EnabledVariablesListModel::fetchNumbers() const
 {
-    const toolbox::Set vars = getEnabledVarsForFrame(ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID()));
+    const toolbox::Set vars = HostAnswers::enabledVars(HostAnswers::frameUniqueID());
     return std::vector<int>(vars.begin(), vars.end());
 }
 
 std::string EnabledVariablesListModel::fetchText(int var) const
 {
-    return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var));
+    return HostAnswers::varName(var);
 }
 
 } // namespace orrery::sdk::ui::dialogs::propertybindings::models

@@ -1,7 +1,6 @@
 #include "framework/models/ZoneListModel.h"
 
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery::sdk::ui::dialogs::propertybindings::models {
 
@@ -12,13 +11,13 @@ ZoneListModel::ZoneListModel(const ZoneSource& zones, bool numbered) : m_zones(z
 
 std::vector<int> ZoneListModel::fetchNumbers() const
 {
-    const toolbox::Set zones = m_zones(ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID()));
+    const toolbox::Set zones = m_zones(HostAnswers::frameUniqueID());
     return std::vector<int>(zones.begin(), zones.end());
 }
 
 std::string ZoneListModel::fetchText(int zone) const
 {
-    const std::string name = ORRERY_HOST_TEXT(Fault, OrrUtilZoneGetName(zone));
+    const std::string name = HostAnswers::zoneName(zone);
     return m_numbered ? std::to_string(zone) + ": " + name : name;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/sdk/DataSetQueries.h"
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
 #include "platform/toolbox/StyleValue.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace sdk {
@@ -30,39 +32,9 @@ int styleVar(const toolbox::StringList& path)
                                                                                                : 0;
 }
 
-toolbox::Set enabledOf(bool (*enabled)(long, int), int count, long frameUniqueID)
-{
-    toolbox::Set set;
-    for (int i = 1; i <= count; ++i)
-        if (HostCall::value("enabled zone or variable (OrrUtilFrame...IsEnabled)", false,
-                            [&] { return enabled(frameUniqueID, i); }))
-            set.add(i);
-    return set;
-}
-
-int numVars()
-{
-    return ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumVars());
-}
-
-long frameID()
-{
-    return ORRERY_HOST_CALL(0L, OrrUtilFrameGetUniqueID());
-}
-
-PlotType_e plotTypeNow()
-{
-    return ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
-}
-
 toolbox::Set enabledVars()
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameID());
-}
-
-std::string varName(int var)
-{
-    return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var));
+    return HostAnswers::enabledVars(HostAnswers::frameUniqueID());
 }
 
 std::vector<int> axisVars(PlotType_e plotType)
@@ -90,12 +62,10 @@ std::vector<int> candidates(PlotType_e plotType, bool withAxisVars)
     return free;
 }
 
-// Asks the host about this one variable, not about all of them.
+// The dialogs that check a variable list them all as well: one question per variable.
 bool isEnabledVar(int var)
 {
-    const long frame = frameID();
-    return var >= 1 && var <= numVars()
-           && HostCall::value("OrrUtilFrameVarIsEnabled", false, [&] { return OrrUtilFrameVarIsEnabled(frame, var); });
+    return enabledVars().contains(var);
 }
 
 // Velocity components as writers name them, lower case and without separators
@@ -109,38 +79,48 @@ bool isConstant(int var)
     return !ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(var, &min, &max)) || min == max;
 }
 
-std::string lowerCase(std::string text)
+// The name as it is matched: lower case, without the separators _, - and blank
+// (velocity_X, vel_x, Vx, velocityX). False for a name longer than longest once
+// matched, which can be none of the wanted ones; data sets hold thousands of
+// variables with long names.
+bool matchedForm(const std::string& name, size_t longest, std::string& form)
 {
-    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return char(std::tolower(c)); });
-    return text;
-}
-
-// The first enabled variable whose name is one of the given (lower-case)
-// names, ignoring case and the separators _, - and blank; 0 when there is none.
-int enabledVarNamed(std::initializer_list<const char*> names)
-{
-    for (int var : enabledVars()) {
-        std::string name = lowerCase(varName(var));
-        name.erase(std::remove_if(name.begin(), name.end(), [](char c) { return c == '_' || c == ' ' || c == '-'; }),
-                   name.end());
-        for (const char* wanted : names)
-            if (name == wanted)
-                return var;
+    form.clear();
+    for (const char c : name) {
+        if (c == '_' || c == ' ' || c == '-')
+            continue;
+        if (form.size() == longest)
+            return false;
+        form.push_back(char(std::tolower(static_cast<unsigned char>(c))));
     }
-    return 0;
+    return true;
 }
 
-// One enabled variable per component, each found by its names; empty unless
-// every component was found and no variable serves two.
+// One enabled variable per component, the first whose name is one of the
+// component's (lower-case) names; empty unless every component was found and no
+// variable serves two. The names are read in one pass.
 std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const char*>> components)
 {
-    std::vector<int> vars;
-    for (const auto& names : components) {
-        const int var = enabledVarNamed(names);
-        if (var == 0 || std::count(vars.begin(), vars.end(), var))
-            return {};
-        vars.push_back(var);
+    size_t longest = 0;
+    for (const auto& names : components)
+        for (const char* wanted : names)
+            longest = std::max(longest, std::strlen(wanted));
+    std::vector<int> vars(components.size(), 0);
+    std::string form;
+    for (int var : enabledVars()) {
+        if (!matchedForm(HostAnswers::varName(var), longest, form))
+            continue;
+        size_t component = 0;
+        for (const auto& names : components) {
+            if (vars[component] == 0 && std::find(names.begin(), names.end(), form) != names.end())
+                vars[component] = var;
+            ++component;
+        }
     }
+    std::vector<int> distinct = vars;
+    std::sort(distinct.begin(), distinct.end());
+    if (distinct.front() == 0 || std::adjacent_find(distinct.begin(), distinct.end()) != distinct.end())
+        return {};
     return vars;
 }
 
@@ -148,12 +128,12 @@ std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const cha
 
 toolbox::Set getEnabledZonesForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameZoneIsEnabled, ORRERY_HOST_CALL(0, OrrUtilDataSetGetNumZones()), frameUniqueID);
+    return HostAnswers::enabledZones(frameUniqueID);
 }
 
 toolbox::Set getEnabledVarsForFrame(long frameUniqueID)
 {
-    return enabledOf(OrrUtilFrameVarIsEnabled, numVars(), frameUniqueID);
+    return HostAnswers::enabledVars(frameUniqueID);
 }
 
 bool getValidVectorVarCandidates(PlotType_e plotType, int& u, int& v, int& w)
@@ -193,7 +173,7 @@ bool getValidRGBVarCandidates(PlotType_e plotType, int& r, int& g, int& b)
 
 bool okToTurnOnVectorLayer(PlotType_e plotType)
 {
-    if (!isFieldPlot(plotType) || plotTypeNow() != plotType)
+    if (!isFieldPlot(plotType) || HostAnswers::plotType() != plotType)
         return false;
     std::vector<int> vars;
     if (plotType == PlotType_ThreeD)
@@ -230,7 +210,7 @@ void autoAssignScatterVariable()
     const toolbox::StringList path{"GlobalScatter", "Var"};
     if (isEnabledVar(styleVar(path)))
         return;
-    const std::vector<int> vars = candidates(plotTypeNow(), true);
+    const std::vector<int> vars = candidates(HostAnswers::plotType(), true);
     if (vars.empty())
         return;
     const toolbox::StyleValue value(path);

@@ -1,4 +1,5 @@
 #include "platform/sdk/StateChangeEventObservable.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace sdk {
@@ -12,6 +13,8 @@ StateChangeEventObservable& StateChangeEventObservable::getInstance()
 
 void StateChangeEventObservable::emitStateChange(const StateChangeEventInterface& event)
 {
+    // Before any listener asks the host again.
+    HostAnswers::forget();
     m_signal(event);
 }
 

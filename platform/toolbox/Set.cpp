@@ -34,6 +34,11 @@ void Set::remove(int member)
 
 bool Set::contains(int member) const
 {
+    // Members are distinct and start at 1, so the one at member - 1 is member
+    // itself exactly when every smaller index is in too: the usual case of all
+    // zones or variables, asked about one by one.
+    if (member >= 1 && size_t(member) <= m_members.size() && m_members[size_t(member - 1)] == member)
+        return true;
     return std::binary_search(m_members.begin(), m_members.end(), member);
 }
 

@@ -1,4 +1,5 @@
 #include "platform/toolbox/StyleValue.h"
+#include <unordered_map>
 #include "platform/common/HostCall.h"
 #include "platform/kernel/OrrUtil.h"
 #include "platform/toolbox/ArgList.h"
@@ -21,6 +22,20 @@ StringList namesUpToNull(std::initializer_list<const char*> names)
 
 // Names no style value: a host refuses a path that holds it.
 const long UnknownNameID = -2;
+
+// A host keeps one identifier per name for the life of the process, so each name
+// is asked once; a failed question is asked again next time.
+long nameID(const std::string& name)
+{
+    static std::unordered_map<std::string, long> known;
+    const auto it = known.find(name);
+    if (it != known.end())
+        return it->second;
+    const long id = ORRERY_HOST_CALL(UnknownNameID, OrrUtilStyleNameGetID(name.c_str()));
+    if (id != UnknownNameID)
+        known.emplace(name, id);
+    return id;
+}
 
 GetValueReturnCode_e get(const ArgList& args)
 {
@@ -61,7 +76,7 @@ void StyleValue::assignNames(const StringList& names)
 {
     m_names = names;
     for (const std::string& name : names)
-        m_macroIDs.push_back(ORRERY_HOST_CALL(UnknownNameID, OrrUtilStyleNameGetID(name.c_str())));
+        m_macroIDs.push_back(nameID(name));
 }
 
 void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2, const char* n3, const char* n4,
@@ -69,7 +84,7 @@ void StyleValue::initMacroIDsfromStyleValueNames(const char* n1, const char* n2,
                                                  RawArray<long>& ids) const
 {
     for (const std::string& name : namesUpToNull({n1, n2, n3, n4, n5, n6, n7}))
-        ids.push_back(ORRERY_HOST_CALL(UnknownNameID, OrrUtilStyleNameGetID(name.c_str())));
+        ids.push_back(nameID(name));
 }
 
 void StyleValue::setupGetValueArgList(const RawArray<long>& ids, long first, long second, ArgList& args) const

@@ -3,9 +3,8 @@
 #include <boost/make_shared.hpp>
 #include "framework/StateChangeDependentRelevance.h"
 #include <QtGlobal>
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace dialogs {
@@ -18,7 +17,7 @@ void AxisVariableSelectDialog::AxisVarAssignment::assignVariables(PropertyAbstra
 VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
 {
     sdk::AppLock lock(sdk::AppLock::ImplicitMacroRecording_Allow);
-    const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
+    const PlotType_e plotType = sdk::HostAnswers::plotType();
     const char* const root = plotType == PlotType_TwoD     ? "TwoDAxis"
                              : plotType == PlotType_ThreeD ? "ThreeDAxis"
                                                            : nullptr;
@@ -40,7 +39,7 @@ VariableSelectDialog* AxisVariableSelectDialog::getInstance(QWidget& parent)
 
 bool AxisVariableSelectDialog::frameShowsFieldPlot(const std::function<PlotType_e()>& plotType)
 {
-    if (ORRERY_HOST_CALL(0, OrrUtilPageGetCount()) < 1 || ORRERY_HOST_CALL(0, OrrUtilFrameGetCount()) < 1)
+    if (sdk::HostAnswers::pageCount() < 1 || sdk::HostAnswers::frameCount() < 1)
         return false;
     const PlotType_e type = plotType();
     return type == PlotType_TwoD || type == PlotType_ThreeD;
@@ -50,7 +49,7 @@ boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> AxisVariab
 {
     static const boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance =
         boost::make_shared<sdk::ui::propertymanager::StateChangeDependentRelevance>(
-            [] { return frameShowsFieldPlot(OrrUtilFrameGetPlotType); });
+            [] { return frameShowsFieldPlot(sdk::HostAnswers::plotType); });
     return relevance;
 }
 

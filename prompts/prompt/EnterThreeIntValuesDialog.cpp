@@ -68,7 +68,8 @@ EnterThreeIntValuesDialog::EnterThreeIntValuesDialog(QWidget& parent, std::strin
     : QtDialogAbstract(parent, relevance()),
       m_impl(new Impl(*this, title, value1, value2, value3, {label1, label2, label3}, {minimum1, minimum2, minimum3}))
 {
-    setHelpAction(new common::LaunchHelpAction(helpPage, *this));
+    // A caller without a page of its own still gets one that explains the fields.
+    setHelpAction(new common::LaunchHelpAction(helpPage.empty() ? "enter_three_integers.html" : helpPage, *this));
 }
 
 void EnterThreeIntValuesDialog::retranslate()

@@ -19,7 +19,7 @@ class ORRERY_PROMPTS_EXPORT EnterThreeIntValuesDialog : public common::QtDialogA
 public:
     /// The first call fixes everything. Later calls refresh nothing: a live dialog
     /// is returned as the user left it (see SingleInstanceDialog). \a title and the
-    /// labels are UTF-8.
+    /// labels are UTF-8. An empty \a helpPage opens the prompt's own page.
     static EnterThreeIntValuesDialog* getInstance(QWidget& parent, long value1, long value2, long value3,
                                                   std::string const& title, std::string const& helpPage,
                                                   std::string label1, std::string label2, std::string label3,

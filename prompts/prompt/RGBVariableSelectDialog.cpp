@@ -2,9 +2,8 @@
 
 #include <QtGlobal>
 #include "core/property/PropertyAbstract.h"
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace dialogs {
@@ -17,7 +16,7 @@ void RGBVariableSelectDialog::RGBVarAssignment::assignVariables(PropertyAbstract
     int r = 0, g = 0, b = 0;
     // Channels without a candidate get 0, which the lists then replace by a
     // listed variable.
-    sdk::getValidRGBVarCandidates(ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType()), r, g, b);
+    sdk::getValidRGBVarCandidates(sdk::HostAnswers::plotType(), r, g, b);
     var1.setValue(r);
     var2.setValue(g);
     var3.setValue(b);

@@ -8,12 +8,11 @@
 #include "framework/ButtonBinding.h"
 #include "framework/FontComboBoxPropertyBinding.h"
 #include "framework/LaunchHelpAction.h"
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ScatterSizeFontPropertiesManager.h"
 #include "framework/StyleSetDialogParts.h"
 #include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
 #include "ui_ScatterSizeFont.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace dialogs {
@@ -105,7 +104,7 @@ void ScatterSizeFontDialog::retranslate()
 
 void ScatterSizeFontDialog::setDialogForPlotType()
 {
-    const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
+    const PlotType_e plotType = sdk::HostAnswers::plotType();
     const bool fieldPlot = plotType == PlotType_TwoD || plotType == PlotType_ThreeD;
     setWindowTitle(fieldPlot ? QCoreApplication::translate("ScatterSizeFont", "Scatter Size/Font")
                              : QCoreApplication::translate("ScatterSizeFont", "Symbol Font"));

@@ -20,6 +20,7 @@
 #include "platform/sdk/StateChangeEventInterface.h"
 #include "framework/SharedRelevance.h"
 #include "prompts/propertymanager/ScatterSizeFontPropertiesGenerated.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace dialogs {
@@ -124,7 +125,7 @@ struct ScatterSizeFontPropertiesManager::Impl
 
     void setPlotType()
     {
-        const PlotType_e plotType = ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType());
+        const PlotType_e plotType = sdk::HostAnswers::plotType();
         if (plotType == plotTypeProperty->getValue())
             return;
         if (plotType == PlotType_ThreeD || plotType == PlotType_TwoD) {

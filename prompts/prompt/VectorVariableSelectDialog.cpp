@@ -5,10 +5,10 @@
 #include "core/property/PropertyAbstract.h"
 #include "framework/StateChangeDependentRelevance.h"
 #include <QtGlobal>
-#include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/AppLock.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "prompts/prompt/AxisVariableSelectDialog.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery {
 namespace dialogs {
@@ -51,7 +51,7 @@ VariableSelectDialog* VectorVariableSelectDialog::getInstance(QWidget& parent, P
 
 boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> VectorVariableSelectDialog::relevance()
 {
-    static const std::function<PlotType_e()> plotType = OrrUtilFrameGetPlotType;
+    static const std::function<PlotType_e()> plotType = sdk::HostAnswers::plotType;
     static const boost::shared_ptr<const sdk::ui::propertymanager::RelevanceInterface> relevance =
         boost::make_shared<sdk::ui::propertymanager::StateChangeDependentRelevance>(
             [] { return AxisVariableSelectDialog::frameShowsFieldPlot(plotType); });

@@ -7,12 +7,11 @@
 #include "framework/FieldPlotTypeDependentRelevance.h"
 #include "framework/InvertingRelevance.h"
 #include "framework/OnIdleAfterStateChangeActionPerformer.h"
-#include "platform/common/HostCall.h"
-#include "platform/kernel/OrrUtil.h"
 #include "platform/sdk/DataSetQueries.h"
 #include "platform/sdk/StateChangeEventInterface.h"
 #include "framework/SharedRelevance.h"
 #include "prompts/propertymanager/RGBColorOptsPropertiesGenerated.h"
+#include "platform/sdk/HostAnswers.h"
 
 namespace orrery::sdk::ui::propertymanager {
 
@@ -104,7 +103,7 @@ void RGBColorOptsPropertiesManager::checkAndAssignRGBVars()
     int r = 0, g = 0, b = 0;
     // The candidates are taken even when the host found none: channels it
     // could not fill become unassigned rather than keep invalid variables.
-    getValidRGBVarCandidates(ORRERY_HOST_CALL(PlotType_Sketch, OrrUtilFrameGetPlotType()), r, g, b);
+    getValidRGBVarCandidates(sdk::HostAnswers::plotType(), r, g, b);
     try {
         generated.redVar()->setValue(r);
         generated.greenVar()->setValue(g);

@@ -1,8 +1,10 @@
 #include <QSpinBox>
 #include "tests/prompts/prompt/DialogTestSupport.h"
+#include "framework/HelpViewer.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
 
 using namespace dialogtest;
+using orrery::dialogs::common::HelpViewer;
 
 namespace {
 
@@ -84,6 +86,26 @@ TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndPositiveLowerLimitsOfTheFi
     EXPECT_EQ(dialog->value2(), 20);
     EXPECT_EQ(spin(*dialog, 2)->value(), 20);
     EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);
+}
+
+TEST_F(EnterThreeIntValuesDialogTest, HelpOpensTheCallersPageOrElseThePromptsOwn)
+{
+    EnterThreeIntValuesDialog* dialog =
+        EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Zone Range", "", "&First", "&Last", "S&tep", 1, 1, 1);
+    user::open(*dialog);
+    user::press(*dialog, QDialogButtonBox::Help);
+    HelpViewer* viewer = HelpViewer::of(*dialog);
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_TRUE(viewer->pageFound()) << viewer->text().toStdString();
+    EXPECT_FALSE(viewer->text().contains("Help not available"));
+    EXPECT_TRUE(viewer->text().contains("three whole numbers")) << viewer->text().toStdString();
+    user::press(*dialog, QDialogButtonBox::Cancel);
+    delete dialog;
+
+    dialog = rangePrompt();
+    user::open(*dialog);
+    user::press(*dialog, QDialogButtonBox::Help);
+    EXPECT_EQ(HelpViewer::of(*dialog)->page(), "select_variable.html");
 }
 
 TEST_F(EnterThreeIntValuesDialogTest, UsableOnlyWhileThereIsADataSet)

@@ -25,8 +25,9 @@ TEST_F(HelpPagesTest, EveryPageTheDialogsNameShipsWithATitleAndContent)
         delete dialog;
     }
     EXPECT_EQ(pages, (std::set<std::string>{"anchor_alignment.html", "choose_loader.html", "enter_ascii_character.html",
-                                            "rgb_coloring_options.html", "scatter_size_font.html", "select_color.html",
-                                            "select_mapping_zone.html", "select_variable.html", "symbol_font.html"}));
+                                            "enter_three_integers.html", "rgb_coloring_options.html",
+                                            "scatter_size_font.html", "select_color.html", "select_mapping_zone.html",
+                                            "select_variable.html", "symbol_font.html"}));
     for (const std::string& page : pages) {
         SCOPED_TRACE(page);
         EXPECT_TRUE(QFile::exists(":/help/" + QString::fromStdString(page)));
