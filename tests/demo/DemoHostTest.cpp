@@ -8,68 +8,27 @@
 #include <QImage>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QUrl>
 #include "demo/window/MainWindow.h"
 #include "demo/session/Session.h"
-#include "demo/scene/HostPlotView.h"
 #include "demo/session/RecentFiles.h"
 #include "demo/window/WindowLayout.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "platform/sdk/AppLock.h"
-#include "tests/support/RecordingDevice.h"
+#include "tests/demo/HostPictures.h"
 #include "tests/support/TestSupport.h"
 
+using namespace hostpictures;
 using orrery::sdk::AppLock;
 using testsupport::Kernel;
 using testsupport::SampleKernelTest;
 using testsupport::styleValue;
 
 namespace {
-
-QRgb basic(int index)
-{
-    unsigned char r, g, b;
-    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
-    return qRgb(r, g, b);
-}
-
-int pixelsOf(const QImage& image, QRgb colour)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += (image.pixel(x, y) & 0xffffff) == (colour & 0xffffff);
-    return count;
-}
-
-// Colours drawn that are neither grey nor one of the basic colours: only RGB or
-// multi colouring draws them.
-int blendedColours(const testsupport::Drawn& drawn)
-{
-    int count = 0;
-    for (const QRgb p : drawn.colours) {
-        const bool grey = qRed(p) == qGreen(p) && qGreen(p) == qBlue(p);
-        bool basicColour = false;
-        for (int i = 0; i < 8; ++i)
-            basicColour |= (p & 0xffffff) == (basic(i) & 0xffffff);
-        count += !grey && !basicColour;
-    }
-    return count;
-}
-
-testsupport::Drawn drawn(const HostPlotView& view)
-{
-    testsupport::RecordingDevice device(QSize(400, 300));
-    QPainter painter(&device);
-    view.render(painter, QRectF(0, 0, 400, 300));
-    painter.end();
-    return device.record();
-}
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {
@@ -94,11 +53,11 @@ TEST_F(DemoHost, ThePlotIsDrawnAnewAfterEachStateChangeAndShowsWhatTheStyleSays)
 {
     HostPlotView view;
     view.resize(400, 300);
-    const QRgb red = basic(1);
+    const QRgb red = basicColour(1);
     const QImage black = shown(view);
     const int draws = view.drawCount();
     EXPECT_EQ(pixelsOf(black, red), 0);
-    EXPECT_GT(pixelsOf(black, basic(0)), 0);
+    EXPECT_GT(pixelsOf(black, basicColour(0)), 0);
     shown(view);
     EXPECT_EQ(view.drawCount(), draws) << "a repaint without a change reuses the picture";
 
@@ -112,9 +71,9 @@ TEST_F(DemoHost, ThePlotIsDrawnAnewAfterEachStateChangeAndShowsWhatTheStyleSays)
     Kernel::setStyle({"GlobalRGB", "GreenChannelVar"}, 5L);
     Kernel::setStyle({"GlobalRGB", "BlueChannelVar"}, 2L);
     Kernel::setStyle({"GlobalRGB", "RangeMax"}, 400.0);
-    EXPECT_EQ(blendedColours(drawn(view)), 0);
+    EXPECT_EQ(mappedColours(drawn(view)), 0);
     Kernel::setStyle({"FieldMap", "Mesh", "Color"}, -6L, 2);
-    EXPECT_GT(blendedColours(drawn(view)), 0);
+    EXPECT_GT(mappedColours(drawn(view)), 0);
 
     // Scatter symbols sized by a variable grow with the multiplier.
     Kernel::setStyle({"FieldMap", "Scatter", "Show"}, true, 1);

@@ -4,44 +4,25 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
-#include <QPainter>
 #include <QTemporaryDir>
 #include "demo/launchers/AxisTitlesDialog.h"
 #include "demo/common/DemoUser.h"
 #include "demo/launchers/DialogCatalog.h"
 #include "demo/window/MainWindow.h"
 #include "demo/window/PlotExport.h"
-#include "demo/scene/HostPlotView.h"
 #include "host/kernel/DataSet.h"
 #include "host/kernel/Kernel.h"
 #include "host/kernel/OrrUtilHost.h"
-#include "tests/support/RecordingDevice.h"
+#include "tests/demo/HostPictures.h"
 #include "tests/support/TestSupport.h"
 
-using testsupport::Drawn;
+using namespace hostpictures;
 using testsupport::Kernel;
-using testsupport::RecordingDevice;
 using testsupport::SampleKernelTest;
 
 namespace {
 
 const QSize Size(800, 600);
-
-Drawn drawn(const HostPlotView& view)
-{
-    RecordingDevice device(Size);
-    QPainter painter(&device);
-    view.render(painter, QRectF(QPointF(0, 0), QSizeF(Size)));
-    painter.end();
-    return device.record();
-}
-
-QRgb colourOf(int index)
-{
-    unsigned char r, g, b;
-    OrrUtilColorMapGetBasicColorRGB(index, &r, &g, &b);
-    return qRgb(r, g, b);
-}
 
 class Plot : public SampleKernelTest
 {
@@ -98,7 +79,7 @@ TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
 
     const QString picked = run(window, "Color Chooser...");
     EXPECT_NE(-1, picked.indexOf("zone 2")) << picked.toStdString();
-    EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
+    EXPECT_EQ(1u, drawn(view).colours.count(basicColour(12)));
 
     run(window, "Color Chooser, Multi Color...");
     const Drawn ramp = drawn(view);
@@ -106,7 +87,7 @@ TEST_F(Plot, EachDialogsAnswerChangesWhatThePlotDraws)
 
     // Each answer was one undo step: undoing the colour brings back the custom colour.
     OrrUtilUndoPerform();
-    EXPECT_EQ(1u, drawn(view).colours.count(colourOf(12)));
+    EXPECT_EQ(1u, drawn(view).colours.count(basicColour(12)));
 }
 
 TEST_F(Plot, ExportWritesEachFormatAsItSaysAndRefusesWhatItCannotWrite)
@@ -174,19 +155,6 @@ TEST_F(Plot, DataThatCannotBeDrawnIsSaidNotHiddenOrDividedByZero)
     EXPECT_NE(nullptr, drawn(view).textStarting("Nothing to draw: every value of x is beyond"));
 }
 
-// Colours drawn that no basic colour or grey has: a colour map drew them.
-size_t mappedColours(const Drawn& picture)
-{
-    size_t count = 0;
-    for (const QRgb c : picture.colours) {
-        bool basic = qRed(c) == qGreen(c) && qGreen(c) == qBlue(c);
-        for (int i = 0; i < 8; ++i)
-            basic = basic || (c & 0xffffff) == (colourOf(i) & 0xffffff);
-        count += !basic;
-    }
-    return count;
-}
-
 TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
 {
     MainWindow window;
@@ -199,9 +167,9 @@ TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
     EXPECT_EQ(QString("&Automatic (Z)"), automatic->text());
     for (const QAction* action : colourBy->actions())
         EXPECT_FALSE(action->isChecked()) << action->text().toStdString();
-    EXPECT_EQ(0u, mappedColours(drawn(view)));
+    EXPECT_EQ(0, mappedColours(drawn(view)));
     automatic->trigger();
-    EXPECT_GT(mappedColours(drawn(view)), 5u) << "Automatic colours the points";
+    EXPECT_GT(mappedColours(drawn(view)), 5) << "Automatic colours the points";
     Q_EMIT colourBy->aboutToShow();
     EXPECT_TRUE(colourBy->actions().front()->isChecked());
 
@@ -209,7 +177,7 @@ TEST_F(Plot, TheKeyAndTheColouringSayWhatIsDrawn)
     run(window, "ASCII Character...");
     const Drawn symbols = drawn(view);
     EXPECT_GE(symbols.shapes, pointsInRange(1, 1000000, 1));
-    EXPECT_GT(mappedColours(symbols), 5u);
+    EXPECT_GT(mappedColours(symbols), 5);
     for (int zone = 1; zone <= OrrUtilDataSetGetNumZones(); ++zone)
         EXPECT_EQ(-1L, testsupport::styleValue<long>({"FieldMap", "Scatter", "Color"}, zone));
 }
@@ -286,13 +254,7 @@ TEST_F(Plot, AnXYLinePlotDrawsSeveralYVariablesEachInItsColourWithALegend)
         QPainter painter(&image);
         return view.render(painter, QRectF(QPointF(0, 0), QSizeF(Size)));
     };
-    auto red = [&] {
-        int count = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                count += (image.pixel(x, y) & 0xffffff) == (colourOf(1) & 0xffffff);
-        return count;
-    };
+    auto red = [&] { return pixelsOf(image, basicColour(1)); };
     picture();
     EXPECT_EQ(0, red());
     toggle("Temperature");

@@ -202,11 +202,6 @@ TEST_F(Session, LoadLinesNamingWhatIsNotAFileOfDataAreRefusedByWhatTheyNameBefor
         EXPECT_NE(result.message.find(odd.says), std::string::npos) << result.message;
         EXPECT_EQ(kernelSnapshot(), untouched) << odd.path;
     }
-    // The same refusals reach File > Open.
-    std::string error;
-    auto csv = orrery::sdk::DataLoaderRepository::getInstance().loaderNamed("CSV table");
-    EXPECT_FALSE(FileLoad::load(*csv, QDir(base).filePath("fifo.csv").toStdString(), error));
-    EXPECT_NE(error.find("named pipe"), std::string::npos) << error;
 }
 
 TEST_F(Session, ADeclaredSizeIsComparedBeforeAnyByteIsRead)

