@@ -171,13 +171,23 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
             break;
         const QPointF centre(column.left() + Swatch, y + row / 2);
         const PointColours& colours = zone.scatter ? zone.scatterColours : zone.meshColours;
-        QColor colour = colours.varies() ? QColor(ColourRamp::at(m_scene.contour.map, 0.7)) : QColor(colours.fixed());
-        if (zone.faded)
-            colour = QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 4, 255 - (255 - colour.value()) / 4);
+        const auto shown = [&zone](QColor colour) {
+            return zone.faded
+                       ? QColor::fromHsv(colour.hsvHue(), colour.hsvSaturation() / 4, 255 - (255 - colour.value()) / 4)
+                       : colour;
+        };
+        QBrush fill(shown(colours.ramped() ? ColourRamp::at(m_scene.contour.map, 0.7) : colours.fixed()));
+        if (colours.varies() && !colours.ramped()) { // red, green and blue from variables: all three
+            QLinearGradient spread(centre.x() - Swatch / 2, 0, centre.x() + Swatch / 2, 0);
+            spread.setColorAt(0.0, shown(Qt::red));
+            spread.setColorAt(0.5, shown(Qt::green));
+            spread.setColorAt(1.0, shown(Qt::blue));
+            fill = QBrush(spread);
+        }
         if (zone.scatter)
-            PlotSymbol(m_scene.symbol, m_font).draw(painter, centre, Swatch * 0.8, colour);
+            PlotSymbol(m_scene.symbol, m_font).draw(painter, centre, Swatch * 0.8, fill);
         else
-            painter.fillRect(QRectF(centre.x() - Swatch / 2, centre.y() - Swatch / 2, Swatch, Swatch), colour);
+            painter.fillRect(QRectF(centre.x() - Swatch / 2, centre.y() - Swatch / 2, Swatch, Swatch), fill);
         painter.setPen(zone.faded ? Qt::gray : Qt::black);
         painter.drawText(QRectF(column.left() + 2 * Swatch + 6, y, column.width() - 2 * Swatch - 6, row),
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, zone.name);

@@ -17,15 +17,15 @@ PlotSymbol::PlotSymbol(const QString& character, const QFont& font)
     m_glyph = toUnit.map(m_glyph);
 }
 
-void PlotSymbol::draw(QPainter& painter, const QPointF& centre, double radius, const QColor& colour) const
+void PlotSymbol::draw(QPainter& painter, const QPointF& centre, double radius, const QBrush& fill) const
 {
     if (m_glyph.isEmpty()) {
-        painter.setPen(QPen(colour.darker(160), 1));
-        painter.setBrush(colour);
+        painter.setPen(QPen(fill.gradient() ? QColor(Qt::darkGray) : fill.color().darker(160), 1));
+        painter.setBrush(fill);
         painter.drawEllipse(centre, radius, radius);
         return;
     }
     QTransform place;
     place.translate(centre.x(), centre.y()).scale(radius, radius);
-    painter.fillPath(place.map(m_glyph), colour);
+    painter.fillPath(place.map(m_glyph), fill);
 }

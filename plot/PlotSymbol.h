@@ -1,4 +1,5 @@
 #pragma once
+#include <QBrush>
 #include <QFont>
 #include <QPainterPath>
 
@@ -11,7 +12,8 @@ class PlotSymbol
 public:
     PlotSymbol(const QString& character, const QFont& font);
 
-    void draw(QPainter& painter, const QPointF& centre, double radius, const QColor& colour) const;
+    // fill: a colour, or a gradient (a disc then has a grey rim).
+    void draw(QPainter& painter, const QPointF& centre, double radius, const QBrush& fill) const;
 
 private:
     QPainterPath m_glyph; // centred on the origin, one unit high; empty for a disc

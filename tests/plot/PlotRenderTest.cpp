@@ -114,6 +114,35 @@ TEST(PlotRender, ALogAxisTicksPowersOfTenAndTheColourBarAndKeyNameWhatIsDrawn)
     EXPECT_FALSE(linear.drewText("100")) << "a linear axis of 1 to 10000 ticks in thousands";
 }
 
+TEST(PlotRender, TheKeyShowsAZoneColouredByRedGreenAndBlueInAllThreeNotInOneColourOfTheMap)
+{
+    Figure figure;
+    figure.x = {0.0, 1.0};
+    figure.y = {0.0, 1.0};
+    PlotScene& scene = figure.scene;
+    figure.make(0, 1, 0, 1);
+    PointColours::Channels channels;
+    channels.values[0] = figure.x.data();
+    scene.zones[0].meshColours = PointColours::rgb(qRgb(0, 0, 0), channels);
+    PlotScene::Zone other = scene.zones[0];
+    other.name = "Other";
+    other.meshColours = PointColours(qRgb(0, 0, 0));
+    scene.zones.push_back(other); // told apart by colour: the key lists the zones
+    QImage image(400, 300, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const PlotGeometry geometry = render(scene, PlotViewpoint(), painter, QRectF(image.rect()));
+    painter.end();
+    bool seen[3] = {false, false, false};
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = int(geometry.plot.right()) + 2; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            seen[0] |= c.red() > 200 && c.green() < 80 && c.blue() < 80;
+            seen[1] |= c.green() > 200 && c.red() < 80 && c.blue() < 80;
+            seen[2] |= c.blue() > 200 && c.red() < 80 && c.green() < 80;
+        }
+    EXPECT_TRUE(seen[0] && seen[1] && seen[2]) << seen[0] << seen[1] << seen[2];
+}
+
 // Points at 1.5 to 3 on a log X axis and at their logarithms on a linear one:
 // the general path and the direct one put each on the same pixel, however
 // coloured, and red, green and blue keep every shade a point has.
