@@ -49,10 +49,13 @@ const toolbox::Set& enabled(std::map<long, toolbox::Set>& kept, long frameUnique
 
 // A number out of range is asked every time, and not kept.
 template <typename Ask>
-std::string name(std::vector<std::optional<std::string>>& kept, int number, int count, Ask&& ask)
+const std::string& name(std::vector<std::optional<std::string>>& kept, int number, int count, Ask&& ask)
 {
-    if (number < 1 || number > count)
-        return ask();
+    if (number < 1 || number > count) {
+        static std::string unkept;
+        unkept = ask();
+        return unkept;
+    }
     if (kept.size() < size_t(count))
         kept.resize(size_t(count));
     std::optional<std::string>& slot = kept[size_t(number - 1)];
@@ -117,6 +120,11 @@ std::string HostAnswers::zoneName(int zone)
 }
 
 std::string HostAnswers::varName(int var)
+{
+    return keptVarName(var);
+}
+
+const std::string& HostAnswers::keptVarName(int var)
 {
     return name(answers().varNames, var, numVars(), [var] { return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var)); });
 }
