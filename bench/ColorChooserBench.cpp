@@ -52,7 +52,10 @@ PlainForm plainChooser(bool styleSheetPerSwatch)
     ColorChooserDialog* dialog = ColorChooserDialog::getInstance(parent, true);
     dialog->show();
     settle();
-    return PlainForm([styleSheetPerSwatch](QDialog& plain) { setupPlainChooser(plain, styleSheetPerSwatch); }, *dialog);
+    PlainForm captured([styleSheetPerSwatch](QDialog& plain) { setupPlainChooser(plain, styleSheetPerSwatch); },
+                       *dialog);
+    benchhost::announceChange(); // the dialogs measured next ask the host afresh
+    return captured;
 }
 
 void showPlainChoosers(benchmark::State& state, bool styleSheetPerSwatch)

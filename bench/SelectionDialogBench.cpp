@@ -52,7 +52,9 @@ PlainForm plainFormOf(Dialog* (*get)(QWidget&))
     Dialog* dialog = get(parent);
     dialog->show();
     settle();
-    return PlainForm(benchform::formSetup<Form>(), *dialog);
+    PlainForm captured(benchform::formSetup<Form>(), *dialog);
+    benchhost::announceChange(); // the prompts measured next ask the host afresh
+    return captured;
 }
 
 ZoneSelectDialog* zonePrompt(QWidget& parent)
@@ -62,9 +64,7 @@ ZoneSelectDialog* zonePrompt(QWidget& parent)
 
 PlainForm plainZoneList()
 {
-    PlainForm plain = plainFormOf<Ui_ZoneSelect>(zonePrompt);
-    benchhost::announceChange();
-    return plain;
+    return plainFormOf<Ui_ZoneSelect>(zonePrompt);
 }
 
 void BM_ZonePromptFirstShow(benchmark::State& state)
@@ -158,9 +158,7 @@ VariableSelectDialog* variablePrompt(QWidget& parent)
 
 PlainForm plainCombos()
 {
-    PlainForm plain = plainFormOf<Ui_VariableSelectDialog>(variablePrompt);
-    benchhost::announceChange();
-    return plain;
+    return plainFormOf<Ui_VariableSelectDialog>(variablePrompt);
 }
 
 void BM_PlainCombosFirstShow(benchmark::State& state)
