@@ -1,48 +1,41 @@
 // Cost of the colour chooser: its first show (built fresh) and a later fetch
-// and show of the live dialog, beside a plain dialog of as many tool buttons
-// (64 swatches, 8 multi buttons and RGB) built in the same run. A third
-// figure shows the same plain dialog with one style sheet per swatch, the
-// usual way to colour a button.
+// and show of the live dialog, beside its form on a plain dialog with the
+// swatches as plain tool buttons (64 swatches, 8 multi buttons and RGB, the
+// same texts and tool tips) built in the same run. A third figure colours
+// each plain swatch with a style sheet, the usual way to colour a button.
 #include <memory>
 #include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
-#include <QFrame>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QToolButton>
-#include "platform/common/IdleQueue.h"
 #include "bench/support/BenchHost.h"
+#include "bench/support/PlainForm.h"
 #include "platform/kernel/OrrUtil.h"
 #include "prompts/prompt/ColorChooserDialog.h"
+#include "ui_ColorChooser.h"
 
+using benchform::PlainForm;
+using benchform::settle;
 using orrery::dialogs::prompt::ColorChooserDialog;
 
 namespace {
 
-void settle()
+// The chooser's form with an 8 x 8 grid of plain tool buttons in its frame,
+// named as the chooser names its swatches.
+void setupPlainChooser(QDialog& dialog, bool styleSheetPerSwatch)
 {
-    QCoreApplication::processEvents();
-    orrery::sdk::ui::common::IdleQueue::instance().flush();
-}
-
-// The chooser's widgets without its classes: a framed 8 x 8 grid of tool
-// buttons, a row of nine tool buttons and a Close box.
-void showPlainChooser(QWidget& parent, bool styleSheetPerSwatch)
-{
-    auto* dialog = new QDialog(&parent);
-    auto* layout = new QGridLayout(dialog);
-    auto* frame = new QFrame(dialog);
-    frame->setFrameShape(QFrame::StyledPanel);
+    benchform::formSetup<Ui_ColorChooser>()(dialog);
+    auto* frame = dialog.findChild<QWidget*>("buttonGridFrame");
     auto* frameLayout = new QGridLayout(frame);
     auto* grid = new QWidget(frame);
-    frameLayout->addWidget(grid);
+    frameLayout->addWidget(grid, 0, 0);
     auto* swatches = new QGridLayout(grid);
     swatches->setSpacing(2);
     swatches->setContentsMargins(0, 0, 0, 0);
     for (int i = 0; i < 64; ++i) {
         auto* swatch = new QToolButton(grid);
+        swatch->setObjectName(QString("colorButton_%1").arg(i));
         if (styleSheetPerSwatch) {
             unsigned char r, g, b;
             OrrUtilColorMapGetBasicColorRGB(i, &r, &g, &b);
@@ -50,36 +43,41 @@ void showPlainChooser(QWidget& parent, bool styleSheetPerSwatch)
         }
         swatches->addWidget(swatch, i / 8, i % 8);
     }
-    layout->addWidget(frame, 0, 0);
-    auto* row = new QHBoxLayout;
-    for (int i = 0; i < 9; ++i)
-        row->addWidget(new QToolButton(dialog));
-    layout->addLayout(row, 1, 0);
-    layout->addWidget(new QDialogButtonBox(QDialogButtonBox::Close, dialog), 3, 0);
+}
+
+// The plain chooser showing the chooser's texts, captured once from a shown chooser.
+PlainForm plainChooser(bool styleSheetPerSwatch)
+{
+    QWidget parent;
+    ColorChooserDialog* dialog = ColorChooserDialog::getInstance(parent, true);
     dialog->show();
     settle();
+    PlainForm captured([styleSheetPerSwatch](QDialog& plain) { setupPlainChooser(plain, styleSheetPerSwatch); },
+                       *dialog);
+    benchhost::announceChange(); // the dialogs measured next ask the host afresh
+    return captured;
+}
+
+void showPlainChoosers(benchmark::State& state, bool styleSheetPerSwatch)
+{
+    const PlainForm plain = plainChooser(styleSheetPerSwatch);
+    for (auto _ : state) {
+        auto parent = std::make_unique<QWidget>();
+        plain.show(*parent);
+        state.PauseTiming();
+        parent.reset();
+        state.ResumeTiming();
+    }
 }
 
 void BM_PlainToolButtonsBaseline(benchmark::State& state)
 {
-    for (auto _ : state) {
-        auto parent = std::make_unique<QWidget>();
-        showPlainChooser(*parent, false);
-        state.PauseTiming();
-        parent.reset();
-        state.ResumeTiming();
-    }
+    showPlainChoosers(state, false);
 }
 
 void BM_StyleSheetPerSwatch(benchmark::State& state)
 {
-    for (auto _ : state) {
-        auto parent = std::make_unique<QWidget>();
-        showPlainChooser(*parent, true);
-        state.PauseTiming();
-        parent.reset();
-        state.ResumeTiming();
-    }
+    showPlainChoosers(state, true);
 }
 
 void BM_ColorChooserFirstShow(benchmark::State& state)

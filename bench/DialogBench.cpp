@@ -1,6 +1,7 @@
 // Cost of opening the prompt dialogs: a fresh dialog built and shown for the
 // first time, and a live one fetched again and shown. Each dialog is measured
-// beside a plain QDialog holding as many widgets, built in the same run.
+// beside its own form on a plain QDialog showing the same texts and buttons
+// (bench/support/PlainForm.h), built in the same run.
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -8,37 +9,37 @@
 #include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QElapsedTimer>
-#include <QGridLayout>
-#include <QLabel>
 #include <QProcess>
 #include <QTemporaryDir>
-#include "platform/common/IdleQueue.h"
 #include "bench/support/BenchHost.h"
+#include "bench/support/PlainForm.h"
 #include "platform/loaders/DataLoaderRepository.h"
 #include "prompts/prompt/AnchorAlignmentDialog.h"
 #include "prompts/prompt/ChooseLoaderDialog.h"
 #include "prompts/prompt/EnterASCIICharacterDialog.h"
 #include "prompts/prompt/EnterTextStringDialog.h"
 #include "prompts/prompt/EnterThreeIntValuesDialog.h"
+#include "ui_AnchorAlignment.h"
+#include "ui_ChooseLoader.h"
+#include "ui_EnterASCIICharacter.h"
+#include "ui_EnterTextString.h"
+#include "ui_EnterThreeIntValues.h"
 
 using namespace orrery::dialogs::prompt;
+using benchform::PlainForm;
+using benchform::settle;
 
 namespace {
 
-void settle()
-{
-    QCoreApplication::processEvents();
-    orrery::sdk::ui::common::IdleQueue::instance().flush();
-}
-
 struct TextString
 {
+    using Form = Ui_EnterTextString;
     static QDialog* get(QWidget& parent) { return new EnterTextStringDialog(parent, "Name:", "Frame 1", "", false); }
 };
 struct ThreeInts
 {
+    using Form = Ui_EnterThreeIntValues;
     static QDialog* get(QWidget& parent)
     {
         return EnterThreeIntValuesDialog::getInstance(parent, 1, 10, 1, "Index Range", "", "&Begin", "&End", "&Skip", 1,
@@ -47,6 +48,7 @@ struct ThreeInts
 };
 struct AsciiCharacter
 {
+    using Form = Ui_EnterASCIICharacter;
     static QDialog* get(QWidget& parent)
     {
         return EnterASCIICharacterDialog::getInstance(parent, "A", true, Font_Math);
@@ -54,10 +56,12 @@ struct AsciiCharacter
 };
 struct Anchor
 {
+    using Form = Ui_AnchorAlignment;
     static QDialog* get(QWidget& parent) { return AnchorAlignmentDialog::getInstance(AnchorAlignment_TopLeft, parent); }
 };
 struct Loader
 {
+    using Form = Ui_ChooseLoader;
     static QDialog* get(QWidget& parent)
     {
         return ChooseLoaderDialog::getInstance(
@@ -112,31 +116,34 @@ void BM_ReuseShow(benchmark::State& state)
     }
 }
 
-// A plain dialog with labels in a grid and an OK/Cancel box, widgets in all.
-void showPlainDialog(QWidget& parent, int widgets)
+// The dialog's form showing what the dialog shows, captured once from a shown dialog.
+template <typename D>
+const PlainForm& plainForm()
 {
-    auto* dialog = new QDialog(&parent);
-    auto* grid = new QGridLayout(dialog);
-    auto* box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, dialog);
-    for (int i = 0, labels = widgets - 1 - int(box->findChildren<QWidget*>().size()); i < labels; ++i)
-        grid->addWidget(new QLabel(QString("Label %1").arg(i), dialog), i / 3, i % 3);
-    grid->addWidget(box, grid->rowCount(), 0, 1, 3);
-    dialog->show();
-    settle();
+    static const PlainForm plain = [] {
+        QWidget parent;
+        QDialog* dialog = D::get(parent);
+        dialog->show();
+        settle();
+        PlainForm captured(benchform::formSetup<typename D::Form>(), *dialog);
+        benchhost::announceChange(); // the dialogs measured next ask the host afresh
+        return captured;
+    }();
+    return plain;
 }
 
 template <typename D>
 void BM_PlainDialogBaseline(benchmark::State& state)
 {
-    const int widgets = widgetCount<D>();
+    const PlainForm& plain = plainForm<D>();
     for (auto _ : state) {
         auto parent = std::make_unique<QWidget>();
-        showPlainDialog(*parent, widgets);
+        plain.show(*parent);
         state.PauseTiming();
         parent.reset();
         state.ResumeTiming();
     }
-    state.counters["widgets"] = widgets;
+    state.counters["widgets"] = plain.widgetCount();
 }
 
 #define DIALOG_BENCHMARKS(D)                                                                                           \
@@ -155,36 +162,43 @@ BENCHMARK_TEMPLATE(BM_ReuseShow, Loader)->Unit(benchmark::kMillisecond);
 
 // The first dialog of a process also pays for styles, fonts and the platform's
 // first window. Each figure comes from a process of its own that opens one
-// dialog (or one plain dialog) and exits.
+// dialog (or its form on a plain dialog) and exits. The plain form shows the
+// layout's own texts: what the dialog sets in code is only known once a
+// dialog has been shown, which would warm the process.
 struct ColdStart
 {
     const char* name;
     QDialog* (*get)(QWidget&);
     int (*widgets)();
+    PlainForm::Setup (*form)();
 };
-const ColdStart ColdStarts[] = {{"TextString", TextString::get, widgetCount<TextString>},
-                                {"ThreeInts", ThreeInts::get, widgetCount<ThreeInts>},
-                                {"AsciiCharacter", AsciiCharacter::get, widgetCount<AsciiCharacter>},
-                                {"Anchor", Anchor::get, widgetCount<Anchor>},
-                                {"Loader", Loader::get, widgetCount<Loader>}};
+template <typename D>
+ColdStart coldStart(const char* name)
+{
+    return {name, D::get, widgetCount<D>, benchform::formSetup<typename D::Form>};
+}
+const ColdStart ColdStarts[] = {coldStart<TextString>("TextString"), coldStart<ThreeInts>("ThreeInts"),
+                                coldStart<AsciiCharacter>("AsciiCharacter"), coldStart<Anchor>("Anchor"),
+                                coldStart<Loader>("Loader")};
 
-// In a child process: opens the named dialog, or a plain one of that many
-// widgets, and prints the milliseconds taken.
-int coldStartChild(const QString& what)
+// In a child process: opens the named dialog, or its plain form ("plain:" and
+// the name), and prints the milliseconds taken.
+int coldStartChild(QString what)
 {
     QWidget parent;
     QElapsedTimer timer;
     timer.start();
-    bool isNumber = false;
-    const int widgets = what.toInt(&isNumber);
-    if (isNumber)
-        showPlainDialog(parent, widgets);
-    else
-        for (const ColdStart& c : ColdStarts)
-            if (what == c.name) {
+    const bool plain = what.startsWith("plain:");
+    what.remove("plain:");
+    for (const ColdStart& c : ColdStarts)
+        if (what == c.name) {
+            if (plain)
+                PlainForm(c.form()).show(parent);
+            else {
                 c.get(parent)->show();
                 settle();
             }
+        }
     std::printf("%.3f\n", timer.nsecsElapsed() / 1e6);
     return 0;
 }
@@ -204,10 +218,10 @@ double medianColdStart(const QString& what)
 
 void reportColdStarts()
 {
-    std::printf("%-16s %8s %14s %8s %7s\n", "Cold start", "widgets", "plain dialog", "dialog", "ratio");
+    std::printf("%-16s %8s %14s %8s %7s\n", "Cold start", "widgets", "plain form", "dialog", "ratio");
     for (const ColdStart& c : ColdStarts) {
         const int widgets = c.widgets();
-        const double plain = medianColdStart(QString::number(widgets));
+        const double plain = medianColdStart(QString("plain:") + c.name);
         const double dialog = medianColdStart(c.name);
         std::printf("%-16s %8d %11.2f ms %5.2f ms %7.2f\n", c.name, widgets, plain, dialog, dialog / plain);
     }

@@ -1,6 +1,6 @@
 #include "platform/sdk/DataSetQueries.h"
 #include <algorithm>
-#include <cctype>
+#include <cassert>
 #include <cstring>
 #include <initializer_list>
 #include <string>
@@ -79,40 +79,48 @@ bool isConstant(int var)
     return !ORRERY_HOST_CALL(false, OrrUtilVarGetMinMax(var, &min, &max)) || min == max;
 }
 
+// The longest a wanted name can be.
+const size_t LongestWanted = 9;
+
 // The name as it is matched: lower case, without the separators _, - and blank
 // (velocity_X, vel_x, Vx, velocityX). False for a name longer than longest once
 // matched, which can be none of the wanted ones; data sets hold thousands of
-// variables with long names.
-bool matchedForm(const std::string& name, size_t longest, std::string& form)
+// variables with long names. Only ASCII letters are lowered: the wanted names
+// are ASCII, and a byte of a UTF-8 sequence must stay what it is.
+bool matchedForm(const std::string& name, size_t longest, char (&form)[LongestWanted + 1])
 {
-    form.clear();
+    size_t length = 0;
     for (const char c : name) {
         if (c == '_' || c == ' ' || c == '-')
             continue;
-        if (form.size() == longest)
+        if (length == longest)
             return false;
-        form.push_back(char(std::tolower(static_cast<unsigned char>(c))));
+        form[length++] = c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c;
     }
+    form[length] = '\0';
     return true;
 }
 
 // One enabled variable per component, the first whose name is one of the
 // component's (lower-case) names; empty unless every component was found and no
-// variable serves two. The names are read in one pass.
+// variable serves two. The names are read in one pass, each asked of the host once.
 std::vector<int> varsNamed(std::initializer_list<std::initializer_list<const char*>> components)
 {
     size_t longest = 0;
     for (const auto& names : components)
         for (const char* wanted : names)
             longest = std::max(longest, std::strlen(wanted));
+    assert(longest <= LongestWanted);
     std::vector<int> vars(components.size(), 0);
-    std::string form;
+    char form[LongestWanted + 1];
     for (int var : enabledVars()) {
-        if (!matchedForm(HostAnswers::varName(var), longest, form))
+        if (!matchedForm(HostAnswers::keptVarName(var), longest, form))
             continue;
         size_t component = 0;
         for (const auto& names : components) {
-            if (vars[component] == 0 && std::find(names.begin(), names.end(), form) != names.end())
+            if (vars[component] == 0 && std::any_of(names.begin(), names.end(), [&form](const char* wanted) {
+                    return std::strcmp(wanted, form) == 0;
+                }))
                 vars[component] = var;
             ++component;
         }

@@ -1,4 +1,5 @@
 #include "platform/sdk/HostAnswers.h"
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <vector>
@@ -47,14 +48,18 @@ const toolbox::Set& enabled(std::map<long, toolbox::Set>& kept, long frameUnique
     return kept.emplace(frameUniqueID, std::move(set)).first->second;
 }
 
-// A number out of range is asked every time, and not kept.
+// Sized by the count once, so that going through every name asks no count. A
+// number out of range is asked every time, and not kept.
 template <typename Ask>
-std::string name(std::vector<std::optional<std::string>>& kept, int number, int count, Ask&& ask)
+const std::string& name(std::vector<std::optional<std::string>>& kept, int number, int (*count)(), Ask&& ask)
 {
-    if (number < 1 || number > count)
-        return ask();
-    if (kept.size() < size_t(count))
-        kept.resize(size_t(count));
+    if (kept.empty())
+        kept.resize(size_t(std::max(count(), 0)));
+    if (number < 1 || size_t(number) > kept.size()) {
+        static std::string unkept;
+        unkept = ask();
+        return unkept;
+    }
     std::optional<std::string>& slot = kept[size_t(number - 1)];
     if (!slot)
         slot = ask();
@@ -112,13 +117,18 @@ toolbox::Set HostAnswers::enabledVars(long frameUniqueID)
 
 std::string HostAnswers::zoneName(int zone)
 {
-    return name(answers().zoneNames, zone, numZones(),
+    return name(answers().zoneNames, zone, numZones,
                 [zone] { return ORRERY_HOST_TEXT(Fault, OrrUtilZoneGetName(zone)); });
 }
 
 std::string HostAnswers::varName(int var)
 {
-    return name(answers().varNames, var, numVars(), [var] { return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var)); });
+    return keptVarName(var);
+}
+
+const std::string& HostAnswers::keptVarName(int var)
+{
+    return name(answers().varNames, var, numVars, [var] { return ORRERY_HOST_TEXT(Fault, OrrUtilVarGetName(var)); });
 }
 
 void HostAnswers::forget()

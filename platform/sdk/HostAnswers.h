@@ -29,6 +29,9 @@ public:
     // A null name from the host is shown empty and told once.
     static std::string zoneName(int zone);
     static std::string varName(int var);
+    // The same name, not copied: for going through every variable's name. It
+    // holds until the next name is asked or a change is announced.
+    static const std::string& keptVarName(int var);
 
     // Called for every announcement of a change, before it is passed on.
     static void forget();

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QPixmap>
 #include "framework/LaunchHelpAction.h"
 #include "platform/common/HostCall.h"
 #include "platform/common/SignalConnectionCollection.h"
@@ -112,7 +113,9 @@ ColorChooserDialog::ColorChooserDialog(QWidget& parent)
     auto* grid = new ColorChooserWidget(m_ui->buttonGridFrame);
     frameLayout->addWidget(grid, 0, 0);
     m_connections->add(grid->connectToColorSelectedSignal([this](int colorIndex) { colorSelected(colorIndex); }));
-    m_ui->C1->setIcon(QIcon(multiColorIconPath()));
+    // Through QPixmap, which keeps the decoded image for the next chooser;
+    // an icon made from the path decodes it every time.
+    m_ui->C1->setIcon(QIcon(QPixmap(multiColorIconPath())));
     showToolTips(*m_ui);
 }
 

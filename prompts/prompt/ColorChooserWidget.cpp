@@ -26,7 +26,7 @@ ColorChooserWidget::ColorChooserWidget(QWidget* parent) : QWidget(parent)
         // Named by position, not by colour: host scripts address the grid cell.
         button->setObjectName(QString("colorButton_%1").arg(i));
         button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-        connect(button, SIGNAL(clicked()), this, SLOT(colorButtonTriggered()));
+        connect(button, &QAbstractButton::clicked, this, &ColorChooserWidget::colorButtonTriggered);
         grid->addWidget(button, i / Columns, i % Columns);
     }
     nameSwatches();

@@ -52,7 +52,7 @@ void ColorButtonPropertyBinding::updateWidget()
     const int colorIndex = property().getValue();
     const std::string name = ColorChooserDialog::colorToString(colorIndex, true);
     if (colorIndex < 0 && !name.empty())
-        m_button->setIcon(QIcon(ColorChooserDialog::multiColorIconPath()));
+        m_button->setIcon(QIcon(QPixmap(ColorChooserDialog::multiColorIconPath())));
     else {
         QColor fill(Qt::transparent); // an index the colour map does not know
         if (!name.empty()) {

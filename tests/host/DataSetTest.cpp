@@ -173,6 +173,15 @@ TEST_F(KernelDataSet, VectorCandidatesAreVelocityComponentsAndNeverConstant)
     EXPECT_EQ(std::make_pair(true, Triple{4, 5, 0}), candidates(getValidVectorVarCandidates, PlotType_TwoD));
 }
 
+TEST_F(KernelDataSet, RGBCandidatesAreNamedChannelsWhateverTheirCaseButNoLongerNames)
+{
+    // "Redshift" only begins like a channel; "Grün" is not "green" in any case.
+    DataSet colours("Colours", {"x", "y", "Redshift", "Grün", "BLUE", "g", "R_"});
+    colours.addZone("grid", std::vector<std::vector<double>>(7, {0.0}));
+    Kernel::setDataSet(colours);
+    EXPECT_EQ(std::make_pair(true, Triple{7, 6, 5}), candidates(getValidRGBVarCandidates, PlotType_TwoD));
+}
+
 TEST_F(KernelDataSet, VectorLayerAndRGBChannelsNeedEnabledVariables)
 {
     EXPECT_FALSE(okToTurnOnVectorLayer(PlotType_TwoD));
