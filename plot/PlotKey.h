@@ -17,7 +17,7 @@ public:
     PlotKey(const PlotScene& scene, const QFont& font, double height);
 
     // The room the key needs beside the axes; 0 when there is nothing to explain.
-    double width() const { return m_width; }
+    double columnWidth() const { return m_width; }
     void paint(QPainter& painter, const QRectF& column) const;
 
 private:

@@ -246,7 +246,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     std::unique_ptr<PlotKey> key;
     if (scene.threeD) {
         key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
-        plot = area.adjusted(3 * em, top, -key->width() - 3 * em, -bottom - em);
+        plot = area.adjusted(3 * em, top, -key->columnWidth() - 3 * em, -bottom - em);
         geometry.plot = plot;
         geometry.threeD = p.threeD = true;
         p.centre[0] = plot.center().x();
@@ -270,7 +270,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         painter.save();
         // Zoomed in, the box may outgrow its room: it stays clear of the key.
         if (m_view.zoom > 1.0) {
-            field = area.adjusted(0, 0, -key->width(), 0);
+            field = area.adjusted(0, 0, -key->columnWidth(), 0);
             painter.setClipRect(field);
         }
         paintBox3D(painter, p, scene);
@@ -294,9 +294,9 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         }
         key = std::make_unique<PlotKey>(scene, painter.font(), area.bottom() - geometry.plot.top() - em);
         geometry.plot.setLeft(area.left() + widest(y, metrics) + TickRoom + 1.6 * em + 4);
-        geometry.plot.setRight(area.right() - key->width() - em);
+        geometry.plot.setRight(area.right() - key->columnWidth() - em);
         // The last X label may reach past the axes, not past the figure or into the key.
-        const double limit = area.right() - (key->width() > 0 ? key->width() : 2.0);
+        const double limit = area.right() - (key->columnWidth() > 0 ? key->columnWidth() : 2.0);
         AxisTicks::Scale x = scaleFor(scene.axes[0], geometry, 0, metrics);
         for (int round = 0; round < 3 && !x.ticks.empty(); ++round) {
             const double reach =
@@ -312,7 +312,8 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         paintAxes2D(painter, scene, geometry, x, y);
     }
     paintLayers(painter, scene.threeD ? field : plot, p, scene);
-    key->paint(painter, QRectF(area.right() - key->width(), plot.top(), key->width(), area.bottom() - plot.top() - em));
+    key->paint(painter, QRectF(area.right() - key->columnWidth(), plot.top(), key->columnWidth(),
+                               area.bottom() - plot.top() - em));
     paintTitle(painter, area, plot, scene);
     painter.setPen(Qt::darkGray);
     for (int n = 0; n < scene.notes.size(); ++n)
