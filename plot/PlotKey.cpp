@@ -35,9 +35,10 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font, double height) : m_s
             AxisTicks::Options options;
             options.integers = scene.contourIntegers;
             options.spacing = BarSpacing * em;
+            m_barHeight = std::max(4 * em, std::min(height * 0.55, 260.0));
             m_barScale = AxisTicks::fit(
-                scene.contour.min, scene.contour.max, barIn(QRectF(0, 0, 0, height)).height(),
-                [em](const QString&) { return em; }, BarGap * em, options);
+                scene.contour.min, scene.contour.max, barIn(QRectF()).height(), [em](const QString&) { return em; },
+                BarGap * em, options);
             for (const AxisTicks::Tick& tick : m_barScale.ticks)
                 m_width = std::max(m_width, Bar + 5 + textWidth(tick.label));
             m_width = std::max(m_width, textWidth(m_barScale.note));
@@ -57,7 +58,7 @@ PlotKey::PlotKey(const PlotScene& scene, const QFont& font, double height) : m_s
     if (m_zones)
         for (const PlotScene::Zone& zone : scene.zones)
             m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(zone.name));
-    if (scene.anyScatter() && !scene.sizeName.isEmpty())
+    if (sizeRow())
         m_width = std::max(m_width, 2 * Swatch + 6 + textWidth(sizeText()));
     if (m_width > 0)
         m_width += 16;
@@ -83,10 +84,9 @@ void PlotKey::paint(QPainter& painter, const QRectF& column) const
 
 QRectF PlotKey::barIn(const QRectF& column) const
 {
-    const double em = QFontMetricsF(m_font).height();
     // Below the name, with half a line for the top label to reach over the bar's end.
-    const double height = std::max(4 * em, std::min(column.height() * 0.55, 260.0));
-    return QRectF(column.left(), column.top() + em * 1.6, Bar, height - em * 1.6);
+    const double em = QFontMetricsF(m_font).height();
+    return QRectF(column.left(), column.top() + em * 1.6, Bar, m_barHeight - em * 1.6);
 }
 
 // Returns where the next part of the key may start.
@@ -113,17 +113,52 @@ double PlotKey::paintColourBar(QPainter& painter, const QRectF& column) const
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, tick.label);
     }
     // The power of ten or offset on a line of its own, below the lowest label's reach.
-    const double below = bar.bottom() + em / 2 + 2;
     if (!m_barScale.note.isEmpty())
-        painter.drawText(QRectF(column.left(), below, column.width(), em), Qt::AlignLeft | Qt::TextDontClip,
-                         m_barScale.note);
-    return below + em * (m_barScale.note.isEmpty() ? 0.5 : 1.5);
+        painter.drawText(QRectF(column.left(), bar.bottom() + em / 2 + 2, column.width(), em),
+                         Qt::AlignLeft | Qt::TextDontClip, m_barScale.note);
+    return belowBar(column);
+}
+
+double PlotKey::belowBar(const QRectF& column) const
+{
+    const double em = QFontMetricsF(m_font).height();
+    return barIn(column).bottom() + em / 2 + 2 + em * (m_barScale.note.isEmpty() ? 0.5 : 1.5);
+}
+
+double PlotKey::textRow() const
+{
+    return QFontMetricsF(m_font).height() + 3;
+}
+
+double PlotKey::zoneRow() const
+{
+    return std::max(QFontMetricsF(m_font).height(), 2 * Swatch) + 3;
+}
+
+bool PlotKey::sizeRow() const
+{
+    return m_scene.anyScatter() && !m_scene.sizeName.isEmpty();
+}
+
+double PlotKey::stackedHeight() const
+{
+    if (m_width <= 0)
+        return 0.0;
+    double height = 0.0;
+    if (m_colourBar)
+        height += belowBar(QRectF());
+    else if (m_categories)
+        height += textRow() * (double(m_scene.contourCategories.size()) + 1.8);
+    if (m_lines)
+        height += textRow() * (double(m_scene.lineNames.size()) + 0.8);
+    if (m_zones)
+        height += zoneRow() * (double(m_scene.zones.size()) + (sizeRow() ? 1 : 0));
+    return height;
 }
 
 double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
 {
-    const QFontMetricsF metrics(m_font);
-    const double row = metrics.height() + 3;
+    const double row = textRow();
     double y = column.top();
     painter.setPen(Qt::black);
     painter.drawText(QRectF(column.left(), y, column.width(), row), Qt::AlignLeft | Qt::TextDontClip,
@@ -146,8 +181,7 @@ double PlotKey::paintCategories(QPainter& painter, const QRectF& column) const
 // Returns where the next part of the key may start.
 double PlotKey::paintLines(QPainter& painter, const QRectF& column) const
 {
-    const QFontMetricsF metrics(m_font);
-    const double row = metrics.height() + 3;
+    const double row = textRow();
     const PlotScene::Zone& first = m_scene.zones.front();
     const QRgb zoneColour = first.meshColours.fixed();
     double y = column.top();
@@ -163,8 +197,7 @@ double PlotKey::paintLines(QPainter& painter, const QRectF& column) const
 
 void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
 {
-    const QFontMetricsF metrics(m_font);
-    const double row = std::max(metrics.height(), 2 * Swatch) + 3;
+    const double row = zoneRow();
     double y = column.top();
     for (const PlotScene::Zone& zone : m_scene.zones) {
         if (y + row > column.bottom())
@@ -194,7 +227,7 @@ void PlotKey::paintZones(QPainter& painter, const QRectF& column) const
         y += row;
     }
     // Symbols sized by a variable: a small and a large one beside its name.
-    if (!m_scene.anyScatter() || m_scene.sizeName.isEmpty() || y + row > column.bottom())
+    if (!sizeRow() || y + row > column.bottom())
         return;
     const PlotSymbol symbol(m_scene.symbol, m_font);
     symbol.draw(painter, QPointF(column.left() + 4, y + row / 2), 2.5, Qt::gray);

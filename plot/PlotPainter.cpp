@@ -30,6 +30,8 @@ const double XGap = 2.0, YGap = 2.2;
 const double XSpacing = 7.0, YSpacing = 5.0;
 // Between the axes' box and its tick labels, in pixels.
 const double TickRoom = 6.0;
+// The most of a view's width the key may take beside the axes; a wider key goes below them.
+const double KeyShare = 0.25;
 
 QString tr(const char* text)
 {
@@ -239,14 +241,25 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
     const double bottom = (scene.threeD ? em : 2.4 * em + 10) + (scene.anchor / 3 == 2 ? titleHeight : 0.0)
                           + (scene.notes.isEmpty() ? 0.0 : em * scene.notes.size());
 
+    // Where the key would take too much of a narrow view's width, it goes below the axes if
+    // it takes a smaller share of the height there.
+    std::unique_ptr<PlotKey> key = std::make_unique<PlotKey>(scene, painter.font(), 0.0);
+    const double widthShare = key->columnWidth() / area.width();
+    const bool keyBelow = widthShare > KeyShare && key->stackedHeight() / area.height() < widthShare;
+    const double keyHeight = keyBelow ? key->stackedHeight() : 0.0;
+    double keyBeside = 0.0; // the width of the key's column beside the axes, once it is built for it
+    const double axisLabels = scene.threeD ? em : 2.4 * em + 10;
+
     Projection p;
     PlotGeometry geometry;
     QRectF plot;
     QRectF field = area; // where the 3D box and its points may reach
-    std::unique_ptr<PlotKey> key;
     if (scene.threeD) {
-        key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
-        plot = area.adjusted(3 * em, top, -key->columnWidth() - 3 * em, -bottom - em);
+        if (!keyBelow) {
+            key = std::make_unique<PlotKey>(scene, painter.font(), area.height() - top - em);
+            keyBeside = key->columnWidth();
+        }
+        plot = area.adjusted(3 * em, top, -keyBeside - 3 * em, -bottom - em - keyHeight);
         geometry.plot = plot;
         geometry.threeD = p.threeD = true;
         p.centre[0] = plot.center().x();
@@ -270,7 +283,7 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         painter.save();
         // Zoomed in, the box may outgrow its room: it stays clear of the key.
         if (m_view.zoom > 1.0) {
-            field = area.adjusted(0, 0, -key->columnWidth(), 0);
+            field = area.adjusted(0, 0, -keyBeside, -keyHeight);
             painter.setClipRect(field);
         }
         paintBox3D(painter, p, scene);
@@ -286,17 +299,20 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
                 padded(scene.axes[a], geometry.shown.min[a], geometry.shown.max[a]);
         }
         // Y first: its labels' widths decide the left margin, its note a row above the axes.
-        geometry.plot = area.adjusted(0, top, 0, -bottom);
+        geometry.plot = area.adjusted(0, top, 0, -bottom - keyHeight);
         AxisTicks::Scale y = scaleFor(scene.axes[1], geometry, 1, metrics);
         if (!y.note.isEmpty()) {
             geometry.plot.setTop(area.top() + top + 1.5 * em + 4);
             y = scaleFor(scene.axes[1], geometry, 1, metrics);
         }
-        key = std::make_unique<PlotKey>(scene, painter.font(), area.bottom() - geometry.plot.top() - em);
+        if (!keyBelow) {
+            key = std::make_unique<PlotKey>(scene, painter.font(), area.bottom() - geometry.plot.top() - em);
+            keyBeside = key->columnWidth();
+        }
         geometry.plot.setLeft(area.left() + widest(y, metrics) + TickRoom + 1.6 * em + 4);
-        geometry.plot.setRight(area.right() - key->columnWidth() - em);
+        geometry.plot.setRight(area.right() - keyBeside - em);
         // The last X label may reach past the axes, not past the figure or into the key.
-        const double limit = area.right() - (key->columnWidth() > 0 ? key->columnWidth() : 2.0);
+        const double limit = area.right() - (keyBeside > 0 ? keyBeside : 2.0);
         AxisTicks::Scale x = scaleFor(scene.axes[0], geometry, 0, metrics);
         for (int round = 0; round < 3 && !x.ticks.empty(); ++round) {
             const double reach =
@@ -312,8 +328,10 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
         paintAxes2D(painter, scene, geometry, x, y);
     }
     paintLayers(painter, scene.threeD ? field : plot, p, scene);
-    key->paint(painter, QRectF(area.right() - key->columnWidth(), plot.top(), key->columnWidth(),
-                               area.bottom() - plot.top() - em));
+    if (keyBelow)
+        key->paint(painter, QRectF(plot.left() - 8, plot.bottom() + axisLabels, key->columnWidth(), keyHeight));
+    else
+        key->paint(painter, QRectF(area.right() - keyBeside, plot.top(), keyBeside, area.bottom() - plot.top() - em));
     paintTitle(painter, area, plot, scene);
     painter.setPen(Qt::darkGray);
     for (int n = 0; n < scene.notes.size(); ++n)

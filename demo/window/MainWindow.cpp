@@ -189,7 +189,7 @@ MainWindow::MainWindow()
     WindowLayout::fitToScreen(*this, QSize(1180, 760));
     // The plot keeps most of a small screen.
     resizeDocks({stateDock}, {std::min(400, width() / 3)}, Qt::Horizontal);
-    resizeDocks({answersDock}, {120}, Qt::Vertical);
+    resizeDocks({answersDock}, {std::min(120, height() / 6)}, Qt::Vertical);
 }
 
 MainWindow::~MainWindow() = default;

@@ -143,6 +143,38 @@ TEST(PlotRender, TheKeyShowsAZoneColouredByRedGreenAndBlueInAllThreeNotInOneColo
     EXPECT_TRUE(seen[0] && seen[1] && seen[2]) << seen[0] << seen[1] << seen[2];
 }
 
+TEST(PlotRender, AKeyTooWideForANarrowViewGoesBelowTheAxesWhereItTakesLessOfTheView)
+{
+    Figure figure;
+    figure.x = {0.0, 1.0};
+    figure.y = {0.0, 1.0};
+    PlotScene& scene = figure.scene;
+    figure.make(0, 1, 0, 1);
+    for (const char* name : {"Inlet channel", "Outlet channel"}) {
+        PlotScene::Zone zone = scene.zones[0];
+        zone.name = name;
+        zone.faded = true; // the first zone is picked out: the key lists them all
+        scene.zones.push_back(zone);
+    }
+    const auto layout = [&](QSizeF size) {
+        RecordingDevice device(size.toSize());
+        QPainter painter(&device);
+        const PlotGeometry geometry = render(scene, PlotViewpoint(), painter, QRectF(QPointF(), size));
+        painter.end();
+        const Drawn drawn = device.record();
+        const Drawn::Text* name = drawn.textStarting("Outlet channel");
+        EXPECT_TRUE(name) << size.width() << "x" << size.height();
+        return std::make_pair(geometry.plot, name ? name->at : QPointF());
+    };
+    const auto [wide, besideAt] = layout(QSizeF(800, 600));
+    EXPECT_GT(besideAt.x(), wide.right()) << "beside the axes";
+    const auto [tall, belowAt] = layout(QSizeF(300, 600));
+    EXPECT_GT(belowAt.y(), tall.bottom()) << "below the axes";
+    EXPECT_GT(tall.width(), 0.7 * 300) << "the axes keep the width";
+    const auto [flat, flatAt] = layout(QSizeF(300, 150));
+    EXPECT_GT(flatAt.x(), flat.right()) << "a short view keeps its height for the axes";
+}
+
 // Points at 1.5 to 3 on a log X axis and at their logarithms on a linear one:
 // the general path and the direct one put each on the same pixel, however
 // coloured, and red, green and blue keep every shade a point has.
