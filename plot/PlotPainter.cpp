@@ -30,7 +30,7 @@ const double XGap = 2.0, YGap = 2.2;
 const double XSpacing = 7.0, YSpacing = 5.0;
 // Between the axes' box and its tick labels, in pixels.
 const double TickRoom = 6.0;
-// The most of a view's width the key may take beside the axes; a wider key goes below them.
+// The most of a view's width the key may take beside the axes, and of its height below them.
 const double KeyShare = 0.25;
 
 QString tr(const char* text)
@@ -242,10 +242,10 @@ PlotGeometry PlotPainter::paintField(QPainter& painter, const QRectF& area, cons
                           + (scene.notes.isEmpty() ? 0.0 : em * scene.notes.size());
 
     // Where the key would take too much of a narrow view's width, it goes below the axes if
-    // it takes a smaller share of the height there.
+    // it takes little of the height there.
     std::unique_ptr<PlotKey> key = std::make_unique<PlotKey>(scene, painter.font(), 0.0);
-    const double widthShare = key->columnWidth() / area.width();
-    const bool keyBelow = widthShare > KeyShare && key->stackedHeight() / area.height() < widthShare;
+    const bool keyBelow =
+        key->columnWidth() > KeyShare * area.width() && key->stackedHeight() < KeyShare * area.height();
     const double keyHeight = keyBelow ? key->stackedHeight() : 0.0;
     double keyBeside = 0.0; // the width of the key's column beside the axes, once it is built for it
     const double axisLabels = scene.threeD ? em : 2.4 * em + 10;
