@@ -114,7 +114,7 @@ TEST(PlotRender, ALogAxisTicksPowersOfTenAndTheColourBarAndKeyNameWhatIsDrawn)
     EXPECT_FALSE(linear.drewText("100")) << "a linear axis of 1 to 10000 ticks in thousands";
 }
 
-TEST(PlotRender, TheKeyShowsAZoneColouredByRedGreenAndBlueInAllThreeNotInOneColourOfTheMap)
+TEST(PlotRender, TheKeyShowsAnRGBZoneInAllThreeColoursAndGoesBelowTheAxesOfATallNarrowView)
 {
     Figure figure;
     figure.x = {0.0, 1.0};
@@ -124,11 +124,16 @@ TEST(PlotRender, TheKeyShowsAZoneColouredByRedGreenAndBlueInAllThreeNotInOneColo
     PointColours::Channels channels;
     channels.values[0] = figure.x.data();
     scene.zones[0].meshColours = PointColours::rgb(qRgb(0, 0, 0), channels);
-    PlotScene::Zone other = scene.zones[0];
-    other.name = "Other";
-    other.meshColours = PointColours(qRgb(0, 0, 0));
-    scene.zones.push_back(other); // told apart by colour: the key lists the zones
-    QImage image(400, 300, QImage::Format_RGB32);
+    for (const char* name : {"Inlet channel", "Outlet channel"}) {
+        PlotScene::Zone zone = scene.zones[0];
+        zone.name = name;
+        zone.meshColours = PointColours(qRgb(0, 0, 0));
+        zone.faded = true; // the first zone is picked out: the key lists them all
+        scene.zones.push_back(zone);
+    }
+
+    // Red, green and blue from variables: the key's swatch shows all three, not one colour of a map.
+    QImage image(600, 300, QImage::Format_RGB32);
     QPainter painter(&image);
     const PlotGeometry geometry = render(scene, PlotViewpoint(), painter, QRectF(image.rect()));
     painter.end();
@@ -141,21 +146,7 @@ TEST(PlotRender, TheKeyShowsAZoneColouredByRedGreenAndBlueInAllThreeNotInOneColo
             seen[2] |= c.blue() > 200 && c.red() < 80 && c.green() < 80;
         }
     EXPECT_TRUE(seen[0] && seen[1] && seen[2]) << seen[0] << seen[1] << seen[2];
-}
 
-TEST(PlotRender, AKeyTooWideForANarrowViewGoesBelowTheAxesWhereItTakesLessOfTheView)
-{
-    Figure figure;
-    figure.x = {0.0, 1.0};
-    figure.y = {0.0, 1.0};
-    PlotScene& scene = figure.scene;
-    figure.make(0, 1, 0, 1);
-    for (const char* name : {"Inlet channel", "Outlet channel"}) {
-        PlotScene::Zone zone = scene.zones[0];
-        zone.name = name;
-        zone.faded = true; // the first zone is picked out: the key lists them all
-        scene.zones.push_back(zone);
-    }
     const auto layout = [&](QSizeF size) {
         RecordingDevice device(size.toSize());
         QPainter painter(&device);
