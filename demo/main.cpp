@@ -86,9 +86,13 @@ int main(int argc, char** argv)
     const bool windowless = headless && !options.touring();
     std::unique_ptr<MainWindow> window = windowless ? nullptr : std::make_unique<MainWindow>();
     ConsoleMessages console;
-    QWidget dialogParent;
-    Session ownSession(console, dialogParent);
-    Session& session = window ? window->session() : ownSession;
+    std::unique_ptr<QWidget> dialogParent; // of the loader chooser, in a run without a window
+    std::unique_ptr<Session> ownSession;
+    if (windowless) {
+        dialogParent = std::make_unique<QWidget>();
+        ownSession = std::make_unique<Session>(console, *dialogParent);
+    }
+    Session& session = window ? window->session() : *ownSession;
     Messages& messages = window ? static_cast<Messages&>(*window) : console;
     if (windowless)
         orrery::kernel::Kernel::instance().messageBoxes().setHandler([](const std::string& text, int) {
